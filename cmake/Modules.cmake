@@ -1,0 +1,28 @@
+# One library per folder of src/, one test program per folder of tests/.
+
+add_library(blunko_warnings INTERFACE)
+target_compile_options(blunko_warnings INTERFACE -Wall -Wextra -Werror)
+if(TBK_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# add_module(folder libraries...): the library blunko_<folder>, made of src/<folder>.
+function(add_module folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/*.h)
+  add_library(blunko_${folder} STATIC ${sources})
+  target_include_directories(blunko_${folder} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(blunko_${folder} PUBLIC ${ARGN} PRIVATE blunko_warnings)
+endfunction()
+
+# add_module_tests(folder libraries...): the test program <folder>_tests, made of tests/<folder>.
+function(add_module_tests folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${folder}/*.cpp
+       ${PROJECT_SOURCE_DIR}/tests/${folder}/*.h)
+  add_executable(${folder}_tests ${sources})
+  target_include_directories(${folder}_tests PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(${folder}_tests PRIVATE blunko_${folder} blunko_warnings GTest::gmock ${ARGN})
+  add_test(NAME ${folder} COMMAND ${folder}_tests)
+  set_tests_properties(${folder} PROPERTIES TIMEOUT 600
+                       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=qt.qpa.*=false;SDL_AUDIODRIVER=dummy")
+endfunction()

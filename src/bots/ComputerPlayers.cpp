@@ -1,0 +1,98 @@
+#include "bots/ComputerPlayers.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "engine/ScoreDice.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr int PauseAfterRoll = 1000;  // ms, at the speed Normal
+
+}  // namespace
+
+void ComputerPlayers::RunComputerTurn() {
+  SeatIsDue = true;
+  if (Running) return;
+  Running = true;
+  while (std::exchange(SeatIsDue, false) && !m.Quitting) {
+    const bool GameGoesOn = m.CurrentPlayer != Absent && t.cmdRoll.Visible;  // not ended or given up since the call
+    if (GameGoesOn && m.PlayerIsComputer[m.CurrentPlayer]) PlayStyle(m.PlayerStyle[m.CurrentPlayer]);
+  }
+  Running = false;
+}
+
+void ComputerPlayers::PlayStyle(int PlayerStyle) {
+  switch (PlayerStyle) {
+    case Normal: return Bot_Normal();
+    case Cautious: return Bot_Cautious();
+    case Fearless: return Bot_Fearless();
+    case Simple: return Bot_Simple();
+    case Random:
+      switch (static_cast<int>(uniform.Next() * 3) + 1) {
+        case 1: return Bot_Normal();
+        case 2: return Bot_Cautious();
+        default: return Bot_Fearless();
+      }
+    case Genius: return Bot_Genius();
+    case Moron: return Bot_Moron();
+    default: return;
+  }
+}
+
+void ComputerPlayers::CountDiceLeft(std::uint8_t& Count) const {
+  Count = 0;
+  for (int i = 0; i < Dice; ++i) Count += m.DieScoreCode[i] != NoDie && !m.BotTake[i];
+}
+
+bool ComputerPlayers::BotRoll() {
+  if (!PumpAndGoOn()) return false;
+  m.BotTake.fill(false);
+  return Roll();
+}
+
+bool ComputerPlayers::BotPass() { return PumpAndGoOn() && Pass(); }
+
+bool ComputerPlayers::Roll() {
+  if (!MayGoOn()) return false;
+  game.cmdRoll_Click();
+  if (Settings.ComputerSpeed() == SpeedNormal) desktop.Sleep(PauseAfterRoll);
+  return true;
+}
+
+bool ComputerPlayers::Pass() {
+  if (!MayGoOn()) return false;
+  m.TurnOver = true;
+  game.cmdPassDice_Click();
+  return true;
+}
+
+bool ComputerPlayers::ClickDie(int Position) {
+  if (!MayGoOn()) return false;
+  game.Picture1_MouseUp(static_cast<std::int16_t>(Position), LeftButton, 0, 100.0F, 100.0F);
+  PauseAfterClick();
+  return true;
+}
+
+void ComputerPlayers::MarkAndClick(int Position) {
+  m.BotTake[Position] = true;
+  ClickDie(Position);
+}
+
+void ComputerPlayers::PauseAfterClick() {
+  const int Speed = Settings.ComputerSpeed();
+  if (Speed < SpeedRidiculous) desktop.Sleep(Speed == SpeedNormal ? 200 : 100);
+}
+
+void ComputerPlayers::FindLeader() {
+  m.LeaderScore = *std::max_element(m.PlayerScore.begin(), m.PlayerScore.begin() + m.NumPlayers);
+}
+
+bool ComputerPlayers::PumpAndGoOn() {
+  desktop.PumpEvents();
+  return MayGoOn();
+}
+
+}  // namespace blunko

@@ -1,0 +1,126 @@
+#include <algorithm>
+#include <string>
+
+#include "bots/ComputerPlayers.h"
+#include "engine/ScoreDice.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr TableStyle CautiousStyle{5, {0, 250, 300, 350, 500, 700}, false};
+constexpr TableStyle NormalStyle{4, {0, 350, 400, 450, 600, 900}};
+constexpr TableStyle FearlessStyle{3, {0, 400, 450, 500, 1100, 1500}};
+
+/// From this turn score on a seat with nothing banked takes all it can. It doesn't follow the break-in score.
+constexpr int BreakInHunger = 500;
+
+constexpr std::string_view ThreeTwos = "b";
+
+bool IsCombination(std::string_view Code) { return IsScorer(Code) && Code != "1" && Code != "5"; }
+
+}  // namespace
+
+void ComputerPlayers::Bot_Cautious() { PlayTableStyle(CautiousStyle); }
+void ComputerPlayers::Bot_Normal() { PlayTableStyle(NormalStyle); }
+void ComputerPlayers::Bot_Fearless() { PlayTableStyle(FearlessStyle); }
+
+void ComputerPlayers::PlayTableStyle(const TableStyle& Style) {
+  PlayTurn(Style.WaitsWhilePaused, [this, &Style] { return ActAtTable(Style); });
+}
+
+bool ComputerPlayers::ActAtTable(const TableStyle& Style) {
+  const std::string_view Actions = m.ActionSet;
+  if (Actions == "r") return BotRoll();
+  if (Actions == "p") return BotPass();
+  if (Actions == "s" || Actions == "sp") return TakeDice(Style.TakeAllBelow);
+  if (Actions == "rs" || Actions == "rsp") {
+    CountDiceLeft(m.NumDiceUp);
+    const bool Hungry = m.PlayerScore[m.CurrentPlayer] == 0 && m.TurnScore >= BreakInHunger;
+    if (Hungry || m.NumDiceUp < Style.TakeAllBelow) return TakeDice(Style.TakeAllBelow);
+    return BotRoll();
+  }
+  if (Actions == "rp") return DecideToPass(Style);
+  return true;
+}
+
+/// No scorer is up and the seat may bank: pass or roll on.
+bool ComputerPlayers::DecideToPass(const TableStyle& Style) {
+  if (m.OutPlayer != Absent) {
+    FindLeader();
+    const int OwnTotal = m.PlayerScore[m.CurrentPlayer] + m.TurnScore;
+    return m.LeaderScore < OwnTotal ? BotPass() : BotRoll();
+  }
+  if (m.PlayerScore[m.CurrentPlayer] == 0) return BotPass();
+  CountDiceLeft(m.NumDiceUp);
+  if (m.NumDiceUp < 1 || m.NumDiceUp > 5) {
+    desktop.MessageBox("NumDiceUp = " + std::to_string(m.NumDiceUp) +
+                       "\nError 529 - Bot Click - Please contact Tollmoor Games.");
+    game.Form_Unload();
+    return true;
+  }
+  return m.TurnScore >= Style.StopAt[m.NumDiceUp] ? BotPass() : BotRoll();
+}
+
+/// Takes one die, or one batch of dice: everything when every die scores, when few dice are left or when there is a
+/// combination; else a single one, else a single five, and three twos last.
+bool ComputerPlayers::TakeDice(int TakeAllBelow) {
+  if (!PumpAndGoOn()) return false;
+  CountDiceLeft(m.NumDiceUp);
+  bool AllScore = true;
+  bool Combination = false;
+  bool One = false;
+  bool Five = false;
+  for (int i = 0; i < Dice; ++i) {
+    if (m.BotTake[i]) continue;
+    const std::string_view Code = m.DieScoreCode[i];
+    AllScore = AllScore && Code != NoScore;
+    Combination = Combination || (IsCombination(Code) && Code != ThreeTwos);
+    One = One || Code == "1";
+    Five = Five || Code == "5";
+  }
+  if (AllScore) {
+    TakeAll(false);
+    return true;
+  }
+  if (!PumpAndGoOn()) return false;
+  if (m.NumDiceUp < TakeAllBelow) {
+    TakeAll(false);
+    return true;
+  }
+  if (!PumpAndGoOn()) return false;
+  if (Combination) {
+    TakeAll(true);
+    return true;
+  }
+  if (!PumpAndGoOn()) return false;
+  if (One) return TakeFirst("1");
+  if (!PumpAndGoOn()) return false;
+  if (Five) return TakeFirst("5");
+  if (!PumpAndGoOn()) return false;
+  if (TakeFirst(ThreeTwos)) return true;
+
+  desktop.MessageBox("Msg 519 -- Please contact Tollmoor Games Tech Support.");
+  m.Quitting = true;
+  game.program.Abort();
+  return false;
+}
+
+void ComputerPlayers::TakeAll(bool ClickEmptyToo) {
+  for (int i = 0; i < Dice; ++i) {
+    const std::string_view Code = m.DieScoreCode[i];
+    if (Code != NoScore && !m.BotTake[i] && (ClickEmptyToo || Code != NoDie)) MarkAndClick(i);
+  }
+}
+
+bool ComputerPlayers::TakeFirst(std::string_view Code) {
+  for (int i = 0; i < Dice; ++i) {
+    if (m.DieScoreCode[i] == Code && !m.BotTake[i]) {
+      MarkAndClick(i);
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace blunko

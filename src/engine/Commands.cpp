@@ -1,0 +1,92 @@
+#include "engine/Game.h"
+
+namespace blunko {
+
+namespace {
+
+/// Virtual key codes of the commands.
+enum Key : std::int16_t {
+  Backspace = 8,
+  Escape = 27,
+  Digit1 = 49,
+  Digit6 = 54,
+  LetterP = 80,
+  LetterR = 82,
+  NumPad0 = 96,
+  NumPad1 = 97,
+  NumPad6 = 102,
+  NumPadDecimal = 110,
+  F2 = 113,
+};
+
+}  // namespace
+
+/// A person's hands are off the dice while a computer plays, and on a table that is closed or given up.
+bool Game::PersonMayPlay() const {
+  return m.CurrentPlayer != Absent && !IsComputerTurn() && !m.Quitting && t.cmdRoll.Visible && t.picGameTray.Enabled &&
+         t.picTray1.Enabled;
+}
+
+void Game::PersonClicksDie(std::int16_t Index, std::int16_t Button) {
+  if (PersonMayPlay()) Picture1_MouseUp(Index, Button, 0, 100.0F, 100.0F);
+}
+
+void Game::PersonRolls() {
+  if (PersonMayPlay() && t.CanPress(t.cmdRoll)) cmdRoll_Click();
+}
+
+void Game::PersonPasses() {
+  if (PersonMayPlay() && t.CanPress(t.cmdPassDice)) cmdPassDice_Click();
+}
+
+void Game::Form_KeyUp(std::int16_t KeyCode, std::int16_t Shift) {
+  const auto ClickFace = [this](int Face) {
+    for (std::int16_t i = 0; i < Dice; ++i) {
+      if (m.DieUp[i] && m.DieFace[i] == Face) {
+        PersonClicksDie(i, LeftButton);
+        return;
+      }
+    }
+  };
+  if (KeyCode >= Digit1 && KeyCode <= Digit6) {
+    ClickFace(KeyCode - Digit1 + 1);
+    return;
+  }
+  if (KeyCode >= NumPad1 && KeyCode <= NumPad6) {
+    ClickFace(KeyCode - NumPad1 + 1);
+    return;
+  }
+  switch (KeyCode) {
+    case Escape:
+      if (m.Quitting) break;
+      program.UnloadOtherForms();
+      Form_Unload();
+      break;
+    case F2:
+      if (!t.picGameTray.Enabled) break;  // the options panel is open, and the menus with it out of reach
+      if (Shift == ShiftAlone) m.FormMessage = "RestartGame";
+      mnuNewGame_Click();
+      break;
+    case LetterR:
+    case NumPad0: PersonRolls(); break;
+    case LetterP:
+    case NumPadDecimal: PersonPasses(); break;
+    case Backspace:
+      for (std::int16_t Index = 10; Index <= 15; ++Index) PersonClicksDie(Index, LeftButton);
+      break;
+    default: break;
+  }
+}
+
+bool Game::Form_Unload() {
+  if (m.Quitting) return true;
+  if (m.CurrentPlayer != Absent) {
+    desktop.Beep();
+    if (!desktop.AskYesNo("Are you sure you want to quit the current game?", "Quit?")) return false;
+  }
+  m.Quitting = true;
+  program.ExitProgram();
+  return true;
+}
+
+}  // namespace blunko

@@ -1,0 +1,74 @@
+#include <algorithm>
+#include <sstream>
+
+#include "engine/Game.h"
+#include "engine/ScoreDice.h"
+
+namespace blunko {
+
+std::string Game::Fault() const {
+  std::ostringstream Wrong;
+  const auto Demand = [&Wrong](bool Holds, const char* Rule) {
+    if (!Holds) Wrong << Rule << "; ";
+  };
+
+  // The three looks of the table.
+  Demand(t.cmdRoll.Visible == t.cmdPassDice.Visible, "Roll and Pass are visible together");
+  Demand(t.cmdRoll.Visible != t.ARCmdNewGame.Visible, "either the game buttons or New Game is visible");
+  Demand(t.lblStatus.Top == (t.lblLastRoll.Visible ? StatusTop - StatusRise : StatusTop),
+         "the status line gives way to the last-roll line and only then");
+  const bool Running = m.CurrentPlayer != Absent && t.cmdRoll.Visible;
+  Demand(m.CurrentPlayer == Absent || m.CurrentPlayer < m.NumPlayers, "the seat on turn is one of the game's");
+  Demand(m.OutPlayer == Absent || m.OutPlayer < m.NumPlayers, "the seat that is out is one of the game's");
+
+  // What lies where.
+  int Up = 0, InTray = 0, TrayMarks = 0;
+  bool Gap = false;
+  for (int i = 0; i < Dice; ++i) {
+    Up += m.DieUp[i];
+    InTray += t.Picture1(10 + i) != 0;
+    TrayMarks += m.TrayUsed[i];
+    Demand((t.Picture1(i) != 0) == (m.ShownFace[i] != 0), "a table picture is the face that is noted as shown");
+    Demand((t.Picture1(10 + i) != 0) == (m.TrayFace[i] != 0), "a tray picture is the face that is noted in the tray");
+    Demand(m.TrayFace[i] >= 0 && m.TrayFace[i] <= 6, "a face in the tray is 1 to 6");
+    if (t.Picture1(10 + i) == 0) Gap = true;
+    Demand(!(Gap && t.Picture1(10 + i) != 0), "the tray has no gap");
+    if (Running) {
+      Demand(m.ShownFace[i] == (m.DieUp[i] ? m.DieFace[i] : 0), "exactly the dice that are up are shown");
+      Demand(!m.DieUp[i] || (m.DieFace[i] >= 1 && m.DieFace[i] <= 6), "a die that is up has a face");
+    } else {
+      Demand(t.Picture1(i) == 0 && t.Picture1(10 + i) == 0, "a table without a game is empty");
+    }
+    Demand(!t.picMarker[i] || (m.DieUp[i] && IsScorer(m.DieScoreCode[i])), "a mark stands over a scorer that is up");
+  }
+  Demand(m.TurnScore >= 0 && (m.TurnScore % 50 == 0 || m.TurnScore == INT16_MAX), "a turn scores in steps of 50");
+  for (const int Score : m.PlayerScore) {
+    Demand(Score >= 0 && (Score % 50 == 0 || Score == INT16_MAX), "a seat scores in steps of 50");
+  }
+  if (!Running) return Wrong.str();
+
+  Demand(InTray == (TrayMarks == 5 && InTray == 6 ? 6 : TrayMarks), "the tray's marks are its dice");
+  Demand(Up + InTray == Dice || Up + InTray == 0, "six dice lie on table and tray, or none before the first roll");
+  Demand(t.lblLastRoll.Visible == (m.OutPlayer != Absent), "the last-roll line shows when somebody is out");
+  Demand(t.lblPlayer.Caption == m.PlayerName[m.CurrentPlayer], "the table names the seat on turn");
+
+  const bool CanRoll = t.cmdRoll.Enabled, CanPass = t.cmdPassDice.Enabled;
+  if (IsComputerTurn()) {
+    Demand(!CanRoll && !CanPass, "a person can neither roll nor pass for a computer");
+    return Wrong.str();
+  }
+  const bool FirstRoll = Up + InTray == 0;
+  if (FirstRoll) {
+    Demand(!CanPass, "nobody passes before the first roll");
+  } else {
+    Demand(CanRoll == (m.ActionSet.find('r') != m.ActionSet.npos), "Roll is enabled exactly when the action set has r");
+    Demand(CanPass == (m.ActionSet.find('p') != m.ActionSet.npos), "Pass is enabled exactly when the action set has p");
+    Demand(t.lblTurnScore.Caption == std::to_string(m.TurnScore), "the table shows the turn's score");
+    const bool BrokenIn = m.PlayerScore[m.CurrentPlayer] >= m.BreakInScore || m.TurnScore >= m.BreakInScore;
+    Demand(!CanPass || BrokenIn, "only a seat that has broken in can bank");
+    Demand(CanRoll || CanPass || Up > 0, "there is always a move");
+  }
+  return Wrong.str();
+}
+
+}  // namespace blunko

@@ -1,0 +1,97 @@
+#include <algorithm>
+
+#include "engine/Game.h"
+#include "engine/ScoreDice.h"
+
+namespace blunko {
+
+void Game::ClearAtStart() {
+  m.DieScoreCode.fill(NoScore);
+  m.DieUp.fill(false);
+  m.TrayUsed.fill(false);
+  m.TurnScore = 0;
+  m.OutPlayer = Absent;
+  m.ScorePadShown = false;
+  m.CurrentPlayer = Absent;
+}
+
+void Game::FreshGame(const GameSetup& Setup) {
+  const auto Game = ++m.GameNumber;
+  t.ARCmdNewGame.Visible = false;
+  t.cmdRoll.Visible = t.cmdPassDice.Visible = true;
+  t.picTray1.Enabled = t.picTray2.Enabled = true;
+  m.CurrentPlayer = 0;
+  for (int i = 0; i < MaxSeats; ++i) {
+    const GameSetup::Seat& Seat = Setup.Seats[i];
+    m.PlayerName[i] = Seat.Name;
+    m.PlayerIsComputer[i] = Seat.IsComputer;
+    m.PlayerScore[i] = 0;
+    const auto Word = std::find(StyleWords.begin(), StyleWords.end(), Seat.StyleWord);
+    if (Word != StyleWords.end()) m.PlayerStyle[i] = static_cast<std::uint8_t>(Word - StyleWords.begin() + 1);
+  }
+  t.lblPlayer.Caption = m.PlayerName[0];
+  m.DieScoreCode.fill(NoScore);
+  m.NumPlayers = std::max<std::uint8_t>(Setup.NumPlayers, 2);
+  SetStatus("Roll the dice.");
+  m.ActionSet = "r";
+  t.cmdRoll.Enabled = !m.PlayerIsComputer[0];
+  m.TurnScore = 0;
+  t.lblTurnScore.Caption = '0';
+  desktop.Refresh();
+  t.cmdPassDice.Enabled = false;
+  m.PlayToScore = Setup.PlayToScore;
+  m.BreakInScore = Setup.BreakInScore;
+  HideMarkers();
+  t.pctDivider.Visible = false;
+  ClearDice();
+  m.OutPlayer = Absent;
+  t.HideLastRoll();
+  m.GameOver = false;
+  program.ShowScorePad();
+  m.ScorePadShown = true;
+  m.TurnOver = true;  // ends the loop of a computer turn of the game before
+  desktop.PumpEvents();
+  if (m.Quitting || m.GameNumber != Game) return;
+  program.FocusTable();
+  if (IsComputerTurn()) program.RunComputerTurn();
+}
+
+void Game::ARCmdNewGame_Click() {
+  const auto Played = m.GameNumber;
+  desktop.PumpEvents();
+  if (!m.Quitting && m.GameNumber == Played) program.ShowNewGame();
+}
+
+void Game::mnuNewGame_Click() {
+  const auto Played = m.GameNumber;
+  desktop.PumpEvents();
+  if (m.Quitting || m.GameNumber != Played) return;  // a command that came in here has begun another game
+  if (m.CurrentPlayer != Absent) {
+    desktop.Beep();
+    if (m.FormMessage != "RestartGame" &&
+        !desktop.AskYesNo("Are you sure you want to quit the current game?", "Quit?")) {
+      return;
+    }
+    GiveUpGame();
+  }
+  program.ShowNewGame();
+}
+
+/// The table takes the look of no game. The turn that a computer may have been playing is over for good.
+void Game::GiveUpGame() {
+  ++m.GameNumber;
+  m.TurnOver = true;
+  t.cmdRoll.Visible = t.cmdPassDice.Visible = false;
+  t.ARCmdNewGame.Visible = true;
+  t.lblStatus.Caption.clear();
+  t.lblPlayer.Caption.clear();
+  t.lblTurnScore.Caption.clear();
+  t.pctDivider.Visible = false;
+  HideMarkers();
+  for (int i = 0; i < Dice; ++i) t.Picture1(i) = t.Picture1(10 + i) = 0;
+  m.ShownFace.fill(0);
+  m.TrayFace.fill(0);
+  t.picTray1.Enabled = t.picTray2.Enabled = false;
+}
+
+}  // namespace blunko

@@ -1,0 +1,118 @@
+#include <algorithm>
+#include <string>
+
+#include "engine/Game.h"
+#include "engine/ScoreDice.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr int PauseAfterPass = 1000;           // ms
+constexpr int PauseBeforeComputerTurn = 1000;  // ms
+constexpr int BlinkTime = 200;                 // ms
+constexpr int SmallestStep = 50;               // points: what puts a seat strictly ahead
+
+}  // namespace
+
+void Game::cmdPassDice_Click() {
+  const auto Played = m.GameNumber;
+  m.ActionSet = "r";
+  t.pctDivider.Visible = false;
+  if (Settings.MarkScorers()) HideMarkers();
+  t.cmdRoll.Enabled = false;
+  t.cmdPassDice.Enabled = false;
+
+  desktop.PlaySoundFile(Settings.GetSound(m.RollIsBust ? "Passem2" : "Passem1"), false);
+  if (Settings.ComputerSpeed() < SpeedRidiculous) desktop.Sleep(PauseAfterPass);
+  if (!m.RollIsBust) {
+    std::int16_t& Score = m.PlayerScore[m.CurrentPlayer];
+    Score = AddScore(Score, m.TurnScore);
+    program.UpdateActivePlayer();
+    if (!IsComputerTurn()) program.CheckHighTurn(m.PlayerName[m.CurrentPlayer], m.TurnScore);
+    if (m.OutPlayer == Absent && Score >= m.PlayToScore) GoOut();
+  }
+
+  ClearDice();
+  m.CurrentPlayer = static_cast<std::uint8_t>((m.CurrentPlayer + 1) % m.NumPlayers);
+  program.UpdateActivePlayer();
+  m.TurnScore = 0;
+  t.lblTurnScore.Caption = '0';
+  desktop.Refresh();
+  t.lblPlayer.Caption = m.PlayerName[m.CurrentPlayer];
+
+  if (m.CurrentPlayer == m.OutPlayer) {
+    EndGame();
+    return;
+  }
+
+  std::string Caption =
+      "(Last Roll - Need " + std::to_string(PointsNeeded()) + (m.NumPlayers == 2 ? " To Win)" : " To Take The Lead)");
+  if (!IsComputerTurn() && t.lblLastRoll.Visible) {
+    FlashLastRoll(Caption);
+    if (m.Quitting || m.GameNumber != Played) return;
+  }
+  t.lblLastRoll.Caption = std::move(Caption);
+  // Only now: a roll during the flash would be overwritten by what follows.
+  t.cmdRoll.Enabled = !IsComputerTurn();
+  SetStatus("Roll the dice.");
+
+  if (IsComputerTurn()) {
+    if (Settings.ComputerSpeed() == SpeedNormal) desktop.Sleep(PauseBeforeComputerTurn);
+    if (!m.GameOver) program.RunComputerTurn();
+  }
+}
+
+void Game::GoOut() {
+  desktop.PlaySoundFile(m.TempFolder + "overtop.wav", false);
+  m.OutPlayer = m.CurrentPlayer;
+  if (SomebodyIsAPerson()) {
+    desktop.MessageBox(m.PlayerName[m.CurrentPlayer] +
+                       " has gone out.  Everybody else gets one more roll to try and beat " +
+                       std::to_string(m.PlayerScore[m.CurrentPlayer]) + " points.");
+  }
+  t.ShowLastRoll();
+  desktop.Refresh();
+}
+
+std::int16_t Game::PointsNeeded() const {
+  int Target = m.PlayToScore;
+  for (int i = 0; i < m.NumPlayers; ++i) {
+    if (i != m.CurrentPlayer) Target = std::max<int>(Target, m.PlayerScore[i]);
+  }
+  return AddScore(static_cast<std::int16_t>(Target - (m.PlayerScore[m.CurrentPlayer] + m.TurnScore)), SmallestStep);
+}
+
+/// Blinks the last-roll line three times for the person whose last turn it is. Events come in meanwhile.
+void Game::FlashLastRoll(const std::string& Caption) {
+  const auto Played = m.GameNumber;
+  const auto Show = [&](std::string_view Text) {
+    t.lblLastRoll.Caption = Text;
+    desktop.PumpEvents();
+    return !m.Quitting && m.GameNumber == Played;
+  };
+  t.lblStatus.Caption.clear();
+  for (int Blink = 1;; ++Blink) {
+    if (!Settings.SoundDisabled()) desktop.Beep();
+    if (!Show(Caption) || Blink == 3) return;
+    desktop.Sleep(BlinkTime);
+    if (!Show("")) return;
+    desktop.Sleep(BlinkTime);
+  }
+}
+
+void Game::ClearDice() {
+  m.DieUp.fill(false);
+  m.TrayUsed.fill(false);
+  m.DieScoreCode.fill(NoScore);
+  m.ShownFace.fill(0);
+  m.TrayFace.fill(0);
+  for (int i = 0; i < Dice; ++i) t.Picture1(i) = t.Picture1(10 + i) = 0;
+}
+
+bool Game::SomebodyIsAPerson() const {
+  return std::any_of(m.PlayerIsComputer.begin(), m.PlayerIsComputer.begin() + m.NumPlayers,
+                     [](bool Computer) { return !Computer; });
+}
+
+}  // namespace blunko

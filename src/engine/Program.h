@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace blunko {
+
+/// What the rules ask of the rest of the program.
+class Program {
+ public:
+  virtual ~Program() = default;
+
+  /// The score pad brings its scores and the marked seat up to date.
+  virtual void UpdateActivePlayer() = 0;
+  /// The score pad takes its place beside the table and shows the new game; it isn't modal.
+  virtual void ShowScorePad() = 0;
+  /// The table's window takes the focus.
+  virtual void FocusTable() = 0;
+  /// A person's banked turn, and a person's margin of victory, are offered to the high rollers lists. Modal.
+  virtual void CheckHighTurn(const std::string& Name, std::int16_t Score) = 0;
+  virtual void CheckWhoopin(const std::string& Name, std::int16_t Margin) = 0;
+  /// The game-over dialog, modal: leaves "SameGame", "DifferentGame", "Quit" or nothing in `FormMessage`.
+  virtual void ShowCongrats() = 0;
+  /// The new game dialog, modal: begins a fresh game, or doesn't.
+  virtual void ShowNewGame() = 0;
+  /// The seat on turn is a computer: its style plays.
+  virtual void RunComputerTurn() = 0;
+  /// Every loaded form but the table is unloaded.
+  virtual void UnloadOtherForms() = 0;
+  /// Unloads every form and ends the program, once the handlers that wait have returned.
+  virtual void ExitProgram() = 0;
+  /// Ends the program at once, with an error.
+  virtual void Abort() = 0;
+};
+
+/// A program without dialogs: a game that ends isn't followed by another.
+class QuietProgram : public Program {
+ public:
+  void UpdateActivePlayer() override {}
+  void ShowScorePad() override {}
+  void FocusTable() override {}
+  void CheckHighTurn(const std::string&, std::int16_t) override {}
+  void CheckWhoopin(const std::string&, std::int16_t) override {}
+  void ShowCongrats() override {}
+  void ShowNewGame() override {}
+  void RunComputerTurn() override {}
+  void UnloadOtherForms() override {}
+  void ExitProgram() override {}
+  void Abort() override {}
+};
+
+}  // namespace blunko

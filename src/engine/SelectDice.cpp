@@ -1,0 +1,131 @@
+#include <algorithm>
+#include <string>
+
+#include "engine/Game.h"
+#include "engine/ScoreDice.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr int PauseAfterDieOfGroup = 200;  // ms
+constexpr int PauseAfterTaking = 100;      // ms
+
+std::string_view UndoStatus(std::string_view ActionSet) {
+  if (ActionSet == "s") return "Select Dice. (Undo)";
+  if (ActionSet == "sp") return "Select Dice or Pass Dice. (Undo)";
+  if (ActionSet == "r") return "Roll the dice. (Undo)";
+  if (ActionSet == "p") return "Pass The Dice. (Undo)";
+  if (ActionSet == "rp") return "Roll or pass the dice. (Undo)";
+  if (ActionSet == "rs") return "Select dice or roll. (Undo)";
+  return "Roll, select, or pass the dice. (Undo)";
+}
+
+}  // namespace
+
+void Game::Picture1_MouseUp(std::int16_t Index, std::int16_t Button, std::int16_t, float, float) {
+  if (Button == RightButton) {
+    if (t.CanPress(t.cmdRoll)) cmdRoll_Click();
+  } else if (Index >= 0 && Index < Dice) {
+    TakeClickedDice(Index);
+  } else if (Index >= 10 && Index < 10 + Dice) {
+    UndoSelection(Index);
+  }
+}
+
+void Game::picTray1_MouseUp(std::int16_t Button, std::int16_t, float, float) {
+  if (Button == RightButton && t.CanPress(t.cmdRoll)) cmdRoll_Click();
+}
+
+void Game::picTray2_MouseUp(std::int16_t Button, std::int16_t Shift, float X, float Y) {
+  picTray1_MouseUp(Button, Shift, X, Y);
+}
+
+void Game::TakeClickedDice(int Index) {
+  const std::string_view Code = m.DieScoreCode[Index];
+  if (!m.DieUp[Index]) return;
+  if (Code == NoScore) {
+    desktop.Beep();
+    return;
+  }
+  const bool Computer = IsComputerTurn();
+  const auto TakeFromGroup = [&](int i) {
+    TakeDie(i);
+    if (!(Computer && Settings.ComputerSpeed() >= SpeedRidiculous)) desktop.Sleep(PauseAfterDieOfGroup);
+  };
+  if (Code == "1" || Code == "5") {
+    TakeDie(Index);
+  } else if (Code == "y" || Code == "z") {  // all six, in ascending order of face
+    for (int Face = 1; Face <= 6; ++Face) {
+      for (int i = 0; i < Dice; ++i) {
+        if (m.DieFace[i] == Face) TakeFromGroup(i);
+      }
+    }
+  } else {
+    for (int i = 0; i < Dice; ++i) {
+      if (m.DieScoreCode[i] == Code) TakeFromGroup(i);
+    }
+  }
+  m.TurnScore = AddScore(m.TurnScore, PointsOf(Code));
+  t.lblTurnScore.Caption = std::to_string(m.TurnScore);
+  if (Computer && Settings.ComputerSpeed() < SpeedRidiculous) desktop.Sleep(PauseAfterTaking);
+  CheckSelection();
+}
+
+void Game::TakeDie(int Position) {
+  MoveDieToTray(static_cast<std::uint8_t>(Position));
+  m.DieUp[Position] = false;
+}
+
+void Game::MoveDieToTray(std::uint8_t Index) {
+  if (Settings.MarkScorers()) t.picMarker[Index] = false;
+  desktop.PlaySoundFile(Settings.GetSound("MoveDie"), false);
+  t.Picture1(Index) = 0;
+  m.ShownFace[Index] = 0;
+
+  // The die enters at the far right and runs left over the free slots. One that finds no free slot stays in the last,
+  // which is never marked as used.
+  int Slot = 15;
+  const int Picture = Settings.DieColour() + m.DieFace[Index];
+  t.Picture1(Slot) = Picture;
+  for (int k = 4; k >= 0; --k) {
+    if (m.TrayUsed[k]) continue;
+    t.Picture1(Slot) = 0;
+    t.Picture1(--Slot) = Picture;
+    m.TrayUsed[k] = true;
+    m.TrayUsed[k + 1] = false;
+  }
+  m.TrayFace[Slot - 10] = m.DieFace[Index];
+}
+
+void Game::UndoSelection(int Index) {
+  if (m.TrayCountAtRoll == Dice) m.TrayCountAtRoll = 0;
+  const int FirstFree = 10 + m.TrayCountAtRoll;  // the slots before it hold dice of earlier rolls
+  const bool AnyDieUp = std::any_of(m.DieUp.begin(), m.DieUp.end(), [](bool Up) { return Up; });
+  if (Index < FirstFree || !m.TrayUsed[Index - 10] || !AnyDieUp) return;
+
+  for (int Slot = FirstFree; Slot <= 15; ++Slot) {
+    if (!m.TrayUsed[Slot - 10]) continue;
+    int i = 0;
+    while (i < Dice && !(m.DieFace[i] == m.TrayFace[Slot - 10] && !m.DieUp[i])) ++i;
+    if (i == Dice) continue;
+
+    t.Picture1(Slot) = 0;
+    t.Picture1(i) = Settings.DieColour() + m.DieFace[i];
+    m.ShownFace[i] = m.DieFace[i];
+    if (Settings.MarkScorers()) t.picMarker[i] = true;
+    m.TrayUsed[Slot - 10] = false;
+    m.TrayFace[Slot - 10] = 0;
+    m.DieUp[i] = true;
+    m.TurnScore = m.SavedTurnScore;
+    t.lblTurnScore.Caption = std::to_string(m.TurnScore);
+    desktop.Refresh();
+    m.ActionSet = m.SavedActionSet;
+    SetStatus(UndoStatus(m.ActionSet));
+    desktop.PlaySoundFile(Settings.GetSound("Undo"), false);
+    t.cmdRoll.Enabled = false;
+    if (m.ActionSet.find('p') == m.ActionSet.npos) t.cmdPassDice.Enabled = false;
+  }
+}
+
+}  // namespace blunko

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+namespace blunko {
+
+struct Label {
+  std::string Caption;
+  bool Visible = true;
+  int Top = 0;  ///< twips
+};
+
+struct Button {
+  bool Enabled = false;
+  bool Visible = true;
+};
+
+struct Panel {
+  bool Enabled = true;
+};
+
+struct PictureBox {
+  int Picture = 0;  ///< number of the bitmap, 0 for none
+  bool Visible = true;
+  int Left = 0;  ///< twips
+};
+
+/// The control array of the dice: table positions 0 to 5 and tray slots 10 to 15.
+class DieBoxes {
+ public:
+  int& operator()(int Index) { return Pictures[static_cast<std::size_t>(Index < 10 ? Index : Index - 4)]; }
+  int operator()(int Index) const { return Pictures[static_cast<std::size_t>(Index < 10 ? Index : Index - 4)]; }
+
+ private:
+  std::array<int, 12> Pictures{};
+};
+
+/// Left edge of the die boxes in their tray, in twips; the same for the table and the tray.
+inline constexpr std::array<int, 6> DieBoxLeft{60, 960, 1845, 2745, 3645, 4530};
+
+/// Resting place of the status line, and how far it gives way when the last-roll line shows below it; twips.
+inline constexpr int StatusTop = 3285;
+inline constexpr int StatusRise = 180;
+
+/// What the table shows: the single truth, from which the widgets are drawn. Handlers assign its fields.
+struct TableControls {
+  Label lblStatus{" ", true, StatusTop};
+  Label lblLastRoll{"", false, 0};
+  Label lblPlayer;
+  Label lblTurnScore;
+  Button ARCmdNewGame{true, true};
+  Button cmdRoll{false, false};
+  Button cmdPassDice{false, false};
+  Panel picGameTray;  ///< holds everything else: disabled while the options panel is open
+  Panel picTray1;
+  Panel picTray2;
+  DieBoxes Picture1;                ///< bitmap numbers, 0 for an empty box
+  std::array<bool, 6> picMarker{};  ///< visible marks over the table positions
+  PictureBox pctDivider{198, false, 0};
+
+  /// Whether a press of the button has an effect: a hidden one, or one on a disabled table, is as good as disabled.
+  bool CanPress(const Button& Which) const { return Which.Enabled && Which.Visible && picGameTray.Enabled; }
+
+  /// The last-roll line appears below the status line, which gives way; and the reverse.
+  void ShowLastRoll() {
+    lblLastRoll.Visible = true;
+    lblStatus.Top = StatusTop - StatusRise;
+  }
+  void HideLastRoll() {
+    lblLastRoll.Visible = false;
+    lblStatus.Top = StatusTop;
+  }
+};
+
+}  // namespace blunko
