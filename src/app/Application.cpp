@@ -1,0 +1,167 @@
+#include "app/Application.h"
+
+#include <QApplication>
+#include <QTime>
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "Links.h"
+#include "app/OpenInShell.h"
+#include "app/frmCongrats.h"
+#include "table/DiceSets.h"
+#include "table/Twips.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr int LaterStartsPerVersionCheck = 5;
+
+std::int16_t ToTwips16(int LogicalPixels) {
+  return static_cast<std::int16_t>(std::clamp<int>(TwipsOf(LogicalPixels), INT16_MIN, INT16_MAX));
+}
+
+}  // namespace
+
+Application::Application(const Folders& Where, std::unique_ptr<NumberSource> Dice)
+    : folders(Where),
+      InfoFile(Where.State + QLatin1Char('/') + Where.BaseName + QStringLiteral(".ini")),
+      Settings(Where),
+      Numbers(std::move(Dice)),
+      Uniform(0),
+      Table(State, Controls, View, Screen, *this, *Numbers),
+      Players(Table, Uniform),
+      Util(VersionAddress) {}
+
+Application::~Application() = default;
+
+bool Application::Main() {
+  State.HelpFile = folders.Shipped(QStringLiteral("help")).toStdString();
+  State.PlayToScore = static_cast<std::int16_t>(Settings.ReadPlayToScore());
+  State.BreakInScore = static_cast<std::int16_t>(Settings.ReadBreakInScore());
+  Util.UtilSetFolder(folders.State);
+  const bool FirstStart = !Settings.Scanned();
+  SurveyHardware();
+  if (FirstStart || Numbers->UtilRandom(LaterStartsPerVersionCheck) == 1) {
+    if (!CheckForUpdate()) return false;
+  }
+  State.Quitting = false;
+  Uniform = UniformGenerator(static_cast<std::uint64_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000));
+  State.PauseComputer = false;
+  State.TempFolder = folders.Temp.toStdString();
+
+  Form = std::make_unique<frmMain>(Table);
+  Screen.ShowControls = [this] { Form->ShowControls(); };
+  Screen.ShowPointer = [this](MousePointer Pointer) {
+    Pointer == MousePointer::Hourglass ? Form->setCursor(Qt::WaitCursor) : Form->unsetCursor();
+  };
+  QObject::connect(Form.get(), &frmMain::minimised, Form.get(), [this] { Form_Resize(); });
+  const QColor Trays = StartColour(Settings.DieColour());
+  Form->PaintTrays(Trays, Trays);
+  Form->ShowBackground(Settings.Background());
+  Form->ColourLabels(Settings.TextColour());
+  Form->CentreOnScreen();
+  Table.ClearAtStart();
+  Form->show();
+  return true;
+}
+
+/// Asked once in the life of an installation, whatever the answer.
+void Application::SurveyHardware() {
+  if (Settings.Scanned()) return;
+  if (Screen.AskYesNo("To better serve our customers we would like to record the hardware configuration of your "
+                      "computer.  This information is reported anonymously and contains no personally identifying "
+                      "information.\nMay we do this?",
+                      ProductName.toStdString())) {
+    Util.UtilSurveyHardware();
+    Screen.MessageBox("Thank You");
+  }
+  Settings.setScanned(true);
+}
+
+/// False when the player has gone off to fetch a newer version: then the program ends.
+bool Application::CheckForUpdate() {
+  if (!Screen.AskYesNo("Would you like to check for a new version of Tollmoor Blunko", ProductName.toStdString())) {
+    return true;
+  }
+  switch (Util.UtilCheckVersion(VersionMajor, VersionMinor, VersionRevision)) {
+    case TbkUtil::VersionError: Screen.MessageBox("An error has occurred. Please try again later."); break;
+    case TbkUtil::UpToDate: Screen.MessageBox("You have the latest version."); break;
+    case TbkUtil::NewerExists:
+      if (Screen.AskYesNo("A newer version is available, would you like to go to the web site to download it?",
+                          ProductName.toStdString())) {
+        OpenInShell(DownloadPage);
+        return false;
+      }
+      break;
+  }
+  return true;
+}
+
+/// The score pad leaves the screen with the table and comes back to where it stood.
+void Application::Form_Resize() {
+  if (State.ResizeBlocked || !State.ScorePadShown) return;
+  frmScorePad& Pad = ScorePad();
+  if (Form->isMinimized()) {
+    State.ScorePadLeft = ToTwips16(Pad.x());
+    State.ScorePadTop = ToTwips16(Pad.y());
+    Pad.hide();
+  } else {
+    Pad.move(Pixels(State.ScorePadLeft), Pixels(State.ScorePadTop));
+    Pad.show();
+  }
+}
+
+frmScorePad& Application::ScorePad() {
+  if (scorePad == nullptr) scorePad = new frmScorePad(State, Form.get());
+  return *scorePad;
+}
+
+frmNewGame& Application::NewGame() {
+  if (newGame == nullptr) newGame = new frmNewGame(Table, InfoFile, Settings, Form.get());
+  return *newGame;
+}
+
+void Application::UpdateActivePlayer() {
+  if (scorePad != nullptr) scorePad->UpdateActivePlayer();
+}
+
+void Application::ShowScorePad() {
+  frmScorePad& Pad = ScorePad();
+  Pad.hide();
+  Pad.SetPosition();
+  Pad.show();
+}
+
+void Application::FocusTable() { Form->activateWindow(); }
+
+void Application::CheckHighTurn(const std::string&, std::int16_t) {}
+void Application::CheckWhoopin(const std::string&, std::int16_t) {}
+
+void Application::ShowCongrats() {
+  Form->ShowControls();
+  frmCongrats(Table, Form.get()).exec();
+}
+
+void Application::ShowNewGame() {
+  Form->ShowControls();
+  NewGame().ShowModal();
+}
+
+void Application::RunComputerTurn() { Players.RunComputerTurn(); }
+
+void Application::UnloadOtherForms() {
+  if (newGame != nullptr) newGame->Unload();
+  if (scorePad != nullptr) scorePad->hide();
+}
+
+void Application::ExitProgram() {
+  UnloadOtherForms();
+  Form->hide();
+  QCoreApplication::exit();
+}
+
+void Application::Abort() { std::_Exit(EXIT_FAILURE); }
+
+}  // namespace blunko

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <memory>
+
+#include "app/frmNewGame.h"
+#include "bots/ComputerPlayers.h"
+#include "engine/Game.h"
+#include "storage/Folders.h"
+#include "storage/GameSettings.h"
+#include "storage/IniInfo.h"
+#include "table/QtDesktop.h"
+#include "table/frmMain.h"
+#include "table/frmScorePad.h"
+#include "util/TbkUtil.h"
+#include "util/UtilRandom.h"
+
+namespace blunko {
+
+/// The settings, as the rules see them.
+class SettingsView : public GameOptions {
+ public:
+  explicit SettingsView(const GameSettings& Settings) : settings(Settings) {}
+  int ComputerSpeed() const override { return settings.ComputerSpeed(); }
+  bool SortDice() const override { return settings.SortDice(); }
+  bool MarkScorers() const override { return settings.MarkScorers(); }
+  int DieColour() const override { return settings.DieColour(); }
+  bool SoundDisabled() const override { return settings.SoundDisabled(); }
+  const std::string& GetSound(std::string_view Name) const override { return settings.GetSound(Name); }
+
+ private:
+  const GameSettings& settings;
+};
+
+/// The program: owns the objects of a run, puts its start-up questions, shows the table, and answers what the rules ask
+/// of the dialogs.
+class Application : public Program {
+ public:
+  /// `Numbers` replaces the dice and `Where` the folders, for tests.
+  explicit Application(const Folders& Where, std::unique_ptr<NumberSource> Numbers = std::make_unique<FairDice>());
+  ~Application() override;
+
+  /// The start, up to the shown table. False: the program ends without having shown it.
+  bool Main();
+
+  void UpdateActivePlayer() override;
+  void ShowScorePad() override;
+  void FocusTable() override;
+  void CheckHighTurn(const std::string& Name, std::int16_t Score) override;
+  void CheckWhoopin(const std::string& Name, std::int16_t Margin) override;
+  void ShowCongrats() override;
+  void ShowNewGame() override;
+  void RunComputerTurn() override;
+  void UnloadOtherForms() override;
+  void ExitProgram() override;
+  void Abort() override;
+
+  Folders folders;
+  IniInfo InfoFile;
+  GameSettings Settings;
+  SettingsView View{Settings};
+  Module1 State;
+  TableControls Controls;
+  QtDesktop Screen;
+  std::unique_ptr<NumberSource> Numbers;
+  UniformGenerator Uniform;
+  Game Table;
+  ComputerPlayers Players;
+  TbkUtil Util;
+  std::unique_ptr<frmMain> Form;
+
+ private:
+  void SurveyHardware();
+  bool CheckForUpdate();
+  void Form_Resize();
+  frmScorePad& ScorePad();
+  frmNewGame& NewGame();
+
+  frmScorePad* scorePad = nullptr;
+  frmNewGame* newGame = nullptr;
+};
+
+}  // namespace blunko

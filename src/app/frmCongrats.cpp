@@ -1,0 +1,91 @@
+#include "app/frmCongrats.h"
+
+#include <QEvent>
+#include <QPalette>
+#include <QTimer>
+
+#include "table/Fonts.h"
+#include "table/Twips.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr int EngravingTime = 500;  // ms
+constexpr int GreetingTop = 8;      // px
+const QColor Background(2, 127, 255);
+const QColor PlateColour(0, 0, 128);
+
+}  // namespace
+
+frmCongrats::frmCongrats(Game& Table, QWidget* Main) : QDialog(Main), game(Table), frmMain(Main) {
+  setObjectName(QStringLiteral("frmCongrats"));
+  const QString Winner = QString::fromStdString(game.m.PlayerName[game.m.Winner]);
+  setWindowTitle(QStringLiteral("Congratulations %1 !!!").arg(Winner));
+  QPalette Colours = palette();
+  Colours.setColor(QPalette::Window, Background);
+  setPalette(Colours);
+  setFixedSize(frmMain->size());
+
+  Image2 = new SvgBox(QStringLiteral(":/art/trophy.svg"), this);
+  Image2->setObjectName(QStringLiteral("Image2"));
+  Image2->setGeometry(QRect(QPoint(0, 0), Image2->sizeHint()));
+  Image1 = new SvgBox(QStringLiteral(":/art/greeting.svg"), this);
+  Image1->setObjectName(QStringLiteral("Image1"));
+  Image1->setGeometry(QRect(QPoint((width() - Image1->sizeHint().width()) / 2, GreetingTop), Image1->sizeHint()));
+
+  lblWinner = new FitLabel(tr("Engraving..."), this);
+  lblWinner->setObjectName(QStringLiteral("lblWinner"));
+  lblWinner->setGeometry(TwipsRect(1695, 6120, 2565, 375));
+  lblWinner->setFont(FontOf(Typeface::ComicSans, 14.25, true));
+  lblWinner->setAlignment(Qt::AlignCenter);
+  lblWinner->setForeColor(Qt::yellow);
+  QPalette Plate = lblWinner->palette();
+  Plate.setColor(QPalette::Window, PlateColour);
+  lblWinner->setPalette(Plate);
+  lblWinner->setAutoFillBackground(true);
+
+  const auto AddButton = [this](const char* Name, const QString& Caption, int Left, const char* Word, bool Beeps) {
+    auto* Made = new ButtonPlus(Caption, this);
+    Made->setObjectName(QLatin1String(Name));
+    Made->setGeometry(TwipsRect(Left, 6990, 1695, 495));
+    Made->setAutoDefault(true);
+    connect(Made, &QPushButton::clicked, this, [this, Word, Beeps] {
+      if (Beeps) game.desktop.Beep();
+      game.m.FormMessage = Word;
+      accept();
+    });
+    return Made;
+  };
+  cmdSameGame = AddButton("cmdSameGame", tr("Same Game"), 150, "SameGame", true);
+  cmdDifferentGame = AddButton("cmdDifferentGame", tr("Different Game"), 2070, "DifferentGame", true);
+  cmdQuit = AddButton("cmdQuit", tr("Quit"), 3990, "Quit", false);
+  cmdSameGame->setBackColor(QColor(0, 0, 225));
+  cmdDifferentGame->setBackColor(QColor(0, 0, 225));
+  cmdQuit->setBackColor(QColor(0, 128, 255));
+  FixButtonColours(*this);
+}
+
+void frmCongrats::showEvent(QShowEvent* Event) {
+  move(frmMain->pos());
+  QDialog::showEvent(Event);
+  QTimer::singleShot(0, this, &frmCongrats::Form_Activate);
+}
+
+void frmCongrats::changeEvent(QEvent* Event) {
+  QDialog::changeEvent(Event);
+  const bool Engraved = lblWinner != nullptr && lblWinner->text().startsWith(QLatin1Char('*'));
+  if (Event->type() == QEvent::ActivationChange && isActiveWindow() && Engraved) Form_Activate();
+}
+
+/// The engraving: the name stands on the plate when the sound starts.
+void frmCongrats::Form_Activate() {
+  if (engraving || !isVisible()) return;
+  engraving = true;
+  game.desktop.Sleep(EngravingTime);
+  game.desktop.PlaySoundFile(game.Settings.GetSound("GameOver"), false);
+  lblWinner->setText(QStringLiteral("* %1 *").arg(QString::fromStdString(game.m.PlayerName[game.m.Winner])));
+  engraving = false;
+}
+
+}  // namespace blunko

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QDialog>
+
+#include "engine/Game.h"
+#include "table/ButtonPlus.h"
+#include "table/FitLabel.h"
+#include "table/Pictures.h"
+
+namespace blunko {
+
+/// The game-over dialog: a trophy with the winner's name on its plate, and three buttons that leave a word in
+/// `FormMessage`.
+class frmCongrats : public QDialog {
+  Q_OBJECT
+
+ public:
+  frmCongrats(Game& Table, QWidget* Main);
+
+  SvgBox* Image2;  ///< the trophy
+  SvgBox* Image1;  ///< the arched greeting
+  FitLabel* lblWinner = nullptr;
+  ButtonPlus* cmdSameGame;
+  ButtonPlus* cmdDifferentGame;
+  ButtonPlus* cmdQuit;
+
+ protected:
+  void showEvent(QShowEvent* Event) override;
+  void changeEvent(QEvent* Event) override;
+
+ private:
+  void Form_Activate();
+
+  Game& game;
+  QWidget* frmMain;
+  bool engraving = false;
+};
+
+}  // namespace blunko

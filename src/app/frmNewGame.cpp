@@ -1,0 +1,269 @@
+#include "app/frmNewGame.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "storage/NameRule.h"
+#include "table/Fonts.h"
+#include "table/NameValidator.h"
+#include "table/Twips.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr int InnerWidth = 6000;                       // twips
+constexpr int SmallestHeight = 3495, SeatPitch = 360;  // twips
+constexpr int OffsetLeft = 500, OffsetTop = 1550;      // twips, from the table's window
+
+const char* const CountWords[] = {"One", "Two", "Three", "Four", "Five", "Six", "Seven", "Eight"};
+
+}  // namespace
+
+frmNewGame::frmNewGame(Game& Table, const IniInfo& Info, const GameSettings& Options, QWidget* Main)
+    : QDialog(Main), game(Table), info(Info), settings(Options), frmMain(Main) {
+  setObjectName(QStringLiteral("frmNewGame"));
+  setWindowTitle(QStringLiteral(" Start New Game - Tollmoor Blunko"));
+  setFont(FontOf(Typeface::Verdana, 8.25));
+  Build();
+}
+
+void frmNewGame::Build() {
+  auto* Outer = new QVBoxLayout(this);
+  Outer->setContentsMargins(10, 8, 10, 10);
+  Outer->setSpacing(6);
+
+  const auto Frame = [this](const QString& Caption, auto& Options, auto Captions, int Columns) {
+    auto* Box = new QGroupBox(Caption, this);
+    auto* Grid = new QGridLayout(Box);
+    Grid->setContentsMargins(8, 4, 6, 4);
+    Grid->setVerticalSpacing(2);
+    for (int i = 0; i < static_cast<int>(Options.size()); ++i) {
+      Options[i] = new QRadioButton(Captions(i), Box);
+      Grid->addWidget(Options[i], i / Columns, i % Columns);
+    }
+    return Box;
+  };
+  auto* Choices = new QHBoxLayout;
+  Choices->setSpacing(6);
+  Choices->addWidget(
+      Frame(
+          tr("Number of Players:"), optNumPlayers, [](int i) { return QString::fromLatin1(CountWords[i]); }, 4),
+      1);
+  Choices->addWidget(Frame(
+      tr("Play to:"), optPlayTo, [](int i) { return i == 0 ? tr("5000") : tr("10000"); }, 1));
+  Choices->addWidget(Frame(
+      tr("\"Break In\" Score:"), optBreakIn, [](int i) { return i == 0 ? tr("500") : tr("1000"); }, 1));
+  Outer->addLayout(Choices);
+
+  auto* Seats = new QGridLayout;
+  Seats->setHorizontalSpacing(10);
+  Seats->setVerticalSpacing(0);
+  Seats->setColumnStretch(0, 1);
+  const auto Heading = [&](const QString& Caption, int Column) {
+    auto* Made = new QLabel(Caption, this);
+    QFont Bold = Made->font();
+    Bold.setBold(true);
+    Made->setFont(Bold);
+    Seats->addWidget(Made, 0, Column);
+  };
+  Heading(tr("Name"), 0);
+  Heading(tr("Computer Player?"), 1);
+  Heading(tr("Computer Style"), 2);
+  for (int i = 0; i < MaxSeats; ++i) {
+    TxtPlayerName[i] = new QLineEdit(this);
+    TxtPlayerName[i]->setMaxLength(LongestName);
+    TxtPlayerName[i]->setValidator(new NameValidator(TxtPlayerName[i]));
+    TxtPlayerName[i]->setAccessibleName(tr("Name of player %1").arg(i + 1));
+    TxtPlayerName[i]->installEventFilter(this);
+    chkComputer[i] = new QCheckBox(this);
+    chkComputer[i]->setAccessibleName(tr("Player %1 is a computer").arg(i + 1));
+    cboStyle[i] = new QComboBox(this);
+    cboStyle[i]->setAccessibleName(tr("Computer style of player %1").arg(i + 1));
+    for (const std::string_view Word : StyleWords) {
+      cboStyle[i]->addItem(QString::fromLatin1(Word.data(), static_cast<qsizetype>(Word.size())));
+    }
+    Seats->addWidget(TxtPlayerName[i], i + 1, 0);
+    Seats->addWidget(chkComputer[i], i + 1, 1, Qt::AlignCenter);
+    Seats->addWidget(cboStyle[i], i + 1, 2);
+    for (QWidget* Cell : {static_cast<QWidget*>(TxtPlayerName[i]), static_cast<QWidget*>(chkComputer[i]),
+                          static_cast<QWidget*>(cboStyle[i])}) {
+      Cell->setFixedHeight(Pixels(SeatPitch));
+      QSizePolicy KeepsPlace = Cell->sizePolicy();  // a hidden cell leaves the columns as they are
+      KeepsPlace.setRetainSizeWhenHidden(false);
+      Cell->setSizePolicy(KeepsPlace);
+    }
+    connect(chkComputer[i], &QCheckBox::toggled, this, [this, i] { chkComputer_Click(i); });
+    connect(optNumPlayers[i], &QRadioButton::toggled, this, [this, i](bool On) {
+      if (On) optNumPlayers_Click(i);
+    });
+  }
+  Seats->setColumnMinimumWidth(2, cboStyle[0]->sizeHint().width());
+  Outer->addLayout(Seats);
+  Outer->addStretch(1);
+
+  cmdPlay = new ButtonPlus(tr("Play !!!"), this);
+  cmdCancel = new ButtonPlus(tr("Cancel"), this);
+  cmdSetDefault = new ButtonPlus(tr("Save Game Setup as Default"), this);
+  cmdSetDefault->setToolTip(QStringLiteral(
+      " Click here to make Tollmoor Blunko always start with this game setup (same players and scoring options.) "));
+  cmdPlay->setAutoDefault(true);
+  cmdPlay->setDefault(true);
+  auto* Buttons = new QHBoxLayout;
+  Buttons->addWidget(cmdPlay, 1);
+  Buttons->addWidget(cmdCancel, 1);
+  Buttons->addWidget(cmdSetDefault, 2);
+  Outer->addLayout(Buttons);
+  connect(cmdPlay, &QPushButton::clicked, this, &QDialog::accept);
+  connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+  connect(cmdSetDefault, &QPushButton::clicked, this, &frmNewGame::cmdSetDefault_Click);
+
+  const std::pair<QWidget*, const char*> Names[] = {
+      {cmdPlay, "cmdPlay"}, {cmdCancel, "cmdCancel"}, {cmdSetDefault, "cmdSetDefault"}};
+  for (const auto& [Widget, Name] : Names) Widget->setObjectName(QLatin1String(Name));
+  for (int i = 0; i < MaxSeats; ++i) {
+    optNumPlayers[i]->setObjectName(QStringLiteral("optNumPlayers%1").arg(i));
+    TxtPlayerName[i]->setObjectName(QStringLiteral("TxtPlayerName%1").arg(i));
+    chkComputer[i]->setObjectName(QStringLiteral("chkComputer%1").arg(i));
+    cboStyle[i]->setObjectName(QStringLiteral("cboStyle%1").arg(i));
+  }
+  for (int i = 0; i < 2; ++i) {
+    optPlayTo[i]->setObjectName(QStringLiteral("optPlayTo%1").arg(i));
+    optBreakIn[i]->setObjectName(QStringLiteral("optBreakIn%1").arg(i));
+  }
+  FixButtonColours(*this);
+}
+
+void frmNewGame::ShowModal() {
+  const std::string Word = game.m.FormMessage;
+  if (Word == "SameGame" && lastGame) {
+    game.m.FormMessage.clear();
+    game.FreshGame(*lastGame);
+    return;
+  }
+  if (!loaded) Form_Load();
+  Form_Activate();
+  if (Word == "SameGame" || Word == "RestartGame") {
+    game.m.FormMessage.clear();
+  } else if (exec() != QDialog::Accepted) {
+    game.t.cmdRoll.Enabled = false;
+    Unload();
+    return;
+  }
+  if (game.m.Quitting) return;
+  lastGame = ChosenGame();
+  game.FreshGame(*lastGame);
+}
+
+void frmNewGame::Form_Load() {
+  loaded = true;
+  game.desktop.Beep();
+  optNumPlayers[0]->setChecked(true);
+  optNumPlayers_Click(0);
+}
+
+/// The dialog always opens with the saved game, not with the last one.
+void frmNewGame::Form_Activate() {
+  const SavedSetup Saved = SavedSetup::Load(info, settings);
+  optPlayTo[Saved.PlayToScore == 10000 ? 1 : 0]->setChecked(true);
+  optBreakIn[Saved.BreakInScore == 500 ? 0 : 1]->setChecked(true);
+  optNumPlayers[Saved.NumPlayers - 1]->setChecked(true);
+  for (int i = 0; i < Saved.NumPlayers; ++i) {
+    const SavedSetup::Seat& Seat = Saved.Players[i];
+    TxtPlayerName[i]->setText(Seat.Name);
+    chkComputer[i]->setChecked(Seat.IsComputer);
+    if (Seat.IsComputer) cboStyle[i]->setCurrentIndex(Seat.Style);
+  }
+  if (Saved.NumPlayers == 1) cboStyle[1]->setCurrentIndex(Saved.Players[1].Style);
+  cmdPlay->setFocus();
+}
+
+void frmNewGame::showEvent(QShowEvent* Event) {
+  const QPoint Corner = frmMain->pos();
+  move(Corner + QPoint(Pixels(OffsetLeft), Pixels(OffsetTop)));
+  QDialog::showEvent(Event);
+}
+
+void frmNewGame::optNumPlayers_Click(int Index) {
+  const SavedSetup Layout = SavedSetup::ForPlayers(Index + 1);
+  for (int i = 0; i < MaxSeats; ++i) {
+    const bool Opponent = Index == 0 && i == 1;  // one player: a person against a computer
+    const bool Shown = i <= Index || Opponent;
+    TxtPlayerName[i]->setVisible(Shown);
+    chkComputer[i]->setVisible(Shown);
+    TxtPlayerName[i]->setText(Layout.Players[i].Name);
+    TxtPlayerName[i]->setEnabled(!Opponent);
+    chkComputer[i]->setChecked(Opponent);
+    chkComputer[i]->setEnabled(!Opponent);
+    cboStyle[i]->setCurrentIndex(0);
+    chkComputer_Click(i);
+  }
+  FitHeight(Index);
+}
+
+void frmNewGame::chkComputer_Click(int Index) {
+  cboStyle[Index]->setVisible(chkComputer[Index]->isChecked());
+  cboStyle[Index]->setEnabled(chkComputer[Index]->isChecked());
+}
+
+void frmNewGame::FitHeight(int Index) {
+  layout()->activate();
+  const int Seats = Index < 1 ? 2 : Index + 1;
+  const QSize Needed = layout()->minimumSize();
+  setFixedSize(qMax(Pixels(InnerWidth), Needed.width()),
+               qMax(Pixels(SmallestHeight + SeatPitch * (Seats - 2)), Needed.height()));
+}
+
+bool frmNewGame::eventFilter(QObject* Watched, QEvent* Event) {
+  if (Event->type() == QEvent::FocusIn) {
+    // After the click that brought the focus has placed its cursor.
+    if (auto* Name = qobject_cast<QLineEdit*>(Watched)) QTimer::singleShot(0, Name, &QLineEdit::selectAll);
+  }
+  return QDialog::eventFilter(Watched, Event);
+}
+
+SavedSetup frmNewGame::ShownSetup() const {
+  SavedSetup Shown;
+  for (int i = 0; i < MaxSeats; ++i) {
+    if (optNumPlayers[i]->isChecked()) Shown.NumPlayers = i + 1;
+    Shown.Players[i] = {TxtPlayerName[i]->text(), chkComputer[i]->isChecked(), cboStyle[i]->currentIndex()};
+  }
+  Shown.PlayToScore = optPlayTo[0]->isChecked() ? 5000 : 10000;
+  Shown.BreakInScore = optBreakIn[0]->isChecked() ? 500 : 1000;
+  return Shown;
+}
+
+GameSetup frmNewGame::ChosenGame() const {
+  const SavedSetup Shown = ShownSetup();
+  GameSetup Chosen;
+  Chosen.NumPlayers = static_cast<std::uint8_t>(Shown.NumPlayers);
+  Chosen.PlayToScore = static_cast<std::int16_t>(Shown.PlayToScore);
+  Chosen.BreakInScore = static_cast<std::int16_t>(Shown.BreakInScore);
+  for (int i = 0; i < MaxSeats; ++i) {
+    Chosen.Seats[i] = {Shown.Players[i].Name.toStdString(), Shown.Players[i].IsComputer,
+                       cboStyle[i]->currentText().toStdString()};
+  }
+  return Chosen;
+}
+
+void frmNewGame::cmdSetDefault_Click() {
+  constexpr int FeedbackTime = 400;  // ms
+  ShownSetup().Save(info, settings);
+  const QString Caption = cmdSetDefault->text();
+  cmdSetDefault->setText(tr("Saving..."));
+  game.desktop.Sleep(FeedbackTime);
+  cmdSetDefault->setText(tr("Done..."));
+  game.desktop.Beep();
+  game.desktop.Sleep(FeedbackTime);
+  cmdSetDefault->setText(Caption);
+}
+
+}  // namespace blunko

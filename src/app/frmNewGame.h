@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QDialog>
+
+#include <array>
+#include <optional>
+
+#include "engine/Game.h"
+#include "storage/SavedSetup.h"
+#include "table/ButtonPlus.h"
+
+class QCheckBox;
+class QComboBox;
+class QLineEdit;
+class QRadioButton;
+
+namespace blunko {
+
+/// The dialog in which seats and scores of a game are chosen, and through which every game begins. It also saves the
+/// default game.
+class frmNewGame : public QDialog {
+  Q_OBJECT
+
+ public:
+  frmNewGame(Game& Table, const IniInfo& Info, const GameSettings& Options, QWidget* Main);
+
+  /// Shows the dialog and waits; Play begins the game. A restart word in `FormMessage` begins it without waiting for
+  /// anybody: "SameGame" with the seats of the last game, "RestartGame" with the saved ones.
+  void ShowModal();
+  /// Forgets what the controls hold, as closing the form does.
+  void Unload() { loaded = false; }
+
+  std::array<QRadioButton*, MaxSeats> optNumPlayers;
+  std::array<QRadioButton*, 2> optPlayTo;
+  std::array<QRadioButton*, 2> optBreakIn;
+  std::array<QLineEdit*, MaxSeats> TxtPlayerName;
+  std::array<QCheckBox*, MaxSeats> chkComputer;
+  std::array<QComboBox*, MaxSeats> cboStyle;
+  ButtonPlus* cmdPlay;
+  ButtonPlus* cmdCancel;
+  ButtonPlus* cmdSetDefault;
+
+ protected:
+  bool eventFilter(QObject* Watched, QEvent* Event) override;
+  void showEvent(QShowEvent* Event) override;
+
+ private:
+  void Build();
+  void Form_Load();
+  void Form_Activate();
+  void optNumPlayers_Click(int Index);
+  void chkComputer_Click(int Index);
+  void cmdSetDefault_Click();
+  void FitHeight(int Index);
+  SavedSetup ShownSetup() const;
+  GameSetup ChosenGame() const;
+
+  Game& game;
+  const IniInfo& info;
+  const GameSettings& settings;
+  QWidget* frmMain;
+  bool loaded = false;
+  std::optional<GameSetup> lastGame;  ///< what "Same Game" plays again
+};
+
+}  // namespace blunko

@@ -1,0 +1,21 @@
+#include <QApplication>
+#include <QIcon>
+
+#include "app/Application.h"
+
+int main(int argc, char** argv) {
+  // The game places its windows beside each other, which Wayland forbids: prefer the other way in where there is one.
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
+      qEnvironmentVariableIsSet("DISPLAY")) {
+    qputenv("QT_QPA_PLATFORM", "xcb");
+  }
+  QApplication::setStyle(QStringLiteral("Fusion"));
+  QApplication app(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("TollmoorBlunko"));
+  QApplication::setDesktopFileName(QStringLiteral("tollmoor-blunko"));
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/art/icon.svg")));
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  blunko::Application Program(blunko::Folders::OfProgram());
+  return Program.Main() ? QApplication::exec() : 0;
+}

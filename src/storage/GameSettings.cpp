@@ -1,0 +1,211 @@
+#include "storage/GameSettings.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+
+namespace blunko {
+
+namespace {
+
+constexpr std::array<std::uint32_t, 8> TextColours{0x000000, 0x0000FF, 0x00FF00, 0x00FFFF,
+                                                   0xFF0000, 0xFF00FF, 0xFFFF80, 0xFFFFFF};
+constexpr int White = 7;
+constexpr int DefaultDice = 112;
+
+struct SoundEvent {
+  std::string_view Name;
+  const char* File;
+};
+constexpr std::array<SoundEvent, GameSettings::SoundEvents> Events{{{"Blunko", "bust.wav"},
+                                                                    {"OneDie", "11d.wav"},
+                                                                    {"MultiDie", "33d.wav"},
+                                                                    {"Passem1", "passem1.wav"},
+                                                                    {"Passem2", "passem2.wav"},
+                                                                    {"MoveDie", "moveit.wav"},
+                                                                    {"Undo", "undo.wav"},
+                                                                    {"GameOver", "gameover.wav"}}};
+
+const SoundEvent* FindEvent(std::string_view Name) {
+  const auto Found = std::find_if(Events.begin(), Events.end(), [Name](const SoundEvent& e) { return e.Name == Name; });
+  return Found == Events.end() ? nullptr : &*Found;
+}
+
+QString KeyOfSound(std::string_view Name) {
+  return QString::fromLatin1(Name.data(), static_cast<qsizetype>(Name.size())) + QStringLiteral("Sound");
+}
+
+/// The number that the text begins with, rounded to 16 bits; 0 when there is none.
+std::int16_t LeadingNumber(const QString& Text) {
+  static const QRegularExpression Number(QStringLiteral(R"(^\s*([+-]?\d+(\.\d*)?))"));
+  const double Value = std::nearbyint(Number.match(Text).captured(1).toDouble());
+  return Value >= INT16_MIN && Value <= INT16_MAX ? static_cast<std::int16_t>(Value) : std::int16_t{0};
+}
+
+}  // namespace
+
+std::uint32_t ColourOfIndex(int Index) {
+  return Index >= 1 && Index <= 7 ? TextColours[static_cast<std::size_t>(Index)] : 0;
+}
+
+GameSettings::GameSettings(const Folders& Where)
+    : folders(Where), OwnInfo(Where.State + QLatin1Char('/') + Where.BaseName + QStringLiteral(".ini")) {
+  LoadSettings();
+}
+
+void GameSettings::setScanned(bool Value) {
+  scanned = Value;
+  WriteFlag(QStringLiteral("Scanned"), Value);
+}
+
+void GameSettings::setShowWelcome(bool Value) {
+  showWelcome = Value;
+  WriteFlag(QStringLiteral("ShowWelcomeMessage"), Value);
+}
+
+void GameSettings::setDieColour(std::int16_t Base) {
+  dieColour = Base;
+  OwnInfo.WriteInfoValue(QStringLiteral("DieColor"), QString::number(Base));
+}
+
+int GameSettings::TextColourIndex() const { return IndexOfColour(textColour); }
+
+void GameSettings::setTextColourIndex(int Index) {
+  textColour = ColourOfIndex(Index);
+  OwnInfo.WriteInfoValue(QStringLiteral("TextColor"), QString::number(Index));
+}
+
+void GameSettings::setTextColour(std::uint32_t Colour) {
+  textColour = Colour;
+  OwnInfo.WriteInfoValue(QStringLiteral("TextColor"), QString::number(IndexOfColour(Colour)));
+}
+
+void GameSettings::setBackground(const QString& Path) {
+  background = Path;
+  OwnInfo.WriteInfoValue(QStringLiteral("Background"), TextOfPath(Path));
+}
+
+void GameSettings::setSoundDisabled(bool Value) {
+  soundDisabled = Value;
+  WriteFlag(QStringLiteral("SoundFXOFF"), Value);
+}
+
+int GameSettings::ReadPlayToScore() const {
+  return ReadNumber(QStringLiteral("defPlayToScore"), 5000) == 10000 ? 10000 : 5000;
+}
+
+void GameSettings::WritePlayToScore(int Value) const {
+  OwnInfo.WriteInfoValue(QStringLiteral("defPlayToScore"), QString::number(Value));
+}
+
+int GameSettings::ReadBreakInScore() const {
+  return ReadNumber(QStringLiteral("defBreakInScore"), 500) == 1000 ? 1000 : 500;
+}
+
+void GameSettings::WriteBreakInScore(int Value) const {
+  OwnInfo.WriteInfoValue(QStringLiteral("defBreakInScore"), QString::number(Value));
+}
+
+void GameSettings::setComputerSpeed(int Speed) {
+  computerSpeed = Speed;
+  OwnInfo.WriteInfoValue(QStringLiteral("ComputerFast"), QString::number(Speed));
+}
+
+void GameSettings::setSortDice(bool Value) {
+  sortDice = Value;
+  WriteFlag(QStringLiteral("SortDice"), Value);
+}
+
+void GameSettings::setMarkScorers(bool Value) {
+  markScorers = Value;
+  WriteFlag(QStringLiteral("MarkScorers"), Value);
+}
+
+const std::string& GameSettings::GetSound(std::string_view p_sound_name) const {
+  static const std::string None;
+  const SoundEvent* Event = FindEvent(p_sound_name);
+  return Event == nullptr ? None : SoundFile[static_cast<std::size_t>(Event - Events.data())];
+}
+
+void GameSettings::SetSound(std::string_view p_sound_name, const std::string& p_sound_file) {
+  if (const SoundEvent* Event = FindEvent(p_sound_name)) {
+    SoundFile[static_cast<std::size_t>(Event - Events.data())] = p_sound_file;
+  }
+  OwnInfo.WriteInfoValue(KeyOfSound(p_sound_name), QString::fromLatin1(QByteArray::fromStdString(p_sound_file)));
+}
+
+QString GameSettings::DefaultBackground() const {
+  return folders.Shipped(QStringLiteral("Background")) + QStringLiteral("/Satin.jpg");
+}
+
+QString GameSettings::DefaultSoundFile(std::string_view p_sound_name) {
+  const SoundEvent* Event = FindEvent(p_sound_name);
+  return Event == nullptr ? QString() : QString::fromLatin1(Event->File);
+}
+
+void GameSettings::LoadSettings() {
+  scanned = ReadFlag(QStringLiteral("Scanned"), false);
+  showWelcome = ReadFlag(QStringLiteral("ShowWelcomeMessage"), true);
+  LoadSounds();
+  LoadAppearance();
+  LoadGameOptions();
+}
+
+void GameSettings::LoadSounds() {
+  for (std::size_t i = 0; i < Events.size(); ++i) {
+    const QString Default = folders.Temp + QString::fromLatin1(Events[i].File);
+    SoundFile[i] = OwnInfo.ReadInfoValue(KeyOfSound(Events[i].Name), TextOfPath(Default)).toLatin1().toStdString();
+  }
+  soundDisabled = ReadFlag(QStringLiteral("SoundFXOFF"), false);
+}
+
+void GameSettings::LoadAppearance() {
+  dieColour = LeadingNumber(OwnInfo.ReadInfoValue(QStringLiteral("DieColor"), QString::number(DefaultDice)));
+  if (dieColour == 0) dieColour = DefaultDice;
+
+  background = PathOfText(OwnInfo.ReadInfoValue(QStringLiteral("Background"), TextOfPath(DefaultBackground())));
+  if (background != NoBackground && !FileExists(background)) {
+    const bool HaveDefault = FileExists(DefaultBackground());
+    setBackground(HaveDefault ? DefaultBackground() : NoBackground);
+    setTextColourIndex(HaveDefault ? White : 0);
+  }
+  // A number beyond the list is a colour value, from an older file.
+  const int Stored = ReadNumber(QStringLiteral("TextColor"), 0);
+  textColour = ColourOfIndex(Stored > 7 ? IndexOfColour(static_cast<std::uint32_t>(Stored)) : Stored);
+}
+
+void GameSettings::LoadGameOptions() {
+  const int Speed = ReadNumber(QStringLiteral("ComputerFast"), 0);
+  computerSpeed = Speed >= 0 && Speed <= 2 ? Speed : 0;
+  sortDice = ReadFlag(QStringLiteral("SortDice"), true);
+  markScorers = ReadFlag(QStringLiteral("MarkScorers"), true);
+}
+
+int GameSettings::IndexOfColour(std::uint32_t Colour) {
+  const auto Found = std::find(TextColours.begin(), TextColours.end(), Colour);
+  return Found == TextColours.end() ? 0 : static_cast<int>(Found - TextColours.begin());
+}
+
+/// Words in any case, and numbers, of which every one but 0 is true.
+bool GameSettings::ReadFlag(const QString& Key, bool Default) const {
+  const QString Text = OwnInfo.ReadInfoValue(Key).trimmed();
+  if (Text.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0) return true;
+  if (Text.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0) return false;
+  bool IsNumber = false;
+  const double Value = Text.toDouble(&IsNumber);
+  return IsNumber ? Value != 0 : Default;
+}
+
+void GameSettings::WriteFlag(const QString& Key, bool Value) const {
+  OwnInfo.WriteInfoValue(Key, Value ? QStringLiteral("True") : QStringLiteral("False"));
+}
+
+int GameSettings::ReadNumber(const QString& Key, int Default) const {
+  bool IsNumber = false;
+  const int Value = OwnInfo.ReadInfoValue(Key).trimmed().toInt(&IsNumber);
+  return IsNumber ? Value : Default;
+}
+
+}  // namespace blunko

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace blunko {
+
+/// Reads and writes single keys of the info file, a sectioned text in single-byte letters (Latin-1). It knows nothing
+/// of their meaning. No file is held open between calls.
+class IniInfo {
+ public:
+  /// Longest value that a read returns.
+  static constexpr int LongestValue = 254;
+
+  explicit IniInfo(QString Path) : InfoPath(std::move(Path)) {}
+
+  /// Value of the key, without regard to case; `Default` when the key is missing or empty.
+  QString ReadInfoValue(const QString& Key, const QString& Default = {}) const;
+  /// Creates or replaces the key at once; everything else in the file stays as it is. Failure is silent.
+  void WriteInfoValue(const QString& Key, const QString& Value) const;
+
+  const QString InfoPath;
+
+  // The text itself, apart from the file.
+  static QString FindValue(const QByteArray& Text, const QString& Key);
+  static QByteArray WithValue(const QByteArray& Text, const QString& Key, const QString& Value);
+};
+
+}  // namespace blunko

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+namespace blunko {
+
+/// Longest name of a seat, in letters.
+inline constexpr int LongestName = 14;
+
+/// Parts the fields of the texts that hold several names.
+inline constexpr QChar FieldSeparator(0xA4);
+
+/// Whether a name may hold the letter: the game's files carry the letters of Latin-1, but for the separator, control
+/// characters, and the last one, which doesn't survive the scrambling of the lists.
+constexpr bool IsNameLetter(QChar Letter) {
+  const char16_t Code = Letter.unicode();
+  return (Code >= 0x20 && Code < 0x7F) || (Code >= 0xA0 && Code < 0xFF && Letter != FieldSeparator);
+}
+
+/// The text without the letters that a name can't hold.
+inline QString HeldToNameRule(const QString& Text) {
+  QString Held;
+  for (const QChar Letter : Text) {
+    if (IsNameLetter(Letter)) Held += Letter;
+  }
+  return Held;
+}
+
+}  // namespace blunko

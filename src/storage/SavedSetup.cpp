@@ -1,0 +1,92 @@
+#include "storage/SavedSetup.h"
+
+#include <QStringList>
+
+#include "storage/NameRule.h"
+
+namespace blunko {
+
+namespace {
+
+const QString CountKey = QStringLiteral("defNumPlayers");
+const QString NamesKey = QStringLiteral("defPlayerNameString");
+const QString ComputersKey = QStringLiteral("defPlayerIsCompString");
+const QString StylesKey = QStringLiteral("defPlayerStyleString");
+const QString UnusedSeat = QStringLiteral("~");
+
+QString DefaultOf(const QString& Key) {
+  const QString Fields = Key == NamesKey
+                             ? QStringLiteral("Player1|Player2|Player3|Player4|Player5|Player6|Player7|Player8")
+                         : Key == ComputersKey ? QStringLiteral("False|True|True|True|True|True|True|True|")
+                                               : QStringLiteral("00|0|22|33|44|55|66|77|");
+  return QString(Fields).replace(QLatin1Char('|'), FieldSeparator);
+}
+
+/// The fields of a key; a key that isn't there yet is written with its default.
+QStringList FieldsOf(const IniInfo& Info, const QString& Key) {
+  QString Text = Info.ReadInfoValue(Key);
+  if (Text.isEmpty()) {
+    Text = DefaultOf(Key);
+    Info.WriteInfoValue(Key, Text);
+  }
+  return Text.split(FieldSeparator);
+}
+
+int StyleOf(const QString& Field) {
+  bool IsNumber = false;
+  const int Index = Field.trimmed().toInt(&IsNumber);
+  return IsNumber && Index >= 0 && Index < SavedSetup::Styles ? Index : 0;
+}
+
+}  // namespace
+
+SavedSetup SavedSetup::ForPlayers(int NumPlayers) {
+  SavedSetup Setup;
+  Setup.NumPlayers = NumPlayers;
+  for (int i = 0; i < NumPlayers; ++i)
+    Setup.Players[static_cast<std::size_t>(i)].Name = QStringLiteral("Player%1").arg(i + 1);
+  if (NumPlayers == 1) Setup.Players[1] = {QStringLiteral("Computer"), true, 0};
+  return Setup;
+}
+
+SavedSetup SavedSetup::Load(const IniInfo& Info, const GameSettings& Settings) {
+  bool IsNumber = false;
+  const int Count = Info.ReadInfoValue(CountKey, QStringLiteral("1")).trimmed().toInt(&IsNumber);
+  SavedSetup Setup = ForPlayers(IsNumber && Count >= 1 && Count <= Seats ? Count : 1);
+  Setup.PlayToScore = Settings.ReadPlayToScore();
+  Setup.BreakInScore = Settings.ReadBreakInScore();
+
+  const QStringList Names = FieldsOf(Info, NamesKey);
+  const QStringList Computers = FieldsOf(Info, ComputersKey);
+  const QStringList Styles = FieldsOf(Info, StylesKey);
+  for (int i = 0; i < Setup.NumPlayers; ++i) {
+    Seat& Player = Setup.Players[static_cast<std::size_t>(i)];
+    if (i < Names.size()) Player.Name = HeldToNameRule(Names[i]).left(LongestName);
+    Player.IsComputer = i < Computers.size() && Computers[i] == QLatin1String("True");
+    if (Player.IsComputer && i < Styles.size()) Player.Style = StyleOf(Styles[i]);
+  }
+  if (Setup.NumPlayers == 1 && Styles.size() > 1) Setup.Players[1].Style = StyleOf(Styles[1]);
+  return Setup;
+}
+
+void SavedSetup::Save(const IniInfo& Info, const GameSettings& Settings) const {
+  QString Names, Computers, StyleFields;
+  for (int i = 0; i < Seats; ++i) {
+    const Seat& Player = Players[static_cast<std::size_t>(i)];
+    const bool Used = i < NumPlayers;
+    Names += (Used ? Player.Name : UnusedSeat) + FieldSeparator;
+    Computers +=
+        (Used ? (Player.IsComputer ? QStringLiteral("True") : QStringLiteral("False")) : UnusedSeat) + FieldSeparator;
+    StyleFields +=
+        (Used && Player.IsComputer ? QString::number(Player.Style) : QStringLiteral("%1%1").arg(i)) + FieldSeparator;
+  }
+  if (NumPlayers == 1) StyleFields.replace(QStringLiteral("11"), QString::number(Players[1].Style));
+  Settings.WritePlayToScore(PlayToScore);
+  Settings.WriteBreakInScore(BreakInScore);
+  Info.WriteInfoValue(CountKey, QString::number(NumPlayers));
+  Info.WriteInfoValue(NamesKey, Names);
+  Info.WriteInfoValue(ComputersKey, Computers);
+  Info.WriteInfoValue(StylesKey, StyleFields);
+}
+
+}  // namespace blunko

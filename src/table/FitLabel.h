@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QLabel>
+
+namespace blunko {
+
+/// A label on a picture: no background, and its text shrinks rather than being cut. Its colour is its own.
+class FitLabel : public QLabel {
+  Q_OBJECT
+
+ public:
+  explicit FitLabel(QWidget* Parent = nullptr) : QLabel(Parent) {}
+  FitLabel(const QString& Caption, QWidget* Parent) : QLabel(Caption, Parent) {}
+
+  void setForeColor(const QColor& Colour);
+  QColor ForeColor() const { return foreColor; }
+
+ signals:
+  void clicked();
+
+ protected:
+  void paintEvent(QPaintEvent* Event) override;
+  void mouseReleaseEvent(QMouseEvent* Event) override;
+  void mousePressEvent(QMouseEvent* Event) override;
+
+ private:
+  QColor foreColor = Qt::black;
+};
+
+}  // namespace blunko

@@ -1,0 +1,35 @@
+#include "table/Fonts.h"
+
+#include <QStringList>
+
+namespace blunko {
+
+namespace {
+
+QStringList Families(Typeface Face) {
+  switch (Face) {
+    case Typeface::Verdana:
+      return {QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans"), QStringLiteral("Bitstream Vera Sans"),
+              QStringLiteral("sans-serif")};
+    case Typeface::ComicSans:
+      return {QStringLiteral("Comic Sans MS"), QStringLiteral("Comic Neue"), QStringLiteral("Comic Relief"),
+              QStringLiteral("DejaVu Sans"), QStringLiteral("sans-serif")};
+    case Typeface::CourierNew:
+      return {QStringLiteral("Courier New"), QStringLiteral("Liberation Mono"), QStringLiteral("DejaVu Sans Mono"),
+              QStringLiteral("monospace")};
+  }
+  return {};
+}
+
+}  // namespace
+
+QFont FontOf(Typeface Face, double Points, bool Bold) {
+  QFont Font;
+  Font.setFamilies(Families(Face));
+  if (Face == Typeface::CourierNew) Font.setStyleHint(QFont::Monospace);
+  Font.setPixelSize(qRound(Points * 20 / 15));
+  Font.setBold(Bold);
+  return Font;
+}
+
+}  // namespace blunko

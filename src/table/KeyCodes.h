@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QKeyEvent>
+
+#include <cstdint>
+
+namespace blunko {
+
+/// Virtual key code of a key, as the table's key handler takes it; 0 for a key that is no command.
+inline std::int16_t KeyCodeOf(const QKeyEvent& Event) {
+  const int Key = Event.key();
+  const bool NumPad = Event.modifiers().testFlag(Qt::KeypadModifier);
+  if (Key >= Qt::Key_0 && Key <= Qt::Key_9) return static_cast<std::int16_t>((NumPad ? 96 : 48) + (Key - Qt::Key_0));
+  switch (Key) {
+    case Qt::Key_Backspace: return 8;
+    case Qt::Key_Escape: return 27;
+    case Qt::Key_P: return 80;
+    case Qt::Key_R: return 82;
+    case Qt::Key_F2: return 113;
+    case Qt::Key_Period:
+    case Qt::Key_Comma: return NumPad ? 110 : 0;  // the decimal point has two faces
+    default: return 0;
+  }
+}
+
+/// Mask of the modifier keys: 1 Shift, 2 Control, 4 Alt.
+inline std::int16_t ShiftMaskOf(const QKeyEvent& Event) {
+  const Qt::KeyboardModifiers Held = Event.modifiers();
+  return static_cast<std::int16_t>((Held.testFlag(Qt::ShiftModifier) ? 1 : 0) |
+                                   (Held.testFlag(Qt::ControlModifier) ? 2 : 0) |
+                                   (Held.testFlag(Qt::AltModifier) ? 4 : 0));
+}
+
+}  // namespace blunko

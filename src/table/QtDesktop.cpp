@@ -1,0 +1,77 @@
+#include "table/QtDesktop.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QFile>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTimer>
+
+#include "storage/NameRule.h"
+#include "table/NameValidator.h"
+
+namespace blunko {
+
+void QtDesktop::Sleep(int Milliseconds) {
+  ShowControls();
+  if (WaitFactor == 0) return;
+  QEventLoop Loop;
+  QTimer::singleShot(static_cast<int>(Milliseconds * WaitFactor), Qt::PreciseTimer, &Loop, &QEventLoop::quit);
+  Loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+void QtDesktop::PumpEvents() {
+  ShowControls();
+  QCoreApplication::processEvents(QEventLoop::AllEvents);
+}
+
+void QtDesktop::WaitForEvents() {
+  ShowControls();
+  QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void QtDesktop::Beep() { QApplication::beep(); }
+
+void QtDesktop::PlaySoundFile(const std::string& File, bool Always) {
+  if (PlayFile) PlayFile(QFile::decodeName(QByteArray::fromStdString(File)), Always);
+}
+
+void QtDesktop::MessageBox(const std::string& Text) {
+  ShowControls();
+  ShowMessage(QString::fromStdString(Text));
+}
+
+bool QtDesktop::AskYesNo(const std::string& Text, const std::string& Title) {
+  ShowControls();
+  return AskQuestion(QString::fromStdString(Text), QString::fromStdString(Title));
+}
+
+void QtDesktop::SetMousePointer(MousePointer Pointer) {
+  if (ShowPointer) ShowPointer(Pointer);
+}
+
+QString QtDesktop::InputBox(const QString& Prompt, const QString& Title, const QString& Preset) {
+  QInputDialog Box(QApplication::activeWindow());
+  Box.setWindowTitle(Title);
+  Box.setLabelText(Prompt);
+  Box.setTextValue(HeldToNameRule(Preset));
+  if (auto* Line = Box.findChild<QLineEdit*>()) Line->setValidator(new NameValidator(Line));
+  return Box.exec() == QDialog::Accepted ? Box.textValue() : QString();
+}
+
+void ShowMessage(const QString& Text) {
+  QMessageBox Box(QMessageBox::Information, ProductName, Text, QMessageBox::Ok, QApplication::activeWindow());
+  Box.setTextFormat(Qt::PlainText);
+  Box.exec();
+}
+
+bool AskQuestion(const QString& Text, const QString& Title) {
+  QMessageBox Box(QMessageBox::Question, Title, Text, QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+  Box.setTextFormat(Qt::PlainText);
+  Box.setDefaultButton(QMessageBox::No);
+  Box.setEscapeButton(QMessageBox::No);
+  return Box.exec() == QMessageBox::Yes;
+}
+
+}  // namespace blunko

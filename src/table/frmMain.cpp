@@ -1,0 +1,304 @@
+#include "table/frmMain.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QScreen>
+#include <QTimer>
+
+#include "engine/ScoreDice.h"
+#include "table/Fonts.h"
+#include "table/KeyCodes.h"
+#include "table/Twips.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr int TableWidth = 5895, TableHeight = 7695;  // twips
+constexpr int OptionsWidth = 2385;
+constexpr int TrayLeft = 195, TrayWidth = 5470, TrayHeight = 945;
+constexpr int Tray1Top = 435, Tray2Top = 1380;
+constexpr int DieTop = 45, DieSide = 816;
+constexpr std::array<int, 6> MarkerLeft{603, 1503, 2388, 3288, 4188, 5073};
+constexpr int MarkerTop = 300, MarkerSide = 75;
+constexpr int DividerTop = 120, DividerWidth = 75, DividerHeight = 870;
+
+/// Draws one of the numbered bitmaps in its top left corner.
+class BitmapBox : public QWidget {
+ public:
+  BitmapBox(int Number, Bitmaps& Pictures, QWidget* Parent) : QWidget(Parent), number(Number), bitmaps(Pictures) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override { QPainter(this).drawPixmap(0, 0, bitmaps.Get(number, devicePixelRatioF())); }
+
+ private:
+  int number;
+  Bitmaps& bitmaps;
+};
+
+QColor OfBgr(std::uint32_t Colour) { return QColor(Colour & 0xFF, (Colour >> 8) & 0xFF, (Colour >> 16) & 0xFF); }
+
+}  // namespace
+
+frmMain::frmMain(Game& Table) : QWidget(nullptr, Qt::Window), game(Table) {
+  setObjectName(QStringLiteral("frmMain"));
+  setWindowTitle(QStringLiteral(" Tollmoor Blunko"));
+  setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                 Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
+  setFocusPolicy(Qt::StrongFocus);
+  PlaceControls();
+  BuildMenus();
+  ConnectControls();
+  setFixedSize(Pixels(TableWidth), Pixels(TableHeight));
+  FixButtonColours(*this);
+  ShowControls();
+}
+
+void frmMain::PlaceControls() {
+  const auto Panel = [](QWidget* Made, const char* Name, QRect Place) {
+    Made->setObjectName(QLatin1String(Name));
+    Made->setGeometry(Place);
+    return Made;
+  };
+  // The options panel lies behind the table, which covers it wherever the two overlap.
+  picOptionsTray = Panel(new QWidget(this), "picOptionsTray", TwipsRect(0, 0, OptionsWidth, TableHeight));
+  picOptionsTray->hide();
+  picGameTray = Panel(new QWidget(this), "picGameTray", TwipsRect(0, 0, TableWidth, 7725));
+  picGameTray->setAutoFillBackground(true);
+  Image1 = new StretchedPicture(picGameTray);
+  Panel(Image1, "Image1", TwipsRect(0, 0, TableWidth, TableHeight));
+
+  picTray1 = new DiceTray(picGameTray);
+  Panel(picTray1, "picTray1", TwipsRect(TrayLeft, Tray1Top, TrayWidth, TrayHeight));
+  picTray2 = new DiceTray(picGameTray);
+  Panel(picTray2, "picTray2", TwipsRect(TrayLeft, Tray2Top, TrayWidth, TrayHeight));
+  for (int i = 0; i < 6; ++i) {
+    for (const int Index : {i, 10 + i}) {
+      auto* Box = new DieBox(Index, Pictures, Index < 10 ? picTray1 : picTray2);
+      Panel(Box, "", TwipsRect(DieBoxLeft[i], DieTop, DieSide, DieSide));
+      Box->setObjectName(QStringLiteral("Picture1(%1)").arg(Index));
+      Picture1[Index < 10 ? i : 6 + i] = Box;
+    }
+    picMarker[i] = new BitmapBox(MarkerBitmap, Pictures, picGameTray);
+    Panel(picMarker[i], "", TwipsRect(MarkerLeft[i], MarkerTop, MarkerSide, MarkerSide));
+    picMarker[i]->setObjectName(QStringLiteral("picMarker(%1)").arg(i));
+  }
+  pctDivider = Panel(new BitmapBox(DividerBitmap, Pictures, picTray2), "pctDivider",
+                     TwipsRect(0, DividerTop, DividerWidth, DividerHeight));
+
+  const auto Button = [this](const char* Name, const QString& Caption, QRect Place) {
+    auto* Made = new ButtonPlus(Caption, picGameTray);
+    Made->setObjectName(QLatin1String(Name));
+    Made->setGeometry(Place);
+    return Made;
+  };
+  const auto BigButton = [&](const char* Name, const QString& Caption, int Left) {
+    ButtonPlus* Made = Button(Name, Caption, QRect(Left, 166, 158, 38));
+    Made->setFont(FontOf(Typeface::Verdana, 11.25, true));
+    return Made;
+  };
+  ARCmdNewGame = BigButton("ARCmdNewGame", tr("New Game"), 118);
+  cmdRoll = BigButton("cmdRoll", tr("Roll Dice"), 30);
+  cmdPassDice = BigButton("cmdPassDice", tr("Pass Dice"), 205);
+  cmdOptions = Button("cmdOptions", tr("Options"), QRect(11, 470, 119, 34));
+  cmdHighRollers = Button("cmdHighRollers", tr("High Rollers"), QRect(137, 470, 119, 34));
+  cmdExit = Button("cmdExit", tr("Exit"), QRect(263, 470, 119, 34));
+
+  const auto Text = [this](const char* Name, const QString& Caption, QRect Place, double Points, bool Bold,
+                           Qt::Alignment Side) {
+    auto* Made = new FitLabel(Caption, picGameTray);
+    Made->setObjectName(QLatin1String(Name));
+    Made->setGeometry(Place);
+    Made->setFont(FontOf(Typeface::Verdana, Points, Bold));
+    Made->setAlignment(Side | Qt::AlignVCenter);
+    return Made;
+  };
+  lblStatus = Text("lblStatus", {}, QRect(6, Pixels(StatusTop), 381, 30), 15.75, false, Qt::AlignHCenter);
+  lblLastRoll = Text("lblLastRoll", {}, QRect(6, 236, 381, 24), 11.25, true, Qt::AlignHCenter);
+  Label1 = Text("Label1", tr("Current Player:"), QRect(10, 300, 180, 26), 11.25, true, Qt::AlignRight);
+  lblPlayer = Text("lblPlayer", {}, QRect(200, 300, 185, 26), 11.25, true, Qt::AlignLeft);
+  lblTurnScoreLabel =
+      Text("lblTurnScoreLabel", tr("Score This Turn:"), QRect(10, 330, 180, 26), 11.25, true, Qt::AlignRight);
+  lblTurnScore = Text("lblTurnScore", {}, QRect(200, 330, 185, 26), 11.25, true, Qt::AlignLeft);
+  lblMnuGame = Text("lblMnuGame", tr("Game"), QRect(12, 5, 38, 20), 8.25, false, Qt::AlignLeft);
+  lblMnuHelp = Text("lblMnuHelp", tr("Help"), QRect(60, 5, 34, 20), 8.25, false, Qt::AlignLeft);
+  for (FitLabel* Menu : {lblMnuGame, lblMnuHelp}) Menu->setCursor(Qt::PointingHandCursor);
+}
+
+void frmMain::BuildMenus() {
+  const auto Entry = [this](QMenu* Menu, const char* Name, const QString& Caption, auto Run) {
+    QAction* Made = Menu->addAction(Caption);
+    Made->setObjectName(QLatin1String(Name));
+    connect(Made, &QAction::triggered, this, Run);
+  };
+  const auto Call = [](const std::function<void()>& Command) {
+    if (Command) Command();
+  };
+  mnuGame = new QMenu(this);
+  mnuGame->setObjectName(QStringLiteral("mnuGame"));
+  Entry(mnuGame, "mnuNewGame", tr("&New Game  (F2)"), [this] { Handle([this] { game.mnuNewGame_Click(); }); });
+  Entry(mnuGame, "mnuOptions", tr("&Options..."), [this, Call] { Call(OnCommand.Options); });
+  mnuGame->addSeparator()->setObjectName(QStringLiteral("mnuSep1"));
+  Entry(mnuGame, "mnuExit", tr("&Exit"), [this] { close(); });
+  mnuHelpMe = new QMenu(this);
+  mnuHelpMe->setObjectName(QStringLiteral("mnuHelpMe"));
+  Entry(mnuHelpMe, "mnuHowToPlay", tr("How to Play..."), [this, Call] { Call(OnCommand.HowToPlay); });
+  Entry(mnuHelpMe, "mnuGoHelp", tr("&Show Tollmoor Blunko Help..."), [this, Call] { Call(OnCommand.GoHelp); });
+  mnuHelpMe->addSeparator()->setObjectName(QStringLiteral("mnuSep99"));
+  Entry(mnuHelpMe, "mnuAbout", tr("About Tollmoor Blunko..."), [this, Call] { Call(OnCommand.About); });
+}
+
+void frmMain::ConnectControls() {
+  for (DieBox* Box : Picture1) {
+    connect(Box, &DieBox::mouseUp, this, [this](int Index, int Button) {
+      Handle([=, this] { game.PersonClicksDie(static_cast<std::int16_t>(Index), static_cast<std::int16_t>(Button)); });
+    });
+  }
+  for (DiceTray* Tray : {picTray1, picTray2}) {
+    connect(Tray, &DiceTray::mouseUp, this, [this](int Button) {
+      if (Button == RightButton) Handle([this] { game.PersonRolls(); });
+    });
+  }
+  connect(cmdRoll, &QPushButton::clicked, this, [this] { Handle([this] { game.PersonRolls(); }); });
+  connect(cmdPassDice, &QPushButton::clicked, this, [this] { Handle([this] { game.PersonPasses(); }); });
+  connect(ARCmdNewGame, &QPushButton::clicked, this, [this] { Handle([this] { game.ARCmdNewGame_Click(); }); });
+  connect(cmdExit, &QPushButton::clicked, this, [this] { close(); });
+  connect(cmdOptions, &QPushButton::clicked, this, [this] {
+    if (OnCommand.Options) OnCommand.Options();
+  });
+  connect(cmdHighRollers, &QPushButton::clicked, this, [this] {
+    if (OnCommand.HighRollers) OnCommand.HighRollers();
+  });
+  const auto PopUp = [this](FitLabel* Label, QMenu* Menu) {
+    connect(Label, &FitLabel::clicked, this,
+            [Label, Menu] { Menu->popup(Label->mapToGlobal(QPoint(0, Label->height()))); });
+  };
+  PopUp(lblMnuGame, mnuGame);
+  PopUp(lblMnuHelp, mnuHelpMe);
+}
+
+void frmMain::ShowControls() {
+  const TableControls& t = game.t;
+  picGameTray->setEnabled(t.picGameTray.Enabled);
+  Show(ARCmdNewGame, t.ARCmdNewGame);
+  Show(cmdRoll, t.cmdRoll);
+  Show(cmdPassDice, t.cmdPassDice);
+  picTray1->setEnabled(t.picTray1.Enabled);
+  picTray2->setEnabled(t.picTray2.Enabled);
+  for (int i = 0; i < 6; ++i) {
+    Picture1[i]->setPicture(t.Picture1(i));
+    Picture1[6 + i]->setPicture(t.Picture1(10 + i));
+    picMarker[i]->setVisible(t.picMarker[i]);
+  }
+  pctDivider->move(Pixels(t.pctDivider.Left), pctDivider->y());
+  pctDivider->setVisible(t.pctDivider.Visible);
+  Show(lblStatus, t.lblStatus.Caption, t.lblStatus.Visible, Pixels(t.lblStatus.Top));
+  Show(lblLastRoll, t.lblLastRoll.Caption, t.lblLastRoll.Visible, lblLastRoll->y());
+  Show(lblPlayer, t.lblPlayer.Caption, t.lblPlayer.Visible, lblPlayer->y());
+  Show(lblTurnScore, t.lblTurnScore.Caption, t.lblTurnScore.Visible, lblTurnScore->y());
+  DescribeDice();
+  // The handlers may not return to the event loop for a while: what was marked for painting is painted now.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
+}
+
+void frmMain::Show(ButtonPlus* Widget, const Button& Control) {
+  const bool Usable = Control.Enabled && Control.Visible;
+  // A button that goes off hands the focus to the table, not to the button that happens to come next.
+  if (!Usable && Widget->hasFocus()) setFocus();
+  Widget->setEnabled(Control.Enabled);
+  Widget->setVisible(Control.Visible);
+}
+
+void frmMain::Show(FitLabel* Widget, const std::string& Caption, bool Visible, int Top) {
+  Widget->setText(QString::fromStdString(Caption));
+  Widget->setVisible(Visible);
+  Widget->move(Widget->x(), Top);
+}
+
+/// What a screen reader says of the dice: "Die 3: five, scores".
+void frmMain::DescribeDice() {
+  static const std::array<QString, 7> Names{QString(),  tr("one"),  tr("two"), tr("three"),
+                                            tr("four"), tr("five"), tr("six")};
+  const Module1& m = game.m;
+  for (int i = 0; i < 6; ++i) {
+    QString Table = tr("Die %1: empty").arg(i + 1);
+    if (m.ShownFace[i] != 0) {
+      Table = tr("Die %1: %2").arg(i + 1).arg(Names[static_cast<std::size_t>(m.ShownFace[i])]);
+      if (m.DieUp[i] && IsScorer(m.DieScoreCode[i])) Table += tr(", scores");
+    }
+    Picture1[i]->setAccessibleName(Table);
+    Picture1[6 + i]->setAccessibleName(
+        m.TrayFace[i] == 0 ? tr("Tray %1: empty").arg(i + 1)
+                           : tr("Tray %1: %2").arg(i + 1).arg(Names[static_cast<std::size_t>(m.TrayFace[i])]));
+  }
+}
+
+void frmMain::PaintTrays(const QColor& Tray1, const QColor& Tray2) {
+  picTray1->setBackColor(Tray1);
+  picTray2->setBackColor(Tray2);
+  for (int i = 0; i < 6; ++i) {
+    Picture1[i]->setBackColor(Tray1);
+    Picture1[6 + i]->setBackColor(Tray2);
+  }
+}
+
+void frmMain::ShowBackground(const QString& Path) { Image1->Load(Path == QLatin1String("(None)") ? QString() : Path); }
+
+void frmMain::ColourLabels(std::uint32_t Colour) {
+  for (FitLabel* Label : picGameTray->findChildren<FitLabel*>(Qt::FindDirectChildrenOnly)) {
+    Label->setForeColor(OfBgr(Colour));
+  }
+}
+
+void frmMain::CentreOnScreen() {
+  const QRect Screen = screen()->availableGeometry();
+  move(Screen.center() - QPoint(width() / 2, height() / 2));
+}
+
+void frmMain::showEvent(QShowEvent* Event) {
+  QWidget::showEvent(Event);
+  if (activatedBefore) return;
+  activatedBefore = true;
+  setFocus();
+  QTimer::singleShot(0, this, [this] {
+    if (OnCommand.FirstShown) OnCommand.FirstShown();
+  });
+}
+
+void frmMain::closeEvent(QCloseEvent* Event) {
+  bool Goes = false;
+  Handle([&] { Goes = game.Form_Unload(); });
+  Event->setAccepted(Goes);
+}
+
+void frmMain::changeEvent(QEvent* Event) {
+  QWidget::changeEvent(Event);
+  if (Event->type() == QEvent::WindowStateChange) {
+    const bool Before = static_cast<QWindowStateChangeEvent*>(Event)->oldState().testFlag(Qt::WindowMinimized);
+    if (Before != isMinimized()) emit minimised();
+  }
+  if (Event->type() == QEvent::ActivationChange) keysDown.clear();
+}
+
+void frmMain::keyPressEvent(QKeyEvent* Event) {
+  if (!Event->isAutoRepeat()) keysDown.insert(Event->key());
+  QWidget::keyPressEvent(Event);
+}
+
+void frmMain::keyReleaseEvent(QKeyEvent* Event) {
+  // A key that was pressed in a dialog, now closed, is no command here; nor is a key held down.
+  if (Event->isAutoRepeat() || keysDown.erase(Event->key()) == 0) {
+    QWidget::keyReleaseEvent(Event);
+    return;
+  }
+  const std::int16_t Code = KeyCodeOf(*Event);
+  const std::int16_t Shift = ShiftMaskOf(*Event);
+  Handle([=, this] { game.Form_KeyUp(Code, Shift); });
+}
+
+}  // namespace blunko

@@ -1,0 +1,107 @@
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+#include <functional>
+#include <set>
+
+#include "engine/Game.h"
+#include "table/ButtonPlus.h"
+#include "table/DieBox.h"
+#include "table/FitLabel.h"
+#include "table/Pictures.h"
+
+class QMenu;
+
+namespace blunko {
+
+/// The game table. It draws the record of the controls and brings clicks and keys to the game's handlers; what the
+/// game shows isn't held here.
+class frmMain : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// What the buttons and menu entries that aren't game moves call. An unset command has no effect.
+  struct Commands {
+    std::function<void()> Options, HighRollers, HowToPlay, GoHelp, About;
+    std::function<void()> FirstShown;  ///< the window has come up for the first time
+  };
+
+  explicit frmMain(Game& Table);
+
+  /// Copies the record of the controls to the widgets; what has changed is on the screen when it returns.
+  void ShowControls();
+
+  /// Gives trays and die boxes the colour of the dice set at program start.
+  void PaintTrays(const QColor& Tray1, const QColor& Tray2);
+  /// Shows the background picture at the path; none for "(None)".
+  void ShowBackground(const QString& Path);
+  /// Gives the labels of the table the text colour, 0xBBGGRR.
+  void ColourLabels(std::uint32_t Colour);
+  /// Moves the window to the middle of its screen.
+  void CentreOnScreen();
+
+  /// Runs a handler of the game, and shows what it has changed.
+  template <typename Handler>
+  void Handle(Handler Run) {
+    Run();
+    ShowControls();
+  }
+
+  Commands OnCommand;
+
+  // The controls.
+  QWidget* picOptionsTray;
+  QWidget* picGameTray;
+  StretchedPicture* Image1;
+  DiceTray* picTray1;
+  DiceTray* picTray2;
+  std::array<DieBox*, 12> Picture1;  ///< 0 to 5 the table, 6 to 11 the tray slots
+  std::array<QWidget*, 6> picMarker;
+  QWidget* pctDivider;
+  ButtonPlus* ARCmdNewGame;
+  ButtonPlus* cmdRoll;
+  ButtonPlus* cmdPassDice;
+  FitLabel* lblStatus;
+  FitLabel* lblLastRoll;
+  FitLabel* Label1;
+  FitLabel* lblPlayer;
+  FitLabel* lblTurnScoreLabel;
+  FitLabel* lblTurnScore;
+  ButtonPlus* cmdOptions;
+  ButtonPlus* cmdHighRollers;
+  ButtonPlus* cmdExit;
+  FitLabel* lblMnuGame;
+  FitLabel* lblMnuHelp;
+  QMenu* mnuGame;
+  QMenu* mnuHelpMe;
+
+  /// The bitmaps by number, shared by everything on the table.
+  Bitmaps Pictures;
+
+ signals:
+  /// The window was minimised or restored.
+  void minimised();
+
+ protected:
+  void showEvent(QShowEvent* Event) override;
+  void closeEvent(QCloseEvent* Event) override;
+  void changeEvent(QEvent* Event) override;
+  void keyPressEvent(QKeyEvent* Event) override;
+  void keyReleaseEvent(QKeyEvent* Event) override;
+
+ private:
+  void PlaceControls();
+  void BuildMenus();
+  void ConnectControls();
+  void Show(ButtonPlus* Widget, const Button& Control);
+  void Show(FitLabel* Widget, const std::string& Caption, bool Visible, int Top);
+  void DescribeDice();
+
+  Game& game;
+  std::set<int> keysDown;  ///< pressed in this window: only their release is a command
+  bool activatedBefore = false;
+};
+
+}  // namespace blunko

@@ -1,0 +1,110 @@
+#include "table/frmScorePad.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPalette>
+#include <QScreen>
+
+#include "table/Fonts.h"
+#include "table/Twips.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr int Width = 2595;                                      // twips
+constexpr int GapToTable = 175;                                  // twips
+constexpr int FirstRow = 1380, RowPitch = 420, RowHeight = 375;  // twips
+const QColor Background(2, 127, 255);
+const QColor SeatOnTurn(0x30, 0xFF, 0x30);
+const QColor OtherSeat(Qt::black);
+const QColor Heading(Qt::yellow);
+
+}  // namespace
+
+frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
+    : QWidget(Table, Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      m(State),
+      table(Table) {
+  setObjectName(QStringLiteral("frmScorePad"));
+  setWindowTitle(QStringLiteral(" Score Pad"));
+  setAttribute(Qt::WA_ShowWithoutActivating);
+  QPalette Colours = palette();
+  Colours.setColor(QPalette::Window, Background);
+  setPalette(Colours);
+  setAutoFillBackground(true);
+
+  const auto Text = [this](const QString& Name, const QString& Caption, QRect Place, Qt::Alignment Side, QColor Ink) {
+    auto* Made = new FitLabel(Caption, this);
+    Made->setObjectName(Name);
+    Made->setGeometry(Place);
+    Made->setFont(FontOf(Typeface::Verdana, 9.75, true));
+    Made->setAlignment(Side | Qt::AlignTop);
+    Made->setForeColor(Ink);
+    Made->setAttribute(Qt::WA_TransparentForMouseEvents);
+    return Made;
+  };
+  lblGoal = Text(QStringLiteral("lblGoal"), {}, TwipsRect(120, 90, 2250, 375), Qt::AlignHCenter, Heading);
+  label_break_in =
+      Text(QStringLiteral("label_break_in"), {}, TwipsRect(120, 480, 2250, 375), Qt::AlignHCenter, Heading);
+  Label2 = Text(QStringLiteral("Label2"), tr("Player"), TwipsRect(240, 960, 1095, 375), Qt::AlignLeft, Heading);
+  Label3 = Text(QStringLiteral("Label3"), tr("Score"), TwipsRect(1800, 960, 615, 375), Qt::AlignLeft, Heading);
+  for (FitLabel* Underlined : {Label2, Label3}) {
+    QFont Font = Underlined->font();
+    Font.setUnderline(true);
+    Underlined->setFont(Font);
+  }
+  for (int i = 0; i < MaxSeats; ++i) {
+    const int Top = FirstRow + RowPitch * i;
+    lblPlayer[i] = Text(QStringLiteral("lblPlayer(%1)").arg(i), {}, TwipsRect(240, Top, 1560, RowHeight), Qt::AlignLeft,
+                        OtherSeat);
+    lblScore[i] =
+        Text(QStringLiteral("lblScore(%1)").arg(i), {}, TwipsRect(1800, Top, 750, 255), Qt::AlignLeft, OtherSeat);
+  }
+  UpdateActivePlayer();
+}
+
+void frmScorePad::SetPosition() {
+  const QRect Table = table->frameGeometry();
+  const QRect Screen = table->screen()->geometry();
+  int Left = Table.right() + 1 + Pixels(GapToTable);
+  if (Left > Screen.right()) Left = Table.left() - Pixels(GapToTable) - frameGeometry().width();
+  move(Left, Table.top());
+}
+
+void frmScorePad::UpdateActivePlayer() {
+  for (int i = 0; i < m.NumPlayers; ++i) {
+    const QColor Ink = i == m.CurrentPlayer ? SeatOnTurn : OtherSeat;
+    QFont Font = lblPlayer[i]->font();
+    Font.setItalic(m.PlayerIsComputer[i]);
+    lblPlayer[i]->setFont(Font);
+    lblPlayer[i]->setForeColor(Ink);
+    lblScore[i]->setText(QString::number(m.PlayerScore[i]));
+    lblScore[i]->setForeColor(Ink);
+  }
+}
+
+void frmScorePad::Form_Activate() {
+  lblGoal->setText(QStringLiteral("(Playing to %1)").arg(m.PlayToScore));
+  label_break_in->setText(QStringLiteral("(%1 to break in)").arg(m.BreakInScore));
+  for (int i = 0; i < m.NumPlayers; ++i) lblPlayer[i]->setText(QString::fromStdString(m.PlayerName[i]));
+  const int LastSeat = m.NumPlayers > 1 ? m.NumPlayers - 1 : 1;
+  setFixedSize(Pixels(Width), Pixels(FirstRow + RowPitch * LastSeat + RowHeight));
+  UpdateActivePlayer();
+}
+
+void frmScorePad::showEvent(QShowEvent* Event) {
+  Form_Activate();
+  QWidget::showEvent(Event);
+}
+
+void frmScorePad::changeEvent(QEvent* Event) {
+  QWidget::changeEvent(Event);
+  if (Event->type() == QEvent::ActivationChange && isActiveWindow()) Form_Activate();
+}
+
+// The pad has no use for keys: those typed while it has the focus are meant for the table.
+void frmScorePad::keyPressEvent(QKeyEvent* Event) { QCoreApplication::sendEvent(table, Event); }
+void frmScorePad::keyReleaseEvent(QKeyEvent* Event) { QCoreApplication::sendEvent(table, Event); }
+
+}  // namespace blunko

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+
+#include "engine/Module1.h"
+#include "table/FitLabel.h"
+
+namespace blunko {
+
+/// The small window beside the table with every seat's banked score. It holds no state: it copies the shared state
+/// whenever it is told.
+class frmScorePad : public QWidget {
+  Q_OBJECT
+
+ public:
+  frmScorePad(const Module1& State, QWidget* Table);
+
+  /// Takes its place to the right of the table, or to the left where the screen ends.
+  void SetPosition();
+  /// Brings marks, fonts and scores up to date.
+  void UpdateActivePlayer();
+
+ protected:
+  void showEvent(QShowEvent* Event) override;
+  void changeEvent(QEvent* Event) override;
+  void keyPressEvent(QKeyEvent* Event) override;
+  void keyReleaseEvent(QKeyEvent* Event) override;
+
+ private:
+  void Form_Activate();
+
+  const Module1& m;
+  QWidget* table;
+  FitLabel* lblGoal;
+  FitLabel* label_break_in;
+  FitLabel* Label2;
+  FitLabel* Label3;
+  std::array<FitLabel*, MaxSeats> lblPlayer;
+  std::array<FitLabel*, MaxSeats> lblScore;
+};
+
+}  // namespace blunko

@@ -1,0 +1,97 @@
+#include "util/TbkUtil.h"
+
+#include <QEventLoop>
+#include <QFile>
+#include <QGuiApplication>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QScreen>
+#include <QSysInfo>
+#include <QTextStream>
+#include <QThread>
+#include <QTimer>
+#include <QVersionNumber>
+
+#include <optional>
+
+#include "storage/FileAccess.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr qint64 LongestVersionText = 64;  // bytes
+constexpr int MostRedirects = 3;
+
+/// Value of the first line of a system file that begins with `Name`, as "model name : ...".
+QString ValueFrom(const QString& Path, const QByteArray& Name) {
+  QFile File(Path);
+  if (!File.open(QIODevice::ReadOnly)) return {};
+  for (const QByteArray& Line : File.readAll().split('\n')) {
+    if (Line.startsWith(Name)) return QString::fromUtf8(Line.mid(Line.indexOf(':') + 1).trimmed());
+  }
+  return {};
+}
+
+/// Three numbers with dots between, and nothing else but blanks around.
+std::optional<QVersionNumber> ParseVersion(const QByteArray& Text) {
+  const QString Trimmed = QString::fromLatin1(Text.trimmed());
+  qsizetype Rest = 0;
+  const QVersionNumber Version = QVersionNumber::fromString(Trimmed, &Rest);
+  if (Rest != Trimmed.size() || Version.segmentCount() != 3) return std::nullopt;
+  return Version;
+}
+
+}  // namespace
+
+TbkUtil::TbkUtil(QString VersionAddress, int TimeLimit)
+    : versionAddress(std::move(VersionAddress)), timeLimit(TimeLimit) {}
+
+void TbkUtil::UtilSurveyHardware() const {
+  QByteArray Text;
+  QTextStream Out(&Text);
+  const QString Model = ValueFrom(QStringLiteral("/proc/cpuinfo"), "model name");
+  Out << "Processor: " << (Model.isEmpty() ? QSysInfo::currentCpuArchitecture() : Model) << ", "
+      << QThread::idealThreadCount() << " threads\n";
+  Out << "Memory: " << ValueFrom(QStringLiteral("/proc/meminfo"), "MemTotal") << "\n";
+  Out << "System: " << QSysInfo::prettyProductName() << ", " << QSysInfo::kernelType() << " "
+      << QSysInfo::kernelVersion() << "\n";
+  for (const QScreen* Screen : QGuiApplication::screens()) {
+    const QSize Size = Screen->size() * Screen->devicePixelRatio();
+    Out << "Screen: " << Size.width() << " x " << Size.height() << " pixels, scale " << Screen->devicePixelRatio()
+        << "\n";
+  }
+  Out.flush();
+  ReplaceFile(folder + QStringLiteral("/hardware.txt"), Text);
+}
+
+TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revision) const {
+  QNetworkAccessManager Network;
+  QNetworkRequest Request{QUrl(versionAddress)};
+  Request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+  Request.setMaximumRedirectsAllowed(MostRedirects);
+
+  QEventLoop Loop;
+  QNetworkReply* Reply = Network.get(Request);
+  QObject::connect(Reply, &QNetworkReply::finished, &Loop, &QEventLoop::quit);
+  QObject::connect(Reply, &QNetworkReply::readyRead, &Loop, [&Loop, Reply] {
+    if (Reply->bytesAvailable() > LongestVersionText) Loop.quit();
+  });
+  QTimer::singleShot(timeLimit, &Loop, &QEventLoop::quit);
+  if (!Reply->isFinished()) Loop.exec(QEventLoop::ExcludeUserInputEvents);
+
+  const bool Answered = Reply->isFinished() && Reply->error() == QNetworkReply::NoError &&
+                        Reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == 200;
+  const QByteArray Text = Answered ? Reply->read(LongestVersionText + 1) : QByteArray();
+  Reply->abort();
+  const auto Newest = Text.size() <= LongestVersionText ? ParseVersion(Text) : std::nullopt;
+  if (!Newest) return VersionError;
+  return *Newest > QVersionNumber(Major, Minor, Revision) ? NewerExists : UpToDate;
+}
+
+void TbkUtil::UtilStoreLists(const QByteArray& Text) const {
+  ReplaceFile(folder + QStringLiteral("/highscores.dat"), Text);
+}
+
+}  // namespace blunko

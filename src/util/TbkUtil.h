@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace blunko {
+
+/// What the program asks of its utility library besides random numbers.
+class TbkUtil {
+ public:
+  /// `VersionAddress`: where a text "major.minor.revision" names the newest version. `TimeLimit` in ms.
+  explicit TbkUtil(QString VersionAddress, int TimeLimit = 5000);
+
+  /// The folder that the files of the next functions go to.
+  void UtilSetFolder(const QString& Folder) { folder = Folder; }
+
+  /// Writes "hardware.txt": processor, memory, system and screens in readable form. Nothing in it identifies a person,
+  /// and nothing is sent anywhere. Failure is silent.
+  void UtilSurveyHardware() const;
+
+  enum VersionAnswer { VersionError = 0, UpToDate = 1, NewerExists = 2 };
+  /// Compares with the newest version. Anything unexpected is an error, and so is no answer within the time limit.
+  VersionAnswer UtilCheckVersion(int Major, int Minor, int Revision) const;
+
+  /// Puts exactly these bytes in place of "highscores.dat": at any moment it holds the old or the new ones, whole.
+  /// Failure is silent and leaves the old ones.
+  void UtilStoreLists(const QByteArray& Text) const;
+
+ private:
+  QString folder;
+  QString versionAddress;
+  int timeLimit;
+};
+
+}  // namespace blunko
