@@ -20,7 +20,7 @@ function(add_module_tests folder)
   file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${folder}/*.cpp
        ${PROJECT_SOURCE_DIR}/tests/${folder}/*.h)
   add_executable(${folder}_tests ${sources})
-  target_include_directories(${folder}_tests PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_include_directories(${folder}_tests PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${folder}_tests PRIVATE blunko_${folder} blunko_warnings GTest::gmock ${ARGN})
   add_test(NAME ${folder} COMMAND ${folder}_tests)
   set_tests_properties(${folder} PROPERTIES TIMEOUT 600

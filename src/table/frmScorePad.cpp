@@ -65,6 +65,7 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
 }
 
 void frmScorePad::SetPosition() {
+  Form_Activate();  // a change of size after the move would shift the frame
   const QRect Table = table->frameGeometry();
   const QRect Screen = table->screen()->geometry();
   int Left = Table.right() + 1 + Pixels(GapToTable);

@@ -144,7 +144,10 @@ struct Table {
 
   std::string Codes() const {
     std::string All;
-    for (const auto Code : m.DieScoreCode) All += (All.empty() ? "" : " ") + std::string(Code);
+    for (const std::string_view Code : m.DieScoreCode) {
+      if (!All.empty()) All += ' ';
+      All += Code;
+    }
     return All;
   }
   std::vector<int> Tray() const {
