@@ -264,6 +264,7 @@ TEST(SelectDice, ScoresStopAtTheLimitOfTheirWidth) {
 TEST(SelectDice, TheRightButtonRollsIfRollingIsAllowed) {
   Table table;
   table.Begin({"Ann", "Bob"});
+  table.Numbers.Faces.assign(36, 1);
   table.Click(3, RightButton);
   EXPECT_GT(table.Numbers.Draws, 0);
   const int Draws = table.Numbers.Draws;

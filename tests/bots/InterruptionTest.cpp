@@ -1,0 +1,143 @@
+#include <gtest/gtest.h>
+#include <random>
+
+#include "bots/ComputerPlayers.h"
+#include "tests/engine/Table.h"
+
+namespace blunko::test {
+namespace {
+
+/// A player who mashes keys and buttons at every moment at which events are delivered, also inside other handlers.
+class Vandal {
+ public:
+  explicit Vandal(std::uint32_t Seed) : chance(Seed) {
+    screen.OnEvents = [this] { Deliver(); };
+    screen.Answer = true;
+    others.OnComputerTurn = [this] { players.RunComputerTurn(); };
+    others.OnNewGame = [this] { NewGameDialog(); };
+    others.OnCongrats = [this] {
+      static const char* const Words[] = {"SameGame", "DifferentGame", "Quit", "", "SameGame"};
+      table.m.FormMessage = Words[Pick(5)];
+    };
+  }
+
+  /// Plays until the program quits or the steps are used up. Returns what went wrong, empty if nothing did.
+  std::string Play(int Steps) {
+    game.ClearAtStart();
+    for (stepsLeft = Steps; stepsLeft > 0 && !table.m.Quitting && fault.empty(); --stepsLeft) Act();
+    return fault;
+  }
+
+ private:
+  struct Dice : NumberSource {
+    std::minstd_rand& chance;
+    explicit Dice(std::minstd_rand& Chance) : chance(Chance) {}
+    std::int32_t UtilRandom(std::int32_t Bound) override {
+      return 1 + static_cast<std::int32_t>(chance() % static_cast<unsigned>(Bound));
+    }
+  };
+  struct Uniform : UniformSource {
+    std::minstd_rand& chance;
+    explicit Uniform(std::minstd_rand& Chance) : chance(Chance) {}
+    double Next() override { return static_cast<double>(chance() % 1000) / 1000; }
+  };
+
+  int Pick(int Bound) { return static_cast<int>(chance() % static_cast<unsigned>(Bound)); }
+
+  void Deliver() {
+    screen.Log.clear();
+    if (stepsLeft <= 0) table.m.Quitting = true;  // the end of the test is the end of the program
+    if (depth >= 3 || table.m.Quitting) return;
+    ++depth;
+    // A wait for the options panel must see it closed some time.
+    for (int Events = table.m.PauseComputer ? 1 + Pick(3) : Pick(8) == 0 ? 1 + Pick(3) : 0; Events > 0; --Events) {
+      --stepsLeft;
+      Act();
+    }
+    --depth;
+  }
+
+  void Act() {
+    static constexpr std::int16_t Keys[] = {49, 50, 51, 52, 53, 54, 97, 101, 82, 82, 82, 80, 80, 96, 110, 8, 65};
+    screen.Answer = Pick(3) != 0;
+    const bool PanelOpen = !table.t.picGameTray.Enabled;
+    switch (Pick(12)) {
+      case 0:
+      case 1:
+      case 2: game.Form_KeyUp(Keys[Pick(std::size(Keys))], 0); break;
+      case 3:
+      case 4:
+      case 5:
+        game.PersonClicksDie(static_cast<std::int16_t>(Pick(17) - 1), static_cast<std::int16_t>(1 + Pick(2)));
+        break;
+      case 6: game.PersonRolls(); break;
+      case 7: game.PersonPasses(); break;
+      case 8:
+        if (Pick(4) == 0) game.Form_KeyUp(113, static_cast<std::int16_t>(Pick(3)));
+        break;
+      case 9:
+        if (!PanelOpen && table.t.ARCmdNewGame.Visible) game.ARCmdNewGame_Click();
+        break;
+      case 10:  // the options panel opens and closes
+        table.t.picGameTray.Enabled = PanelOpen;
+        table.m.PauseComputer = !PanelOpen;
+        break;
+      default:
+        if (Pick(30) == 0) {
+          screen.Answer = Pick(6) == 0;
+          Pick(2) == 0 ? game.Form_KeyUp(27, 0) : static_cast<void>(game.Form_Unload());
+        }
+        break;
+    }
+    Check();
+  }
+
+  void NewGameDialog() {
+    if (table.m.Quitting) return;
+    const bool Waits = table.m.FormMessage.empty();
+    table.m.FormMessage.clear();
+    if (Waits && Pick(4) == 0) {
+      table.t.cmdRoll.Enabled = false;
+      return;
+    }
+    GameSetup Setup;
+    Setup.NumPlayers = static_cast<std::uint8_t>(1 + Pick(4));
+    Setup.BreakInScore = Pick(2) == 0 ? 500 : 1000;
+    for (auto& Seat : Setup.Seats) {
+      Seat.Name = "Seat" + std::to_string(Pick(100));
+      Seat.IsComputer = Pick(3) != 0;
+      Seat.StyleWord = StyleWords[static_cast<std::size_t>(Pick(7))];
+    }
+    game.FreshGame(Setup);
+  }
+
+  void Check() {
+    if (!fault.empty()) return;
+    fault = game.Fault();
+    for (const std::string& Line : screen.Log) {
+      if (Line.find("contact Tollmoor") != Line.npos) fault += "guard box: " + Line;
+    }
+  }
+
+  std::minstd_rand chance;
+  Table table;
+  RecordingDesktop& screen = table.Screen;
+  RecordingProgram& others = table.Others;
+  Dice dice{chance};
+  Uniform uniform{chance};
+  Game game{table.m, table.t, table.Options, screen, others, dice};
+  ComputerPlayers players{game, uniform};
+  std::string fault;
+  int depth = 0;
+  int stepsLeft = 0;
+};
+
+TEST(Interruption, NoInputAtAnyMomentBreaksTheGame) {
+  for (std::uint32_t Seed = 1; Seed <= 4000; ++Seed) {
+    EXPECT_EQ(Vandal(Seed).Play(400), "") << "seed " << Seed;
+    if (HasFailure()) return;
+  }
+}
+
+}  // namespace
+}  // namespace blunko::test

@@ -1,0 +1,254 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "bots/ComputerPlayers.h"
+#include "tests/engine/Table.h"
+
+namespace blunko::test {
+namespace {
+
+using testing::ElementsAre;
+
+class ScriptedUniform : public UniformSource {
+ public:
+  std::deque<double> Values;
+  double Next() override {
+    const double Value = Values.front();
+    Values.pop_front();
+    return Value;
+  }
+};
+
+/// A table at which the computer seats play by themselves.
+struct PlayingTable : Table {
+  ScriptedUniform Uniform;
+  ComputerPlayers Players{game, Uniform};
+  bool Starts = true;
+
+  PlayingTable() {
+    Others.OnComputerTurn = [this] {
+      if (Starts) Players.RunComputerTurn();
+    };
+  }
+  /// Seat 0 plays one turn of the style with these scripted faces, against a person.
+  void PlayTurn(const char* Style, std::initializer_list<int> Faces, int Banked, int OpponentBanked = 0,
+                int Out = Absent) {
+    Starts = false;
+    Begin({Style, "Ann"});
+    Starts = true;
+    m.PlayerScore[0] = static_cast<std::int16_t>(Banked);
+    m.PlayerScore[1] = static_cast<std::int16_t>(OpponentBanked);
+    m.OutPlayer = static_cast<std::uint8_t>(Out);
+    Options.Sort = false;
+    Numbers.Faces.assign(Faces);
+    TakeLog();
+    Players.RunComputerTurn();
+  }
+};
+
+/// A turn, told by its dice: it ends with the turn's points banked, or with a bust.
+struct StyleRow {
+  const char* Style;
+  const char* Why;
+  std::initializer_list<int> Faces;
+  int Banked;  ///< of the seat before the turn
+  int Gain;    ///< what the turn adds
+  int DiceDrawn;
+  int OpponentBanked = 0;
+  int Out = Absent;
+};
+
+TEST(Styles, PlayTheirTurnsByTheirNumbers) {
+  const StyleRow Rows[] = {
+      {"Simple", "takes all, passes at 400", {1, 1, 5, 5, 5, 3}, 500, 700, 6},
+      {"Simple", "350 isn't enough: rolls the one die left and busts", {1, 1, 5, 1, 1, 3, 3}, 500, 2050, 6},
+      {"Simple", "350 rolls on", {3, 3, 3, 5, 4, 6, 2, 3}, 500, 0, 8},
+      {"Simple", "400 passes", {3, 3, 3, 1, 4, 6}, 500, 400, 6},
+      {"Simple", "six scoring dice must be rolled again", {1, 2, 3, 4, 5, 6, 2, 2, 3, 3, 4, 6}, 500, 0, 12},
+      {"Moron", "takes the first scorer and passes", {1, 3, 4, 6, 2, 2}, 500, 100, 6},
+      {"Moron", "takes the group that lies first, leaves the one", {3, 3, 3, 1, 4, 6}, 500, 300, 6},
+      {"Moron",
+       "not broken in: one scorer a roll until it may pass",
+       {1, 3, 4, 6, 2, 2, 2, 2, 2, 1, 3, 3, 3, 1},
+       0,
+       0,
+       13},
+      {"Moron",
+       "all score: takes one after the other, then rolls",
+       {1, 1, 1, 4, 4, 6, 1, 5, 5, 2, 3, 4, 6, 2, 3},
+       0,
+       1000,
+       6},
+      {"Normal",
+       "an early single one is taken alone, five dice are rolled",
+       {1, 1, 5, 3, 4, 6, 2, 2, 3, 4, 6},
+       500,
+       0,
+       11},
+      {"Normal", "three twos are left for a single one", {1, 2, 2, 2, 3, 4, 2, 3, 3, 4, 6}, 500, 0, 11},
+      {"Normal",
+       "a combination takes the single one along; 500 with two dice left is enough",
+       {1, 4, 4, 4, 3, 6},
+       500,
+       500,
+       6},
+      {"Cautious",
+       "five dice, a one and a five: both, then 250 with three left rolls",
+       {3, 3, 6, 4, 1, 6, 1, 5, 6, 4, 4},
+       500,
+       0,
+       14},
+      {"Fearless", "three dice left: takes the one only, rolls three", {2, 3, 1, 4, 6, 4, 2, 3, 3, 4, 6}, 500, 0, 11},
+      {"Normal", "nothing banked: passes as soon as it may", {1, 1, 1, 3, 4, 6}, 0, 1000, 6},
+      {"Normal", "hungry from 500 on: takes the rest too", {5, 5, 5, 1, 4, 6}, 0, 600, 6},
+      {"Normal", "last rolls: equal to the leader rolls on", {1, 1, 1, 3, 4, 6, 2, 3, 4}, 4000, 0, 9, 5000, 1},
+      {"Normal", "last rolls: ahead of the leader passes", {1, 1, 1, 5, 4, 6}, 4000, 1050, 6, 5000, 1},
+      {"Genius", "1000 behind plays Normal: 400 with two dice left passes", {3, 3, 3, 1, 4, 6}, 1000, 400, 6, 2000},
+      {"Genius", "1050 behind plays Fearless: it rolls them", {3, 3, 3, 1, 4, 6, 2, 3}, 1000, 0, 8, 2050},
+  };
+  for (const StyleRow& Row : Rows) {
+    SCOPED_TRACE(std::string(Row.Style) + ": " + Row.Why);
+    PlayingTable table;
+    table.PlayTurn(Row.Style, Row.Faces, Row.Banked, Row.OpponentBanked, Row.Out);
+    EXPECT_EQ(table.Numbers.Draws, Row.DiceDrawn) << "dice drawn";
+    EXPECT_EQ(table.m.PlayerScore[0] - Row.Banked, Row.Gain) << "points banked";
+    EXPECT_THAT(table.TakeLog("box"), testing::Each(testing::Not(testing::HasSubstr("contact")))) << "no guard box";
+    EXPECT_EQ(table.m.CurrentPlayer, Row.Out == Absent ? 1 : Absent) << "the turn is over";
+  }
+}
+
+TEST(Styles, StopAtTheirScoresByTheDiceLeft) {
+  const struct {
+    const char* Style;
+    int StopAt[6];
+  } Rows[] = {{"Cautious", {0, 250, 300, 350, 500, 700}},
+              {"Normal", {0, 350, 400, 450, 600, 900}},
+              {"Fearless", {0, 400, 450, 500, 1100, 1500}}};
+  for (const auto& Row : Rows) {
+    for (int Left = 1; Left <= 5; ++Left) {
+      for (const int Below : {0, 50}) {
+        PlayingTable table;
+        table.Starts = false;
+        table.Begin({Row.Style, "Ann"});
+        table.m.PlayerScore[0] = 1000;
+        // At "rp" with `Left` dead dice on the table.
+        table.m.TurnScore = static_cast<std::int16_t>(Row.StopAt[Left] - Below);
+        for (int i = 0; i < Dice; ++i) {
+          table.m.DieScoreCode[static_cast<std::size_t>(i)] = i < Left ? "0" : "99";
+        }
+        table.m.ActionSet = "rp";
+        table.Numbers.Faces = {2, 2, 3, 3, 4, 6};
+        table.Players.RunComputerTurn();
+        EXPECT_EQ(table.Numbers.Draws == 0, Below == 0)
+            << Row.Style << " with " << Left << " dice left and " << Row.StopAt[Left] - Below << " points";
+      }
+    }
+  }
+}
+
+TEST(Styles, RandomDrawsItsStyleForEachTurn) {
+  // Four dice 1 5 3 4 after a one: the three styles end them differently.
+  const struct {
+    double Uniform;
+    const char* Same;
+  } Rows[] = {{0.0, "Normal"},     {0.333, "Normal"},   {0.334, "Cautious"},
+              {0.666, "Cautious"}, {0.667, "Fearless"}, {0.999, "Fearless"}};
+  for (const auto& Row : Rows) {
+    const std::initializer_list<int> Faces{1, 1, 4, 4, 3, 6, 1, 3, 3, 4, 6, 1, 5, 3, 4,
+                                           1, 3, 5, 2, 1, 4, 1, 1, 3, 2, 2, 3, 3, 4, 6};
+    PlayingTable random, plain;
+    random.Uniform.Values = {Row.Uniform};
+    random.PlayTurn("Random", Faces, 500);
+    plain.PlayTurn(Row.Same, Faces, 500);
+    EXPECT_EQ(random.TakeLog("sound"), plain.TakeLog("sound")) << Row.Uniform;
+    EXPECT_EQ(random.m.PlayerScore[0], plain.m.PlayerScore[0]) << Row.Uniform;
+    EXPECT_EQ(random.m.PlayerStyle[0], Random);
+  }
+}
+
+TEST(Styles, PauseAsTheSpeedSays) {
+  // Simple takes six positions a pass: a wait before each action, after the roll, and after each click.
+  const struct {
+    int Speed;
+    std::vector<std::string> Waits;
+  } Rows[] = {
+      {2, {}},
+      {1, {"sleep 100", "sleep 100", "sleep 100", "sleep 100", "sleep 100", "sleep 1000"}},
+  };
+  for (const auto& Row : Rows) {
+    PlayingTable table;
+    table.Options.Speed = Row.Speed;
+    table.PlayTurn("Moron", {1, 3, 4, 6, 2, 2}, 500);
+    auto Log = table.TakeLog("sleep");
+    std::erase(Log, "sleep 10");  // the tumbling dice
+    if (Row.Speed == 1) {
+      table.Numbers.Faces.clear();
+      EXPECT_EQ(std::count(Log.begin(), Log.end(), "sleep 1000"), 1) << "only the pass waits that long at Fast";
+      EXPECT_EQ(std::count(Log.begin(), Log.end(), "sleep 200"), 0);
+    } else {
+      EXPECT_EQ(Log, Row.Waits) << "no pause at all at Ridiculous";
+    }
+  }
+  PlayingTable table;
+  table.Options.Speed = 0;
+  table.PlayTurn("Moron", {}, 500);
+  const auto Log = table.TakeLog("sleep");
+  EXPECT_GE(std::count(Log.begin(), Log.end(), "sleep 1000"), 2) << "after a roll and at the pass";
+}
+
+TEST(Styles, WaitWhilePausedButForCautious) {
+  for (const char* Style : {"Normal", "Fearless", "Simple", "Moron", "Cautious"}) {
+    PlayingTable table;
+    int Events = 0;
+    table.m.PauseComputer = true;
+    table.Screen.OnEvents = [&] {
+      if (++Events == 5) table.m.PauseComputer = false;
+      const bool MustStandStill = std::string(Style) != "Cautious" && table.m.PauseComputer;
+      EXPECT_TRUE(!MustStandStill || table.Numbers.Draws == 0) << Style;
+    };
+    table.PlayTurn(Style, {1, 1, 1, 3, 4, 6, 2, 2, 3}, 500);
+    EXPECT_GT(table.Numbers.Draws, 0) << Style;
+  }
+}
+
+TEST(HandOver, TenThousandGamesUseNoMoreStackThanOne) {
+  PlayingTable table;
+  int Games = 0;
+  const char* Lowest = nullptr;
+  const char* LowestOfFirst = nullptr;
+  table.Screen.OnEvents = [&] {
+    const char Here = 0;
+    if (Lowest == nullptr || &Here < Lowest) Lowest = &Here;
+    table.Screen.Log.clear();
+  };
+  std::uint32_t Word = 12345;
+  class Dice : public NumberSource {
+   public:
+    std::uint32_t& word;
+    explicit Dice(std::uint32_t& Seed) : word(Seed) {}
+    std::int32_t UtilRandom(std::int32_t Bound) override {
+      word = word * 1664525U + 1013904223U;
+      return static_cast<std::int32_t>((std::uint64_t{word} * static_cast<std::uint32_t>(Bound)) >> 32) + 1;
+    }
+  } Numbers(Word);
+  Game game(table.m, table.t, table.Options, table.Screen, table.Others, Numbers);
+  ComputerPlayers Players(game, table.Uniform);
+  GameSetup Setup;
+  Setup.NumPlayers = 3;
+  for (auto& Seat : Setup.Seats) Seat = {"Bot", true, "Simple"};
+  table.Others.OnComputerTurn = [&] { Players.RunComputerTurn(); };
+  table.Others.OnCongrats = [&] {
+    if (++Games == 1) LowestOfFirst = Lowest;
+    if (Games < 10000) table.m.FormMessage = "SameGame";
+  };
+  table.Others.OnNewGame = [&] {
+    table.m.FormMessage.clear();
+    game.FreshGame(Setup);
+  };
+  game.FreshGame(Setup);
+  EXPECT_EQ(Games, 10000);
+  EXPECT_LT(LowestOfFirst - Lowest, 4096) << "the call chain grows from game to game";
+}
+
+}  // namespace
+}  // namespace blunko::test
