@@ -58,6 +58,8 @@ def blonde_chick():
     body += "".join(b for y, b in blades if y < 930)
     body += '<ellipse cx="400" cy="948" rx="150" ry="20" fill="#3d5a1c" opacity="0.55" filter="url(#b14)"/>'
 
+    ground, body = body, ""
+
     # Feet.
     for fx, s in ((362, -1), (424, 1)):
         for dx in (-22, 0, 22):
@@ -92,6 +94,7 @@ def blonde_chick():
              '<path d="M353 778Q374 788 394 779Q377 801 372 800Q366 800 353 778Z" fill="#b4560c"/>'
              '<path d="M349 776Q372 785 398 777" fill="none" stroke="#8c4208" stroke-width="1.6"/>'
              '<path d="M358 772Q372 759 384 767" fill="none" stroke="#ffe0b0" stroke-width="3" stroke-linecap="round" opacity="0.8"/>')
+    body = f'{ground}<g transform="translate(400 930) scale(0.92) translate(-400 -930)">{body}</g>'
     flowers = [(92, 905, 26), (170, 955, 32), (655, 915, 28), (716, 960, 34), (590, 965, 24), (50, 975, 30), (262, 985, 26), (500, 995, 30)]
     for y, b in blades:
         if y >= 930:
@@ -137,11 +140,12 @@ def baby_seal():
         y = rng.uniform(850, 1026)
         body += (f'<ellipse cx="{rng.uniform(0, WIDTH):.0f}" cy="{y:.0f}" rx="{rng.uniform(30, 120):.0f}" ry="{rng.uniform(3, 10):.0f}" '
                  f'fill="{rng.choice(["#ffffff", "#c4d9e6", "#d6e5ee"])}" opacity="0.5" filter="url(#b6)"/>')
-    body += '<ellipse cx="440" cy="938" rx="270" ry="24" fill="#5f86a4" opacity="0.55" filter="url(#b16)"/>'
 
     for _ in range(60):
         body += (f'<circle cx="{rng.uniform(0, WIDTH):.0f}" cy="{rng.uniform(0, HEIGHT):.0f}" r="{rng.uniform(1.5, 4.5):.1f}" fill="#fff" '
                  f'opacity="{rng.uniform(0.4, 0.9):.2f}"/>')
+
+    ground, body = body, ""
 
     # The body lies to the right, the tail flippers at its end.
     def flipper(x, y, turn, length, wide):
@@ -192,6 +196,8 @@ def baby_seal():
     body += ('<path d="M344 868q-14 13 -28 4M344 868q14 13 28 4M344 838v28" stroke="#6a6672" stroke-width="2.6" fill="none" stroke-linecap="round" opacity="0.8"/>'
              '<path d="M322 820Q344 808 366 820Q364 836 344 842Q324 836 322 820Z" fill="url(#nose)"/>'
              '<ellipse cx="337" cy="819" rx="9" ry="3.6" fill="#c9c6d2" opacity="0.75"/>')
+    shadow = '<ellipse cx="440" cy="936" rx="270" ry="24" fill="#5f86a4" opacity="0.55" filter="url(#b16)"/>'
+    body = f'{ground}<g transform="translate(410 918) scale(0.94) translate(-410 -932)">{shadow}{body}</g>'
     save_svg("Baby Seal", 4, defs, body)
 
 
@@ -224,6 +230,7 @@ def quacker():
         body += (f'<path d="M{x - w:.0f} {y:.0f}Q{x - w / 2:.0f} {y - 3 - 5 * d:.1f} {x:.0f} {y:.0f}T{x + w:.0f} {y:.0f}Q{x:.0f} {y + 5 + 4 * d:.1f} {x - w:.0f} {y:.0f}Z" '
                  f'fill="{c}" opacity="{rng.uniform(0.18, 0.5):.2f}"/>')
 
+    room, body = body, ""
     trunk = ("M238 868C236 826 262 800 306 806C346 812 370 822 420 818C470 812 508 800 548 762C558 752 574 756 574 772"
              "C576 838 560 918 470 928C400 936 320 936 280 918C256 908 240 892 238 868Z")
     # The mirror image in the water, broken by the ripples.
@@ -250,6 +257,8 @@ def quacker():
              '<path d="M222 774C236 764 254 763 268 768" stroke="#ffd9a0" stroke-width="5" stroke-linecap="round" fill="none" opacity="0.85"/>')
     body += eye(268, 745, 12.5, "#141416") + eye(326, 748, 13.5, "#141416")
     body += '<path d="M240 903Q262 924 300 927Q350 932 400 926Q452 932 494 912Q520 902 534 888" stroke="#f4feff" stroke-width="4" fill="none" opacity="0.85" stroke-linecap="round"/>'
+
+    body = f'{room}<g transform="translate(400 926) scale(0.95) translate(-400 -930)">{body}</g>'
 
     def bubble(x, y, r):
         return (f'<circle cx="{x:.0f}" cy="{y:.0f}" r="{r:.0f}" fill="url(#bubble)"/>'

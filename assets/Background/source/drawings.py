@@ -71,7 +71,7 @@ def blueprints():
     ink += f'<path d="M{x0 + side - 6} {y0 + 6}l26 -26h26" {thin} fill="none"/>' + lettering("R7", x0 + side + 22, y0 - 36, 11, weight=1.5)
 
     # Isometric view with the faces 1, 2 and 3.
-    ox, oy, e = 408, 778, 88
+    ox, oy, e = 408, 782, 92
     ux, uy = (math.cos(math.pi / 6), -math.sin(math.pi / 6)), (-math.cos(math.pi / 6), -math.sin(math.pi / 6))
 
     def iso(a, b, z):
@@ -93,12 +93,12 @@ def blueprints():
     ink += face((0, 0, 1), (1, 0, 0), (0, 1, 0), 0.13, [(0.5, 0.5)])
     ink += face((0, 0, 0), (1, 0, 0), (0, 0, 1), 0.05, [(0.27, 0.27), (0.73, 0.73)])
     ink += face((0, 0, 0), (0, 1, 0), (0, 0, 1), 0.02, [(0.25, 0.25), (0.5, 0.5), (0.75, 0.75)])
-    a, b = iso(0, 0, 0), iso(1, 0, 0)
-    ink += f'<path d="M{a[0]:.0f} {a[1] + 5:.0f}v24M{b[0]:.0f} {b[1] + 6:.0f}v24" {thin}/>' + dimension(round(a[0]), round(a[1] + 24), round(b[0]), round(b[1] + 24), "48.0", 7)
+    a, b = iso(0, 1, 0), iso(0, 1, 1)
+    ink += f'<path d="M{a[0] - 6:.0f} {a[1]:.0f}h-28M{b[0] - 6:.0f} {b[1]:.0f}h-28" {thin}/>' + dimension(round(a[0] - 26), round(a[1]), round(b[0] - 26), round(b[1]), "48.0")
 
     # Section of a pip, with its bowl hatched.
     sx, sy = 664, 802
-    ink += f'<circle cx="{sx}" cy="{sy}" r="78" fill="#fff" fill-opacity="0.04" {main}/><path d="M{sx - 96} {sy}H{sx + 96}M{sx} {sy - 94}V{sy + 94}" {dash}/>'
+    ink += f'<circle cx="{sx}" cy="{sy}" r="78" fill="#fff" fill-opacity="0.04" {main}/><path d="M{sx - 96} {sy}H{sx + 96}M{sx} {sy - 24}V{sy + 90}" {dash}/>'
     ink += (f'<clipPath id="lens"><circle cx="{sx}" cy="{sy}" r="77"/></clipPath><g clip-path="url(#lens)"><path d="M{sx - 90} {sy - 14}H{sx - 42}A44 44 0 0 0 {sx + 42} {sy - 14}H{sx + 90}V{sy + 90}H{sx - 90}Z" fill="url(#hatch)"/>'
             f'<path d="M{sx - 90} {sy - 14}H{sx - 42}A44 44 0 0 0 {sx + 42} {sy - 14}H{sx + 90}" fill="none" {main}/></g>')
     ink += f'<path d="M{sx - 42} {sy - 20}V{sy - 48}M{sx + 42} {sy - 20}V{sy - 48}" {thin}/>' + dimension(sx - 42, sy - 42, sx + 42, sy - 42, "9.0", -15)

@@ -66,7 +66,7 @@ def autumn():
     kinds = {"maple": [(196, 62, 22), (170, 38, 24), (214, 104, 26), (222, 142, 36), (140, 28, 26)],
              "oak": [(150, 92, 36), (122, 70, 28), (178, 118, 46), (160, 76, 26)],
              "beech": [(222, 160, 44), (206, 128, 30), (190, 150, 50), (224, 178, 74)]}
-    defs = (linear("ground", (0, "#3a2415"), (0.35, "#4e2d17"), (0.62, "#6b3d1a"), (0.8, "#5a3015"), (1, "#2e180c")) + blur(3) + blur(6) + blur(9) + blur(26)
+    defs = (linear("ground", (0, "#3a2415"), (0.35, "#4e2d17"), (0.62, "#6b3d1a"), (0.8, "#5a3015"), (1, "#2e180c")) + blur(3) + blur(6) + blur(9) + blur(60)
             + radial("sun", (0, "#d48c34", 0.34), (1, "#e09a3c", 0)) + linear("dim", (0, "#2a160a", 0), (1, "#2a160a", 0.75)))
     body = sheet("url(#ground)") + '<ellipse cx="560" cy="420" rx="520" ry="420" fill="url(#sun)"/>'
     # Light through far trees: trunks and discs out of focus.
@@ -86,7 +86,7 @@ def autumn():
     for x, y, s in ((70, 360, 60), (700, 470, 76), (96, 560, 84), (668, 640, 92), (360, 540, 46), (560, 350, 50), (730, 250, 54), (40, 170, 50), (610, 36, 44)):
         falling += one(x + rng.uniform(-10, 10), y, s, opacity=0.50, shadow=0)
     body += f'<g filter="url(#b3)">{falling}</g>'
-    body += '<ellipse cx="393" cy="1010" rx="620" ry="250" fill="#1c0d06" opacity="0.75" filter="url(#b26)"/>'
+    body += '<ellipse cx="393" cy="1010" rx="620" ry="250" fill="#1c0d06" opacity="0.85" filter="url(#b60)"/>'
     heap = []
     for _ in range(170):
         x = rng.uniform(-30, WIDTH + 30)
@@ -96,7 +96,7 @@ def autumn():
     for y, x in sorted(heap):
         near = (y - 760) / 300
         body += one(x, y, 78 + 62 * near + rng.uniform(-10, 14), shadow=1)
-    for x, y, s, kind, turn in ((170, 832, 168, "maple", -24), (402, 866, 190, "maple", 14), (622, 826, 172, "maple", 38), (286, 930, 140, "oak", 66),
+    for x, y, s, kind, turn in ((170, 832, 168, "maple", -24), (272, 862, 150, "maple", -70), (402, 866, 190, "maple", 14), (622, 826, 172, "maple", 38), (286, 930, 140, "oak", 66),
                                 (520, 936, 140, "beech", -58), (712, 918, 132, "oak", -20), (70, 926, 130, "beech", 40)):
         body += leaf(kind, x, y, s, turn, kinds[kind], rng)
     body += '<rect x="0" y="930" width="786" height="96" fill="url(#dim)"/>'
@@ -119,8 +119,8 @@ def evergreen():
             for s in (-1, 1):
                 ww = w * rng.uniform(0.8, 1.12)
                 drop = ww * 0.42
-                fringe = "".join(f"L{x + s * ww * (1 - q / 5):.1f} {y + drop * (1 - q / 5) + rng.uniform(0.7, 1.25) * high / n:.1f}"
-                                 f"L{x + s * ww * (1 - (q + 0.5) / 5):.1f} {y + drop * (1 - (q + 0.5) / 5) + 0.35 * high / n:.1f}" for q in range(5))
+                fringe = "".join(f"L{x + s * ww * (1 - q / 5):.1f} {y + drop * (1 - q / 5) + rng.uniform(0.4, 0.8) * high / n:.1f}"
+                                 f"L{x + s * ww * (1 - (q + 0.5) / 5):.1f} {y + drop * (1 - (q + 0.5) / 5) + 0.15 * high / n:.1f}" for q in range(5))
                 out.append(f'<path d="M{x:.1f} {y - high / n * 1.1:.1f}Q{x + s * ww * 0.45:.1f} {y + drop * 0.2:.1f} {x + s * ww:.1f} {y + drop:.1f}{fringe}L{x:.1f} {y + high / n * 0.3:.1f}Z" '
                            f'fill="{rgb(mix(colour, (0, 10, 10) if s > 0 else (120, 160, 150), 0.12 + rng.random() * 0.10))}"/>')
                 if snow and rng.random() < 0.9:
@@ -136,7 +136,7 @@ def evergreen():
             x = (k + rng.uniform(0.05, 0.95)) * WIDTH / n
             h = high * rng.uniform(0.55, 1.0)
             if base == 836:
-                h *= 0.5 + 0.55 * abs(x - 393) / 393
+                h *= 0.55 + 0.6 * abs(x - 393) / 393
             trees += fir(x, base + rng.uniform(-10, 20), h, colour, snow)
         extra = f' filter="url(#b{soft})"' if soft else ""
         body += f'<g{extra}>{trees}</g>'
@@ -222,7 +222,7 @@ def strawberries():
             teeth_l += [(-w, yy), (-w * 0.93, yy - 3)]
         outline = "M0 0" + "".join(f"L{a:.1f} {b:.1f}" for a, b in teeth_r) + "L0 -116" + "".join(f"L{a:.1f} {b:.1f}" for a, b in reversed(teeth_l)) + "Z"
         side = "M0 0" + "".join(f"L{a:.1f} {b:.1f}" for a, b in teeth_l) + "L0 -116Z"
-        veins = "M0 0L0 -112" + "".join(f"M0 {-8 - k * 12}q{s * 16} -6 {s * 34 * math.sin(math.pi * (0.2 + k * 0.085)):.0f} -20" for k in range(8) for s in (-1, 1))
+        veins = "M0 0L0 -112" + "".join(f"M0 {-8 - k * 12}q{s * 16} -6 {s * 27 * math.sin(math.pi * (0.22 + k * 0.085)):.0f} -20" for k in range(8) for s in (-1, 1))
         return (f'<g transform="translate({x} {y}) rotate({turn}) scale({size})"><path d="{outline}" fill="#2a2010" opacity="0.35" filter="url(#b5)" transform="rotate({-turn}) translate(6 10) rotate({turn})"/>'
                 f'<path d="{outline}" fill="url(#leaf)" stroke="#28581f" stroke-width="1.2"/><path d="{side}" fill="#0e3a12" opacity="0.22"/>'
                 f'<path d="{veins}" stroke="#bfdc8c" stroke-width="1.8" fill="none" opacity="0.65" stroke-linecap="round"/></g>')
@@ -268,7 +268,7 @@ def strawberries():
             out += f'<circle cx="{15 * math.cos(a):.1f}" cy="{15 * math.sin(a):.1f}" r="2.6" fill="#e3ad22"/>'
         return out + "".join(f'<circle cx="{rng.gauss(0, 5):.1f}" cy="{rng.gauss(0, 5):.1f}" r="1.6" fill="#b58a10" opacity="0.7"/>' for _ in range(14)) + "</g>"
     body += '<ellipse cx="393" cy="930" rx="380" ry="90" fill="#8c6a44" opacity="0.35" filter="url(#b26)"/>'
-    body += '<path d="M560 800C640 760 700 760 760 700M230 820C150 780 110 790 40 740" stroke="#7ca646" stroke-width="6" fill="none" stroke-linecap="round"/>'
+    cloth, body = body, ""
     body += trefoil(196, 850, -48, 1.12) + trefoil(596, 846, 44, 1.16) + trefoil(398, 836, -4, 1.02) + trefoil(90, 985, -20, 1.0) + trefoil(706, 990, 24, 1.0)
     body += berry(262, 846, 14, 0.92) + berry(532, 850, -16, 0.92) + berry(150, 920, 38, 0.80) + berry(648, 926, -36, 0.80) + berry(394, 868, -3, 1.12)
     body += berry(300, 972, 30, 0.85) + berry(500, 976, -26, 0.85)
@@ -276,4 +276,5 @@ def strawberries():
     # Dew.
     for x, y, r in ((360, 905, 5), (428, 890, 4), (250, 880, 4), (545, 880, 4.5), (206, 790, 5), (590, 780, 5)):
         body += f'<circle cx="{x}" cy="{y}" r="{r}" fill="#fff" opacity="0.35"/><circle cx="{x - r * 0.3:.1f}" cy="{y - r * 0.3:.1f}" r="{r * 0.35:.1f}" fill="#fff" opacity="0.95"/>'
+    body = f'{cloth}<g transform="translate(393 716) scale(0.92) translate(-393 -716)">{body}</g>'
     save_svg("Strawberries", 0, defs, body)
