@@ -49,8 +49,9 @@ QString Folders::Shipped(const QString& Part) const {
 }
 
 QString GetTempFolder() {
-  for (const auto Place : {QStandardPaths::RuntimeLocation, QStandardPaths::GenericCacheLocation}) {
-    const QString Parent = QStandardPaths::writableLocation(Place);
+  const QString Runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  const QString Cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+  for (const QString& Parent : {IsPrivate(Runtime) ? Runtime : QString(), Cache}) {
     if (Parent.isEmpty() || !QDir().mkpath(Parent)) continue;
     const QString Folder = Parent + QLatin1Char('/') + FolderName;
     if (IsPrivate(Folder) || (mkdir(QFile::encodeName(Folder).constData(), 0700) == 0 && IsPrivate(Folder))) {
