@@ -26,9 +26,11 @@ bool CanWriteIn(const QString& Folder) { return QFileInfo(Folder).isDir() && QFi
 
 }  // namespace
 
-Folders Folders::OfProgram() {
+Folders Folders::OfProgram() { return Of(QCoreApplication::applicationFilePath()); }
+
+Folders Folders::Of(const QString& Path) {
   Folders Found;
-  const QFileInfo Executable(QCoreApplication::applicationFilePath());
+  const QFileInfo Executable(Path);
   Found.Program = Executable.absolutePath();
   Found.BaseName = Executable.completeBaseName();
   Found.State = Found.Program;
