@@ -1,9 +1,7 @@
 #include "storage/GameSettings.h"
 
-#include <QFile>
-#include <QRegularExpression>
-
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 
 namespace blunko {
@@ -37,10 +35,13 @@ QString KeyOfSound(std::string_view Name) {
   return QString::fromLatin1(Name.data(), static_cast<qsizetype>(Name.size())) + QStringLiteral("Sound");
 }
 
-/// The number that the text begins with, rounded to 16 bits; 0 when there is none.
+/// The number that the text begins with, rounded to 16 bits; 0 when there is none, or none that fits.
 std::int16_t LeadingNumber(const QString& Text) {
-  static const QRegularExpression Number(QStringLiteral(R"(^\s*([+-]?\d+(\.\d*)?))"));
-  const double Value = std::nearbyint(Number.match(Text).captured(1).toDouble());
+  QByteArray Bytes = Text.trimmed().toLatin1();
+  if (Bytes.startsWith('+')) Bytes.remove(0, 1);
+  double Value = 0;
+  std::from_chars(Bytes.cbegin(), Bytes.cend(), Value);
+  Value = std::nearbyint(Value);
   return Value >= INT16_MIN && Value <= INT16_MAX ? static_cast<std::int16_t>(Value) : std::int16_t{0};
 }
 
