@@ -1,8 +1,8 @@
 #include "storage/GameSettings.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
+
+#include "storage/Numbers.h"
 
 namespace blunko {
 
@@ -33,16 +33,6 @@ const SoundEvent* FindEvent(std::string_view Name) {
 
 QString KeyOfSound(std::string_view Name) {
   return QString::fromLatin1(Name.data(), static_cast<qsizetype>(Name.size())) + QStringLiteral("Sound");
-}
-
-/// The number that the text begins with, rounded to 16 bits; 0 when there is none, or none that fits.
-std::int16_t LeadingNumber(const QString& Text) {
-  QByteArray Bytes = Text.trimmed().toLatin1();
-  if (Bytes.startsWith('+')) Bytes.remove(0, 1);
-  double Value = 0;
-  std::from_chars(Bytes.cbegin(), Bytes.cend(), Value);
-  Value = std::nearbyint(Value);
-  return Value >= INT16_MIN && Value <= INT16_MAX ? static_cast<std::int16_t>(Value) : std::int16_t{0};
 }
 
 }  // namespace
