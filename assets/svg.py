@@ -133,7 +133,9 @@ def group(*parts, transform):
 
 def shadow(x, y, w, h, r, depth, strength):
     """The soft shadow of a rounded body, thrown to the lower right."""
-    return "".join(rect(x + i, y + i, w, h, r, fill="#000000", fill_opacity=strength) for i in range(depth, 0, -1))
+    steps = 2 * depth
+    return "".join(rect(x + i / 2, y + i / 2, w, h, r, fill="#000000", fill_opacity=strength * (1.25 - i / steps))
+                   for i in range(steps, 0, -1))
 
 
 def write(file, width, height, *parts):

@@ -23,7 +23,7 @@ FACES = range(1, 7)
 def body(lit, face, shaded, rim, r=10.0, gloss=0.5):
     """A rounded die with its shadow. The edge is a stack of rings that go from full light and shade to the calm face."""
     parts = [
-        shadow(0, 0, 44, 44, r, 4, 0.16),
+        shadow(0, 0, 44, 44, r, 4, 0.1),
         rect(0, 0, 44, 44, r, fill="url(#rim)"),
     ]
     gradients = [linear("rim", (0, mix(rim, lit, 0.3)), (0.5, rim), (1, rim), x2=1)]
@@ -39,8 +39,8 @@ def body(lit, face, shaded, rim, r=10.0, gloss=0.5):
                             cx=0.27, cy=0.2, r=0.62))
     parts.append(rect(4.6, 4.6, 34.8, 34.8, r - 2.8, fill="url(#glow)"))
     # the sharp glint along the lit edge
-    parts.append(path(f"M2.6 {25} V{r} Q2.6 2.6 {r} 2.6 H25", fill="none", stroke="#ffffff", stroke_opacity=gloss * 0.9,
-                      stroke_width=1.1, stroke_linecap="round"))
+    gradients.append(linear("glint", (0, "#ffffff", min(1, gloss * 1.6)), (0.4, "#ffffff", gloss), (1, "#ffffff", 0), x2=0.75, y2=0.75))
+    parts.append(path(f"M2.4 34 V{r} Q2.4 2.4 {r} 2.4 H34", fill="none", stroke="url(#glint)", stroke_width=1.2))
     return defs(*gradients), parts
 
 
@@ -100,21 +100,22 @@ def patriot():
                 else f"V{bottom} H{x1} Z")
         return f"{up} {down}"
 
+    def pip(x, y, colour):
+        return star(x, y + 0.4, 5.6, fill=colour, stroke=colour, stroke_width=0.6, stroke_linejoin="round")
+
     for face in FACES:
-        ink = {11: "#ffffff", 22: "#14206e", 33: "#ffffff"}
         write(HERE / f"{178 + face}.svg", 48, 48,
               defs(linear("rim", (0, "#ffffff"), (0.45, "#d4d8e4"), (1, "#7c8296"), x2=1),
                    linear("u", (0, "#3d55c4"), (0.5, "#1b2c8e"), (1, "#0e1a62"), x2=1, y2=0.6),
                    linear("w", (0, "#ffffff"), (0.5, "#f4f4f8"), (1, "#c8cad6"), x2=1, y2=0.6),
                    linear("d", (0, "#ee4a52"), (0.5, "#c81626"), (1, "#8c0a16"), x2=1, y2=0.6),
                    radial("glow", (0, "#ffffff", 0.5), (1, "#ffffff", 0), cx=0.25, cy=0.15, r=0.6)),
-              shadow(0, 0, 44, 44, 9, 4, 0.18),
+              shadow(0, 0, 44, 44, 9, 4, 0.12),
               rect(0, 0, 44, 44, 9, fill="#050a30"), rect(0.75, 0.75, 42.5, 42.5, 8.4, fill="url(#rim)"),
               path(rounded(3, 16), fill="url(#u)"), path(rounded(16, 28), fill="url(#w)"), path(rounded(28, 41), fill="url(#d)"),
               rect(3, 3, 38, 38, 6.5, fill="url(#glow)"),
-              *[(star(x + 0.6, y + 1.1, 6.2, fill="#00051c", fill_opacity=0.35) if y != 22 else "") +
-                star(x, y + 0.4, 6.2 if y != 22 else 6, fill=ink[y], stroke=ink[y], stroke_width=0.5, stroke_linejoin="round")
-                for x, y in pip_places(face, (22, 22), (11, 11))])
+              *[pip(x, y, "#14206e") if y == 22 else pip(x + 0.6, y + 0.8, "#060a2a") + pip(x, y, "#ffffff")
+                for x, y in pip_places(face, (22, 22), (11.5, 12.4))])
 
 
 # --- drawn by hand -------------------------------------------------------------------------------------------------
@@ -134,7 +135,7 @@ def pablo():
                                                  (m, b + 0.6), (a + c, b), (a, b - c), (a - 0.6, m), (a, a + c))]
 
         def blot(x, y, r):
-            ring = [(x + r * hand.uniform(0.86, 1.14) * dx, y + r * hand.uniform(0.86, 1.14) * dy)
+            ring = [(x + r * hand.uniform(0.9, 1.1) * dx, y + r * hand.uniform(0.9, 1.1) * dy)
                     for dx, dy in ((0, -1), (0.7, -0.7), (1, 0), (0.7, 0.7), (0, 1), (-0.7, 0.7), (-1, 0), (-0.7, -0.7))]
             return path(smooth(ring), fill=ink)
 
@@ -145,8 +146,8 @@ def pablo():
         wash = [shake(x, y, 0.8) for x, y in ((6 + cut, 6), (24 + cut / 2, 5.6), (42.5, 6), (42.8, 24), (42.5, 42.2), (26, 42.6),
                                               (6 + slant, 42), (5.8 + slant / 2, 33 + cut / 4), (6 + cut * 0.6, 20))]
         parts.append(path(smooth(wash), fill=washes[face - 1]))
-        parts += [line(*shake(37 + i * 2.2, 42.4, 0.3), *shake(42.4, 36.5 + i * 2.2, 0.3), stroke=ink, stroke_opacity=0.55,
-                       stroke_width=0.7) for i in range(-2, 2)]
+        parts += [line(*shake(38.6 + i * 2, 43, 0.3), *shake(43, 38.2 + i * 2, 0.3), stroke=ink, stroke_opacity=0.5,
+                       stroke_width=0.7) for i in range(-1, 2)]
         parts.append(path(smooth(outline), fill="none", stroke=ink, stroke_width=1.9, stroke_linejoin="round"))
         parts.append(path(smooth(box(3.0, 1.3)[1:11], closed=False), fill="none", stroke=ink, stroke_width=0.9,
                           stroke_linecap="round", stroke_opacity=0.85))

@@ -31,30 +31,25 @@ def clocks():
               circle(25.2, 25.4, 22.6, fill="#000000", fill_opacity=0.18), circle(24.6, 24.8, 22.8, fill="#000000", fill_opacity=0.2),
               circle(x, y, 22.5, fill="#4a3006"), circle(x, y, 22, fill="url(#rim)"), circle(x, y, 19.6, fill="url(#bevel)"),
               circle(x, y, 18.6, fill="url(#dial)"), *ticks,
-              rect(7, 18.5, 10, 11, 1.2, fill="#8a8474"), rect(7.6, 19.2, 9.4, 10.3, 0.9, fill="#20222c"),
-              digit(face, 12.2, 24.3, 8, fill="#ffffff"),
               *[hand(*h, dx=0.7, dy=0.9, fill="#000000", fill_opacity=0.25) for h in hands],
               *[hand(*h, fill="#1c1a26", stroke="#1c1a26") for h in hands],
               circle(x, y, 2.3, fill="#1c1a26"), circle(23.6, 23.6, 1.1, fill="#d9a63a"),
-              path("M9 24 A15.5 15.5 0 0 1 31 10.2 C23 12 15 16 9 24 Z", fill="url(#glass)"))
+              path("M9 24 A15.5 15.5 0 0 1 31 10.2 C23 12 15 16 9 24 Z", fill="url(#glass)"),
+              rect(7, 18, 11, 12, 1.6, fill="#8a8474"), rect(7, 18, 10.4, 11.4, 1.4, fill="#1c1a26"), digit(face, 12.3, 23.8, 8.4, fill="#ffffff"))
 
 
 def digi():
     """Every pip is a little display cell of four short strokes; cells that are off just glimmer."""
-    def cell(left, top, lit):
-        x, y, w = left, top, 7
-        strokes = []
-        for x1, y1, x2, y2 in ((2, 1, 5, 1), (6, 2, 6, 5), (2, 6, 5, 6), (1, 2, 1, 5)):
-            strokes.append(line(x + x1, y + y1, x + x2, y + y2, stroke="#3dff5c" if lit else "#0c3a14", stroke_width=1.7,
-                                stroke_linecap="round"))
-        glow = circle(x + w / 2, y + w / 2, 5.2, fill="url(#g)") if lit else ""
-        return glow + "".join(strokes)
+    def cell(x, y, lit):
+        glow = circle(x + 4.5, y + 4.5, 6.2, fill="url(#g)") if lit else ""
+        return glow + "".join(line(x + x1, y + y1, x + x2, y + y2, stroke="#3dff5c" if lit else "#08260e", stroke_width=2)
+                              for x1, y1, x2, y2 in ((3, 1, 6, 1), (8, 3, 8, 6), (3, 8, 6, 8), (1, 3, 1, 6)))
 
-    grid = [(left, top) for top in (0, 12, 24) for left in (0, 11, 22)]
+    grid = [(x, y) for y in (0, 11, 22) for x in (0, 10, 20)]
     for face in FACES:
-        lit = {(int(px), int(py)) for px, py in pip_places(face, (11, 12), (11, 12))}
+        lit = {(int(px), int(py)) for px, py in pip_places(face, (10, 11), (10, 11))}
         write(HERE / f"{136 + face}.svg", 29, 31,
-              defs(radial("g", (0, "#22ff48", 0.5), (0.6, "#10c030", 0.28), (1, "#10c030", 0))),
+              defs(radial("g", (0, "#22ff48", 0.8), (0.6, "#10c030", 0.4), (1, "#10c030", 0))),
               *[cell(*place, place in lit) for place in grid])
 
 
@@ -81,11 +76,11 @@ def digital():
                    radial("halo", (0, "#18ff50", 0.22), (0.7, "#18ff50", 0.1), (1, "#18ff50", 0))),
               rect(0, 0, 48, 48, 6, fill="url(#frame)"), rect(1, 1, 46, 46, 5.2, fill="url(#panel)"),
               rect(1, 1, 46, 46, 5.2, fill="url(#halo)"),
-              *[bar(s, 2.6, 0.2, fill="#0a2a12") for s in off],
-              *[bar(s, 2.4, 0, fill="none", stroke="#19ff4e", stroke_opacity=a, stroke_width=w, stroke_linejoin="round")
+              *[bar(s, 3, 0.2, fill="#0a2a12") for s in off],
+              *[bar(s, 3, 0, fill="none", stroke="#19ff4e", stroke_opacity=a, stroke_width=w, stroke_linejoin="round")
                 for w, a in ((7, 0.1), (4.6, 0.16), (2.4, 0.25)) for s in on[face]],
-              *[bar(s, 2.6, 0.2, fill="#2cff5a") for s in on[face]],
-              *[bar(s, 1.0, 2.4, fill="#c8ffd0") for s in on[face]])
+              *[bar(s, 3, 0.2, fill="#2cff5a") for s in on[face]],
+              *[bar(s, 0.9, 2.8, fill="#a8ffb8") for s in on[face]])
 
 
 def clouds():
@@ -103,22 +98,22 @@ def clouds():
         return shape(0.5, 1.1, 0.25, "#0c4aa8") + shape(0, 0, 0, "#d3e4f8") + lights
 
     width = {1: 33, 2: 22, 3: 18, 4: 18, 5: 16.5, 6: 17}
-    spread = {1: (0, 0), 2: (9.5, 10), 3: (12, 13), 4: (10.5, 9.5), 5: (12, 13), 6: (10.5, 13)}
+    spread = {1: (0, 0), 2: (8.4, 9.4), 3: (10.8, 12.4), 4: (10.2, 9.5), 5: (11.6, 12.6), 6: (10.2, 12.6)}
     for face in FACES:
         write(HERE / f"{148 + face}.svg", 48, 48,
               defs(linear("rim", (0, "#d8ecff"), (0.5, "#6aa8ee"), (1, "#123c90"), x2=1),
                    linear("sky", (0, "#1450c0"), (0.6, "#3f86e4"), (1, "#7db8f6"))),
-              shadow(0, 0, 44, 44, 9, 4, 0.15),
+              shadow(0, 0, 44, 44, 9, 4, 0.09),
               rect(0, 0, 44, 44, 9, fill="url(#rim)"), rect(1.2, 1.2, 41.6, 41.6, 8, fill="url(#sky)"),
               *[cloud(x, y, width[face]) for x, y in pip_places(face, (22, 22), spread[face])])
 
 
 def marbles():
     """Glass marbles with a swirl in the hollows of a wooden board."""
-    glass = {1: ("#2f9fe8", "#0a2f6e", "#ffd23c"), 2: ("#e85a4a", "#6a0f12", "#ffffff"), 3: ("#3fbf6a", "#0b4a26", "#fff07a"),
-             4: ("#f0a030", "#7a3a06", "#ffffff"), 5: ("#9a6ae8", "#331070", "#8ff0ff"), 6: ("#38c8c8", "#064a58", "#ff8a7a")}
-    radius = {1: 12, 2: 8.4, 3: 7, 4: 7.4, 5: 6.3, 6: 6.1}
-    spread = {1: (0, 0), 2: (9, 9), 3: (12, 12), 4: (9.6, 9.6), 5: (12, 12), 6: (9.8, 13)}
+    glass = {1: ("#1f7fd8", "#082458", "#ffd23c"), 2: ("#d8362c", "#560a10", "#ffe8e0"), 3: ("#1f9a4c", "#063a1c", "#fff07a"),
+             4: ("#c8500c", "#4a1c02", "#ffe0a0"), 5: ("#7440d0", "#260a58", "#8ff0ff"), 6: ("#0c8a98", "#02343f", "#ffb8a0")}
+    radius = {1: 12, 2: 8.4, 3: 7.3, 4: 8, 5: 6.8, 6: 6.3}
+    spread = {1: (0, 0), 2: (9, 9), 3: (11, 11), 4: (10, 10), 5: (11.8, 11.8), 6: (10.2, 12.8)}
     for face in FACES:
         lit, deep, band = glass[face]
         hand = random.Random(f"marbles {face}")
@@ -129,24 +124,24 @@ def marbles():
             swirl = (f"M{at(-0.75, 0.5)} C{at(-0.35, -0.1)} {at(0.05, 0.75)} {at(0.35, 0.05)} C{at(0.5, -0.3)} {at(0.62, -0.5)} "
                      f"{at(0.72, -0.56)} C{at(0.95, -0.1)} {at(0.72, 0.62)} {at(0.28, 0.74)} C{at(-0.05, 0.85)} {at(-0.4, 0.72)} {at(-0.75, 0.5)} Z")
             thin = f"M{at(-0.85, 0.1)} C{at(-0.4, -0.5)} {at(0.1, 0.25)} {at(0.5, -0.72)}"
-            return (circle(x, y, r + 1.3, fill="#2e1604", fill_opacity=0.55) +
+            return (circle(x, y, r + 1.3, fill="#3a1e06", fill_opacity=0.75) +
                     path(f"M{num(x - r * 0.9)} {num(y + r * 0.75)} A{num(r + 1.1)} {num(r + 1.1)} 0 0 0 {num(x + r * 0.75)} {num(y + r * 0.9)}",
                          fill="none", stroke="#ffdca6", stroke_opacity=0.6, stroke_width=0.8) +
                     circle(x, y, r, fill="url(#m)") +
-                    group(path(swirl, fill=band, fill_opacity=0.9),
+                    group(path(swirl, fill=band, fill_opacity=0.8),
                           path(thin, fill="none", stroke="#ffffff", stroke_opacity=0.75, stroke_width=r * 0.13, stroke_linecap="round"),
                           transform=f"translate({num(x)} {num(y)}) rotate({hand.randrange(-35, 35)})") +
                     circle(x, y, r, fill="url(#shade)") +
                     ellipse(x - r * 0.36, y - r * 0.42, r * 0.3, r * 0.22, fill="#ffffff", fill_opacity=0.95))
 
         grain = [path(smooth([(x, 2 + hand.uniform(0, 1.5) + i * 4.4 + hand.uniform(-1, 1)) for x in (1.5, 12, 22, 32, 42.5)], closed=False),
-                      fill="none", stroke="#6a3c14", stroke_opacity=0.35, stroke_width=hand.uniform(0.5, 1.1)) for i in range(10)]
+                      fill="none", stroke="#8a5a26", stroke_opacity=0.28, stroke_width=hand.uniform(0.5, 1.1)) for i in range(10)]
         write(HERE / f"{154 + face}.svg", 48, 48,
-              defs(linear("rim", (0, "#ffe2b0"), (0.5, "#a86c30"), (1, "#4a260a"), x2=1),
-                   linear("wood", (0, "#d9a062"), (0.5, "#bd8044"), (1, "#925a28"), x2=1),
+              defs(linear("rim", (0, "#fff0d0"), (0.5, "#c89a5c"), (1, "#6e4418"), x2=1),
+                   linear("wood", (0, "#f0d2a0"), (0.5, "#dfb67c"), (1, "#bd8c50"), x2=1),
                    radial("m", (0, mix(lit, "#ffffff", 0.35)), (0.55, lit), (1, deep), cx=0.5, cy=0.55, r=0.55),
                    radial("shade", (0, deep, 0), (0.7, deep, 0.08), (1, deep, 0.85), cx=0.42, cy=0.42, r=0.6)),
-              shadow(0, 0, 44, 44, 7, 4, 0.15),
+              shadow(0, 0, 44, 44, 7, 4, 0.09),
               rect(0, 0, 44, 44, 7, fill="url(#rim)"), rect(1.2, 1.2, 41.6, 41.6, 6, fill="url(#wood)"), *grain,
               *[marble(x, y, radius[face]) for x, y in pip_places(face, (22, 22), spread[face])])
 
@@ -190,14 +185,14 @@ def bubbles():
                         transform=f"rotate(-40 {num(x - r * 0.36)} {num(y - r * 0.4)})"))
 
     radius = {1: 10.5, 2: 7.6, 3: 6.3, 4: 6.6, 5: 5.7, 6: 5.5}
-    spread = {1: (0, 0), 2: (9.5, 9.5), 3: (12.2, 12.2), 4: (10, 10), 5: (12.2, 12.2), 6: (10, 12.6)}
+    spread = {1: (0, 0), 2: (9.5, 9.5), 3: (11.3, 11.3), 4: (10, 10), 5: (11.6, 11.6), 6: (10, 12.2)}
     for face in FACES:
         write(HERE / f"{172 + face}.svg", 48, 48,
               defs(linear("rim", (0, "#ffffff"), (0.45, "#7cc4ff"), (1, "#cfeaff"), x2=1),
                    linear("water", (0, "#2a8ce0"), (0.5, "#0a58b0"), (1, "#063a84"), x2=1),
                    radial("glow", (0, "#b8f4ff", 0.55), (1, "#b8f4ff", 0), cx=0.8, cy=0.85, r=0.55),
                    radial("b", (0, "#dff6ff", 0.2), (0.55, "#8fdcff", 0.45), (0.8, "#ffd8f6", 0.75), (1, "#f2fdff", 0.95), cx=0.55, cy=0.58, r=0.55)),
-              shadow(0, 0, 44, 44, 13, 4, 0.12),
+              shadow(0, 0, 44, 44, 13, 4, 0.09),
               rect(0, 0, 44, 44, 13, fill="#04306c"), rect(0.6, 0.6, 42.8, 42.8, 12.6, fill="url(#rim)"),
               rect(1.9, 1.9, 40.2, 40.2, 11.4, fill="url(#water)"), rect(1.9, 1.9, 40.2, 40.2, 11.4, fill="url(#glow)"),
               path("M4.6 21 V14 Q4.6 4.6 14 4.6 H24 Q9 7 4.6 21 Z", fill="#ffffff", fill_opacity=0.5),
@@ -210,7 +205,7 @@ def computer():
             3: (".###.", "#...#", "....#", "..##.", "....#", "#...#", ".###."), 4: ("...#.", "..##.", ".#.#.", "#..#.", "#####", "...#.", "...#."),
             5: ("#####", "#....", "####.", "....#", "....#", "#...#", ".###."), 6: ("..##.", ".#...", "#....", "####.", "#...#", "#...#", ".###.")}
     for face in FACES:
-        cells = [(16.5 + 3 * c, 7.5 + 3 * r) for r, row in enumerate(dots[face]) for c, dot in enumerate(row) if dot == "#"]
+        cells = [(14 + 4 * c, 8 + 3 * r) for r, row in enumerate(dots[face]) for c, dot in enumerate(row) if dot == "#"]
         write(HERE / f"{184 + face}.svg", 48, 48,
               defs(linear("case", (0, "#fbf8ec"), (0.5, "#d8d3c2"), (1, "#8e8876"), x2=1), linear("foot", (0, "#8e8876"), (1, "#dcd7c6")),
                    linear("inset", (0, "#5e594b"), (1, "#f6f2e2"), x2=1),
@@ -222,8 +217,8 @@ def computer():
               rect(2, 0, 44, 40, 4.5, fill="url(#case)"),
               path("M3 34 V5 Q3 1 7 1 H41", fill="none", stroke="#ffffff", stroke_opacity=0.8, stroke_width=1, stroke_linecap="round"),
               rect(6, 3, 36, 30, 4, fill="url(#inset)"), rect(7, 4, 34, 28, 3.4, fill="#050d26"), rect(7.6, 4.6, 32.8, 26.8, 3, fill="url(#screen)"),
-              *[rect(x - 0.8, y - 0.8, 4.6, 4.6, 1.4, fill="#7fd4ff", fill_opacity=0.16) for x, y in cells],
-              *[rect(x, y, 3, 3, fill="#f2fbff") for x, y in cells],
+              *[rect(x - 0.9, y - 0.9, 5.8, 4.8, 1.4, fill="#7fd4ff", fill_opacity=0.16) for x, y in cells],
+              path(" ".join(f"M{x} {y}h4v3h-4z" for x, y in cells), fill="#f2fbff"),
               path("M10 5.4 H26 C18 9 12 16 8.4 25 V8 Q8.4 5.4 10 5.4 Z", fill="url(#glass)"),
               *[rect(8 + 3 * i, 36, 2, 1, fill="#6e6858") for i in range(4)],
               circle(39.5, 36.5, 1.4, fill="#5a5546"), circle(39.5, 36.5, 1, fill="#5cff6a"))
