@@ -154,3 +154,39 @@ def pip_places(face, middle, spread):
             4: [(left, up), (right, up), (left, down), (right, down)],
             5: [(left, up), (right, up), (mx, my), (left, down), (right, down)],
             6: [(left, up), (right, up), (left, my), (right, my), (left, down), (right, down)]}[face]
+
+
+# --- dice ----------------------------------------------------------------------------------------------------------
+
+IVORY = ("#ffffff", "#e6e4dc", "#98948a", "#6a655c")
+RED = ("#f58a86", "#b3141f", "#560710", "#3a040a")
+BLUE = ("#7d9cf2", "#2344b4", "#0d1a5a", "#0a1240")
+BLACK_PIP = ((0, "#0c0b09"), (0.55, "#2e2a24"), (1, "#6e675a"))
+RED_PIP = ((0, "#c9aaa2"), (0.4, "#fbf1ea"), (1, "#ffffff"))
+BLUE_PIP = ((0, "#9aa6c8"), (0.4, "#eef1fa"), (1, "#ffffff"))
+
+
+def die_body(name, lit, face, shaded, rim, r=10.0, gloss=0.42):
+    """A rounded die of 44 x 44. Its edge is a stack of rings that go from full light and shade to the calm face. The name
+    sets its gradients apart from those of another die in the same file.
+    """
+    rings = 6
+    parts = [rect(0, 0, 44, 44, r, fill=f"url(#{name}rim)")]
+    gradients = [linear(f"{name}rim", (0, mix(rim, lit, 0.3)), (0.5, rim), (1, rim), x2=1)]
+    for i in range(rings):
+        inset, edge = 1 + i * 0.72, 0.35 + 0.65 * (1 - i / (rings - 1)) ** 1.5
+        gradients.append(linear(f"{name}{i}", (0, mix(face, lit, edge)), (0.45, face), (1, mix(face, shaded, edge)), x2=1))
+        parts.append(rect(inset, inset, 44 - 2 * inset, 44 - 2 * inset, r - inset * 0.6, fill=f"url(#{name}{i})"))
+    gradients += [radial(f"{name}glow", (0, "#ffffff", gloss), (0.55, "#ffffff", gloss * 0.22), (1, "#ffffff", 0),
+                         cx=0.27, cy=0.2, r=0.62),
+                  linear(f"{name}glint", (0, "#ffffff", min(1, gloss * 1.6)), (0.4, "#ffffff", gloss), (1, "#ffffff", 0),
+                         x2=0.75, y2=0.75)]
+    parts += [rect(4.6, 4.6, 34.8, 34.8, r - 2.8, fill=f"url(#{name}glow)"),
+              path(f"M2.4 34 V{num(r)} Q2.4 2.4 {num(r)} 2.4 H34", fill="none", stroke=f"url(#{name}glint)", stroke_width=1.2)]
+    return defs(*gradients), *parts
+
+
+def hollow(x, y, r, fill, edge, glint):
+    """A pip drilled into the face: its upper edge lies in the shade, its lower edge catches the light."""
+    return (circle(x + 0.55, y + 0.65, r + 0.45, fill=glint[0], fill_opacity=glint[1]) + circle(x, y, r + 0.15, fill=edge) +
+            circle(x, y, r - 0.35, fill=f"url(#{fill})"))

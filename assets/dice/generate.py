@@ -11,67 +11,33 @@ HERE = pathlib.Path(__file__).parent
 sys.dont_write_bytecode = True
 sys.path[:0] = [str(HERE.parent), str(HERE)]
 
-from svg import (circle, defs, ellipse, line, linear, mix, path, pip_places, polygon, radial, rect, shadow, smooth,  # noqa: E402
-                 star, write)
-import scenes  # noqa: E402
+import scenes
+from svg import (BLACK_PIP, BLUE, BLUE_PIP, IVORY, RED, RED_PIP, circle, defs, die_body, hollow, line, linear, path, pip_places, radial, rect, shadow, smooth, star, write)
 
 FACES = range(1, 7)
 
 
 # --- turned and moulded dice ---------------------------------------------------------------------------------------
 
-def body(lit, face, shaded, rim, r=10.0, gloss=0.5):
-    """A rounded die with its shadow. The edge is a stack of rings that go from full light and shade to the calm face."""
-    parts = [
-        shadow(0, 0, 44, 44, r, 4, 0.1),
-        rect(0, 0, 44, 44, r, fill="url(#rim)"),
-    ]
-    gradients = [linear("rim", (0, mix(rim, lit, 0.3)), (0.5, rim), (1, rim), x2=1)]
-    rings = 6
-    for i in range(rings):
-        t, inset = i / (rings - 1), 1 + i * 0.72
-        name = f"r{i}"
-        edge = (1 - t) ** 1.5
-        gradients.append(linear(name, (0, mix(face, lit, 0.35 + 0.65 * edge)), (0.45, face),
-                                (1, mix(face, shaded, 0.35 + 0.65 * edge)), x2=1))
-        parts.append(rect(inset, inset, 44 - 2 * inset, 44 - 2 * inset, r - inset * 0.6, fill=f"url(#{name})"))
-    gradients.append(radial("glow", (0, "#ffffff", gloss), (0.55, "#ffffff", gloss * 0.22), (1, "#ffffff", 0),
-                            cx=0.27, cy=0.2, r=0.62))
-    parts.append(rect(4.6, 4.6, 34.8, 34.8, r - 2.8, fill="url(#glow)"))
-    # the sharp glint along the lit edge
-    gradients.append(linear("glint", (0, "#ffffff", min(1, gloss * 1.6)), (0.4, "#ffffff", gloss), (1, "#ffffff", 0), x2=0.75, y2=0.75))
-    parts.append(path(f"M2.4 34 V{r} Q2.4 2.4 {r} 2.4 H34", fill="none", stroke="url(#glint)", stroke_width=1.2))
-    return defs(*gradients), parts
-
-
-def hollow(x, y, r, edge, glint):
-    """A pip drilled into the face: its upper edge lies in the shade, its lower edge catches the light."""
-    return (circle(x + 0.55, y + 0.65, r + 0.45, fill=glint[0], fill_opacity=glint[1]) + circle(x, y, r + 0.15, fill=edge) +
-            circle(x, y, r - 0.35, fill="url(#pip)"))
-
-
 def moulded(base, colours, pip, edge, glint, **shape):
-    head, parts = body(*colours, **shape)
+    die = shadow(0, 0, 44, 44, shape.get("r", 10), 4, 0.1), *die_body("d", *colours, **shape)
     for face in FACES:
         r = 5.6 if face == 1 else 4.4
-        write(HERE / f"{base + face}.svg", 48, 48, head, *parts,
+        write(HERE / f"{base + face}.svg", 48, 48, *die,
               defs(linear("pip", *pip, x1=0.2, y1=0.1, x2=0.8, y2=0.95)),
-              *[hollow(x, y, r, edge, glint) for x, y in pip_places(face, (22, 22), (11, 11))])
+              *[hollow(x, y, r, "pip", edge, glint) for x, y in pip_places(face, (22, 22), (11, 11))])
 
 
 def blue():
-    moulded(100, ("#7d9cf2", "#2344b4", "#0d1a5a", "#0a1240"),
-            ((0, "#9aa6c8"), (0.4, "#eef1fa"), (1, "#ffffff")), "#0c1850", ("#6f8eea", 0.55), gloss=0.42)
+    moulded(100, BLUE, BLUE_PIP, "#0c1850", ("#6f8eea", 0.55))
 
 
 def red():
-    moulded(106, ("#f58a86", "#b3141f", "#560710", "#3a040a"),
-            ((0, "#c9aaa2"), (0.4, "#fbf1ea"), (1, "#ffffff")), "#4c060d", ("#ee7a78", 0.55), gloss=0.42)
+    moulded(106, RED, RED_PIP, "#4c060d", ("#ee7a78", 0.55))
 
 
 def antique():
-    moulded(112, ("#ffffff", "#e6e4dc", "#98948a", "#6a655c"),
-            ((0, "#0c0b09"), (0.55, "#2e2a24"), (1, "#6e675a")), "#15130f", ("#ffffff", 0.95), r=11.0, gloss=0.75)
+    moulded(112, IVORY, BLACK_PIP, "#15130f", ("#ffffff", 0.95), r=11, gloss=0.75)
 
 
 def green():

@@ -112,8 +112,8 @@ def marbles():
     """Glass marbles with a swirl in the hollows of a wooden board."""
     glass = {1: ("#1f7fd8", "#082458", "#ffd23c"), 2: ("#d8362c", "#560a10", "#ffe8e0"), 3: ("#1f9a4c", "#063a1c", "#fff07a"),
              4: ("#c8500c", "#4a1c02", "#ffe0a0"), 5: ("#7440d0", "#260a58", "#8ff0ff"), 6: ("#0c8a98", "#02343f", "#ffb8a0")}
-    radius = {1: 12, 2: 8.4, 3: 7.3, 4: 8, 5: 6.8, 6: 6.3}
-    spread = {1: (0, 0), 2: (9, 9), 3: (11, 11), 4: (10, 10), 5: (11.8, 11.8), 6: (10.2, 12.8)}
+    radius = {1: 12, 2: 8.4, 3: 6.9, 4: 7.8, 5: 6.5, 6: 5.9}
+    spread = {1: (0, 0), 2: (9, 9), 3: (11.5, 11.5), 4: (10, 10), 5: (11.8, 11.8), 6: (10, 13)}
     for face in FACES:
         lit, deep, band = glass[face]
         hand = random.Random(f"marbles {face}")
@@ -124,8 +124,8 @@ def marbles():
             swirl = (f"M{at(-0.75, 0.5)} C{at(-0.35, -0.1)} {at(0.05, 0.75)} {at(0.35, 0.05)} C{at(0.5, -0.3)} {at(0.62, -0.5)} "
                      f"{at(0.72, -0.56)} C{at(0.95, -0.1)} {at(0.72, 0.62)} {at(0.28, 0.74)} C{at(-0.05, 0.85)} {at(-0.4, 0.72)} {at(-0.75, 0.5)} Z")
             thin = f"M{at(-0.85, 0.1)} C{at(-0.4, -0.5)} {at(0.1, 0.25)} {at(0.5, -0.72)}"
-            return (circle(x, y, r + 1.3, fill="#3a1e06", fill_opacity=0.75) +
-                    path(f"M{num(x - r * 0.9)} {num(y + r * 0.75)} A{num(r + 1.1)} {num(r + 1.1)} 0 0 0 {num(x + r * 0.75)} {num(y + r * 0.9)}",
+            return (circle(x, y, r + 1, fill="#3a1e06", fill_opacity=0.75) +
+                    path(f"M{num(x - r * 0.9)} {num(y + r * 0.75)} A{num(r + 0.9)} {num(r + 0.9)} 0 0 0 {num(x + r * 0.75)} {num(y + r * 0.9)}",
                          fill="none", stroke="#ffdca6", stroke_opacity=0.6, stroke_width=0.8) +
                     circle(x, y, r, fill="url(#m)") +
                     group(path(swirl, fill=band, fill_opacity=0.8),
