@@ -1,33 +1,34 @@
 """Building blocks for the generated pictures.
 
-Every file is made for QtSvg, which knows gradients, paths and opacity, but no filters, clips, masks or patterns; letters
-are outlines, so that they look alike whatever fonts are installed. Light comes from the upper left. Sizes are logical
-pixels.
+Every file is made for QtSvg, which knows gradients, paths and opacity, but no filters, clips, masks or patterns;
+letters are outlines, so that they look alike whatever fonts are installed. Light comes from the upper left. Sizes are
+logical pixels.
 """
 import math
 
 # The digits 1 to 6 of a bold sans serif, 100 units high, about their middle.
 DIGITS = {
     1: "M-34 50L-34 35L-9 35L-9 -33L-33 -18L-33 -34L-8 -50L11 -50L11 35L34 35L34 50L-34 50Z",
-    2: "M-35 51L-35 37C-32 31 -29 26 -24 20C-19 15 -13 9 -6 3C1 -3 6 -7 9 -11C12 -15 13 -18 13 -22C13 -30 9 -35 0 -35"
-       "C-4 -35 -7 -34 -10 -31C-12 -29 -13 -26 -14 -21L-34 -22C-33 -31 -30 -39 -24 -43C-18 -48 -10 -51 0 -51"
-       "C11 -51 19 -48 25 -43C31 -38 33 -32 33 -23C33 -18 33 -14 31 -10C29 -6 26 -3 24 1C21 4 17 7 14 10C10 12 7 15 4 18"
-       "C0 20 -3 23 -5 26C-8 28 -10 31 -11 34L35 34L35 51L-35 51Z",
+    2: "M-35 51L-35 37C-32 31 -29 26 -24 20C-19 15 -13 9 -6 3C1 -3 6 -7 9 -11C12 -15 13 -18 13 -22"
+       "C13 -30 9 -35 0 -35C-4 -35 -7 -34 -10 -31C-12 -29 -13 -26 -14 -21L-34 -22C-33 -31 -30 -39 -24 -43"
+       "C-18 -48 -10 -51 0 -51C11 -51 19 -48 25 -43C31 -38 33 -32 33 -23C33 -18 33 -14 31 -10C29 -6 26 -3 24 1"
+       "C21 4 17 7 14 10C10 12 7 15 4 18C0 20 -3 23 -5 26C-8 28 -10 31 -11 34L35 34L35 51L-35 51Z",
     3: "M36 22C36 32 33 39 27 44C21 49 12 52 1 52C-10 52 -19 49 -25 44C-31 39 -35 32 -36 23L-16 21C-15 31 -9 35 1 35"
        "C5 35 9 34 12 32C14 29 16 26 16 21C16 17 14 13 11 11C8 8 3 7 -3 7L-10 7L-10 -9L-4 -9C2 -9 6 -10 9 -12"
        "C12 -15 13 -18 13 -22C13 -27 12 -30 10 -32C8 -34 4 -36 0 -36C-4 -36 -8 -35 -10 -32C-13 -30 -14 -27 -14 -23"
        "L-34 -24C-33 -33 -30 -39 -24 -44C-18 -49 -10 -52 0 -52C11 -52 19 -49 25 -45C31 -40 34 -33 34 -25"
        "C34 -19 32 -14 28 -10C24 -6 19 -3 12 -2L12 -1C20 0 26 2 30 6C34 10 36 16 36 22Z",
-    4: "M26 30L26 50L7 50L7 30L-39 30L-39 15L3 -50L26 -50L26 15L39 15L39 30L26 30M7 -18L7 -32C6 -29 4 -25 1 -20L-23 15"
-       "L7 15Z",
-    5: "M36 16C36 27 33 35 26 41C20 48 11 51 -1 51C-11 51 -19 48 -25 44C-31 39 -35 33 -36 24L-16 23C-15 27 -13 30 -11 32"
-       "C-8 34 -5 35 -1 35C4 35 8 33 11 30C14 27 16 22 16 16C16 11 14 7 11 4C9 1 5 -1 0 -1C-6 -1 -10 1 -14 6L-33 6"
-       "L-30 -51L30 -51L30 -36L-12 -36L-13 -11C-8 -15 -2 -17 5 -17C14 -17 22 -14 28 -8C33 -2 36 6 36 16Z",
+    4: "M26 30L26 50L7 50L7 30L-39 30L-39 15L3 -50L26 -50L26 15L39 15L39 30L26 30M7 -18L7 -32C6 -29 4 -25 1 -20"
+       "L-23 15L7 15Z",
+    5: "M36 16C36 27 33 35 26 41C20 48 11 51 -1 51C-11 51 -19 48 -25 44C-31 39 -35 33 -36 24L-16 23"
+       "C-15 27 -13 30 -11 32C-8 34 -5 35 -1 35C4 35 8 33 11 30C14 27 16 22 16 16C16 11 14 7 11 4C9 1 5 -1 0 -1"
+       "C-6 -1 -10 1 -14 6L-33 6L-30 -51L30 -51L30 -36L-12 -36L-13 -11C-8 -15 -2 -17 5 -17C14 -17 22 -14 28 -8"
+       "C33 -2 36 6 36 16Z",
     6: "M35 17C35 28 32 36 26 42C20 48 12 51 1 51C-10 51 -19 47 -26 39C-32 31 -35 19 -35 2C-35 -15 -32 -29 -26 -38"
-       "C-19 -47 -10 -51 2 -51C10 -51 17 -50 22 -46C27 -42 30 -36 32 -28L14 -26C12 -32 8 -36 2 -36C-4 -36 -8 -33 -11 -28"
-       "C-14 -22 -16 -14 -16 -3C-13 -7 -11 -10 -7 -11C-3 -13 1 -14 6 -14C15 -14 22 -11 27 -6C33 0 35 8 35 17"
-       "M15 18C15 12 14 8 11 5C9 2 5 0 0 0C-4 0 -8 2 -10 5C-13 7 -14 11 -14 16C-14 22 -13 26 -10 30C-7 34 -4 36 1 36"
-       "C5 36 9 34 11 31C14 28 15 24 15 18Z",
+       "C-19 -47 -10 -51 2 -51C10 -51 17 -50 22 -46C27 -42 30 -36 32 -28L14 -26C12 -32 8 -36 2 -36"
+       "C-4 -36 -8 -33 -11 -28C-14 -22 -16 -14 -16 -3C-13 -7 -11 -10 -7 -11C-3 -13 1 -14 6 -14C15 -14 22 -11 27 -6"
+       "C33 0 35 8 35 17M15 18C15 12 14 8 11 5C9 2 5 0 0 0C-4 0 -8 2 -10 5C-13 7 -14 11 -14 16C-14 22 -13 26 -10 30"
+       "C-7 34 -4 36 1 36C5 36 9 34 11 31C14 28 15 24 15 18Z",
 }
 
 
@@ -54,8 +55,8 @@ def stop_list(stops):
 
 
 def linear(name, *stops, x1=0, y1=0, x2=0, y2=1):
-    return (f'<linearGradient id="{name}" x1="{num(x1)}" y1="{num(y1)}" x2="{num(x2)}" y2="{num(y2)}">{stop_list(stops)}'
-            "</linearGradient>")
+    return (f'<linearGradient id="{name}" x1="{num(x1)}" y1="{num(y1)}" x2="{num(x2)}" y2="{num(y2)}">'
+            f"{stop_list(stops)}</linearGradient>")
 
 
 def radial(name, *stops, cx=0.5, cy=0.5, r=0.5, fx=None, fy=None):
@@ -107,7 +108,8 @@ def smooth(places, closed=True):
     d = f"M{num(places[0][0])} {num(places[0][1])}"
     for i in range(n if closed else n - 1):
         (px, py), (x1, y1), (x2, y2), (nx, ny) = at(i - 1), at(i), at(i + 1), at(i + 2)
-        d += " C" + " ".join(num(v) for v in (x1 + (x2 - px) / 6, y1 + (y2 - py) / 6, x2 - (nx - x1) / 6, y2 - (ny - y1) / 6,
+        d += " C" + " ".join(num(v) for v in (x1 + (x2 - px) / 6, y1 + (y2 - py) / 6, x2 - (nx - x1) / 6,
+                                              y2 - (ny - y1) / 6,
                                               x2, y2))
     return d + (" Z" if closed else "")
 
@@ -167,26 +169,29 @@ BLUE_PIP = ((0, "#9aa6c8"), (0.4, "#eef1fa"), (1, "#ffffff"))
 
 
 def die_body(name, lit, face, shaded, rim, r=10.0, gloss=0.42):
-    """A rounded die of 44 x 44. Its edge is a stack of rings that go from full light and shade to the calm face. The name
-    sets its gradients apart from those of another die in the same file.
+    """A rounded die of 44 x 44. Its edge is a stack of rings that go from full light and shade to the calm face. The
+    name sets its gradients apart from those of another die in the same file.
     """
     rings = 6
     parts = [rect(0, 0, 44, 44, r, fill=f"url(#{name}rim)")]
     gradients = [linear(f"{name}rim", (0, mix(rim, lit, 0.3)), (0.5, rim), (1, rim), x2=1)]
     for i in range(rings):
         inset, edge = 1 + i * 0.72, 0.35 + 0.65 * (1 - i / (rings - 1)) ** 1.5
-        gradients.append(linear(f"{name}{i}", (0, mix(face, lit, edge)), (0.45, face), (1, mix(face, shaded, edge)), x2=1))
+        gradients.append(linear(f"{name}{i}", (0, mix(face, lit, edge)), (0.45, face), (1, mix(face, shaded, edge)),
+                                x2=1))
         parts.append(rect(inset, inset, 44 - 2 * inset, 44 - 2 * inset, r - inset * 0.6, fill=f"url(#{name}{i})"))
     gradients += [radial(f"{name}glow", (0, "#ffffff", gloss), (0.55, "#ffffff", gloss * 0.22), (1, "#ffffff", 0),
                          cx=0.27, cy=0.2, r=0.62),
-                  linear(f"{name}glint", (0, "#ffffff", min(1, gloss * 1.6)), (0.4, "#ffffff", gloss), (1, "#ffffff", 0),
+                  linear(f"{name}glint", (0, "#ffffff", min(1, gloss * 1.6)), (0.4, "#ffffff", gloss),
+                         (1, "#ffffff", 0),
                          x2=0.75, y2=0.75)]
     parts += [rect(4.6, 4.6, 34.8, 34.8, r - 2.8, fill=f"url(#{name}glow)"),
-              path(f"M2.4 34 V{num(r)} Q2.4 2.4 {num(r)} 2.4 H34", fill="none", stroke=f"url(#{name}glint)", stroke_width=1.2)]
+              path(f"M2.4 34 V{num(r)} Q2.4 2.4 {num(r)} 2.4 H34", fill="none", stroke=f"url(#{name}glint)",
+                   stroke_width=1.2)]
     return defs(*gradients), *parts
 
 
 def hollow(x, y, r, fill, edge, glint):
     """A pip drilled into the face: its upper edge lies in the shade, its lower edge catches the light."""
-    return (circle(x + 0.55, y + 0.65, r + 0.45, fill=glint[0], fill_opacity=glint[1]) + circle(x, y, r + 0.15, fill=edge) +
-            circle(x, y, r - 0.35, fill=f"url(#{fill})"))
+    return (circle(x + 0.55, y + 0.65, r + 0.45, fill=glint[0], fill_opacity=glint[1]) +
+            circle(x, y, r + 0.15, fill=edge) + circle(x, y, r - 0.35, fill=f"url(#{fill})"))

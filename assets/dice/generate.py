@@ -12,7 +12,8 @@ sys.dont_write_bytecode = True
 sys.path[:0] = [str(HERE.parent), str(HERE)]
 
 import scenes
-from svg import (BLACK_PIP, BLUE, BLUE_PIP, IVORY, RED, RED_PIP, circle, defs, die_body, hollow, line, linear, path, pip_places, radial, rect, shadow, smooth, star, write)
+from svg import (BLACK_PIP, BLUE, BLUE_PIP, IVORY, RED, RED_PIP, circle, defs, die_body, hollow, line, linear, path,
+                 pip_places, radial, rect, shadow, smooth, star, write)
 
 FACES = range(1, 7)
 
@@ -44,7 +45,8 @@ def green():
     """Small dice seen a little from above: a face and the front edge under it."""
     for face in FACES:
         write(HERE / f"{130 + face}.svg", 29, 31,
-              defs(linear("side", (0, "#0a6a22"), (1, "#043a10")), linear("rim", (0, "#b6ffbe"), (0.5, "#2fc04a"), (1, "#0c8a2a"), x2=1),
+              defs(linear("side", (0, "#0a6a22"), (1, "#043a10")),
+                   linear("rim", (0, "#b6ffbe"), (0.5, "#2fc04a"), (1, "#0c8a2a"), x2=1),
                    linear("top", (0, "#3fd05a"), (0.5, "#17a336"), (1, "#0a7a26"), x2=1),
                    radial("glow", (0, "#ffffff", 0.5), (1, "#ffffff", 0), cx=0.25, cy=0.2, r=0.6),
                    radial("pip", (0, "#ffffff"), (0.6, "#ffffff"), (1, "#d2ead6"), cx=0.45, cy=0.45, r=0.55)),
@@ -61,9 +63,11 @@ def patriot():
     def rounded(top, bottom):
         """A band of the face, round at its outer corners."""
         r, x1, x2 = 6.5, 3, 41
-        up = f"M{x1} {top + r} Q{x1} {top} {x1 + r} {top} H{x2 - r} Q{x2} {top} {x2} {top + r}" if top == 3 else f"M{x1} {top} H{x2}"
-        down = (f"V{bottom - r} Q{x2} {bottom} {x2 - r} {bottom} H{x1 + r} Q{x1} {bottom} {x1} {bottom - r} Z" if bottom == 41
-                else f"V{bottom} H{x1} Z")
+        up, down = f"M{x1} {top} H{x2}", f"V{bottom} H{x1} Z"
+        if top == 3:
+            up = f"M{x1} {top + r} Q{x1} {top} {x1 + r} {top} H{x2 - r} Q{x2} {top} {x2} {top + r}"
+        if bottom == 41:
+            down = f"V{bottom - r} Q{x2} {bottom} {x2 - r} {bottom} H{x1 + r} Q{x1} {bottom} {x1} {bottom - r} Z"
         return f"{up} {down}"
 
     def pip(x, y, colour):
@@ -78,7 +82,8 @@ def patriot():
                    radial("glow", (0, "#ffffff", 0.5), (1, "#ffffff", 0), cx=0.25, cy=0.15, r=0.6)),
               shadow(0, 0, 44, 44, 9, 4, 0.12),
               rect(0, 0, 44, 44, 9, fill="#050a30"), rect(0.75, 0.75, 42.5, 42.5, 8.4, fill="url(#rim)"),
-              path(rounded(3, 16), fill="url(#u)"), path(rounded(16, 28), fill="url(#w)"), path(rounded(28, 41), fill="url(#d)"),
+              path(rounded(3, 16), fill="url(#u)"), path(rounded(16, 28), fill="url(#w)"),
+              path(rounded(28, 41), fill="url(#d)"),
               rect(3, 3, 38, 38, 6.5, fill="url(#glow)"),
               *[pip(x, y, "#14206e") if y == 22 else pip(x + 0.6, y + 0.8, "#060a2a") + pip(x, y, "#ffffff")
                 for x, y in pip_places(face, (22, 22), (11.5, 12.4))])
@@ -97,19 +102,22 @@ def pablo():
 
         def box(inset, by):
             a, b, m, c = inset, 48 - inset, 24, 4.5
-            return [shake(x, y, by) for x, y in ((a + c, a), (m, a - 0.6), (b - c, a), (b, a + c), (b + 0.5, m), (b, b - c), (b - c, b),
+            return [shake(x, y, by) for x,
+                    y in ((a + c, a), (m, a - 0.6), (b - c, a), (b, a + c), (b + 0.5, m), (b, b - c), (b - c, b),
                                                  (m, b + 0.6), (a + c, b), (a, b - c), (a - 0.6, m), (a, a + c))]
 
         def blot(x, y, r):
             ring = [(x + r * hand.uniform(0.9, 1.1) * dx, y + r * hand.uniform(0.9, 1.1) * dy)
-                    for dx, dy in ((0, -1), (0.7, -0.7), (1, 0), (0.7, 0.7), (0, 1), (-0.7, 0.7), (-1, 0), (-0.7, -0.7))]
+                    for dx, dy in ((0, -1), (0.7, -0.7), (1, 0), (0.7, 0.7), (0, 1), (-0.7, 0.7), (-1, 0),
+                                   (-0.7, -0.7))]
             return path(smooth(ring), fill=ink)
 
         outline = box(3.4, 0.9)
         parts = [path(smooth(outline), fill="#fbf7ea")]
         # the wash: one slanting patch of colour that leaves a corner of the paper bare
         cut, slant = hand.uniform(8, 15), hand.uniform(4, 12)
-        wash = [shake(x, y, 0.8) for x, y in ((6 + cut, 6), (24 + cut / 2, 5.6), (42.5, 6), (42.8, 24), (42.5, 42.2), (26, 42.6),
+        wash = [shake(x, y, 0.8) for x,
+                y in ((6 + cut, 6), (24 + cut / 2, 5.6), (42.5, 6), (42.8, 24), (42.5, 42.2), (26, 42.6),
                                               (6 + slant, 42), (5.8 + slant / 2, 33 + cut / 4), (6 + cut * 0.6, 20))]
         parts.append(path(smooth(wash), fill=washes[face - 1]))
         parts += [line(*shake(38.6 + i * 2, 43, 0.3), *shake(43, 38.2 + i * 2, 0.3), stroke=ink, stroke_opacity=0.5,
@@ -145,10 +153,12 @@ def marker():
 def about_die():
     """A GIF has no soft edges: the die lies on the ground of the dialog, and what is pure ground is left out."""
     ground = "rgb(239,239,239)"
-    image = subprocess.run(["rsvg-convert", "-w", "96", "-h", "96", HERE / "105.svg"], check=True, capture_output=True).stdout
+    image = subprocess.run(["rsvg-convert", "-w", "96", "-h", "96", HERE / "105.svg"], check=True,
+                           capture_output=True).stdout
     data = HERE.parent / "Data"
     data.mkdir(exist_ok=True)
-    subprocess.run(["convert", "png:-", "-background", ground, "-flatten", "-transparent", ground, "+dither", "-colors", "250",
+    subprocess.run(["convert", "png:-", "-background", ground, "-flatten", "-transparent", ground, "+dither",
+                    "-colors", "250",
                     "-strip", data / "Dice_Blue_5.gif"], input=image, check=True)
 
 
