@@ -134,16 +134,17 @@ def group(*parts, transform):
 
 
 def shadow(x, y, w, h, r, depth, strength):
-    """The soft shadow of a rounded body, thrown to the lower right."""
+    """The soft shadow of a rounded body, thrown down by depth and to the right by half of it."""
     steps = 2 * depth
-    return "".join(rect(x + i / 2, y + i / 2, w, h, r, fill="#000000", fill_opacity=strength * (1.25 - i / steps))
+    return "".join(rect(x + i / 4, y + i / 2, w, h, r, fill="#000000", fill_opacity=strength * (1.25 - i / steps))
                    for i in range(steps, 0, -1))
 
 
-def write(file, width, height, *parts):
+def write(file, width, height, *parts, left=0):
+    """Writes a picture; all its parts are moved to the right by `left`."""
     file.write_text(
         f'<svg xmlns="http://www.w3.org/2000/svg" version="1.2" baseProfile="tiny" width="{width}" height="{height}" '
-        f'viewBox="0 0 {width} {height}">\n' + "\n".join(parts) + "\n</svg>\n", encoding="ascii")
+        f'viewBox="{-left} 0 {width} {height}">\n' + "\n".join(parts) + "\n</svg>\n", encoding="ascii")
 
 
 def pip_places(face, middle, spread):

@@ -12,10 +12,9 @@ sys.dont_write_bytecode = True
 sys.path[:0] = [str(HERE.parent), str(HERE)]
 
 import scenes
+from scenes import FACES, MARGIN
 from svg import (BLACK_PIP, BLUE, BLUE_PIP, IVORY, RED, RED_PIP, circle, defs, die_body, hollow, line, linear, path,
                  pip_places, radial, rect, shadow, smooth, star, write)
-
-FACES = range(1, 7)
 
 
 # --- turned and moulded dice ---------------------------------------------------------------------------------------
@@ -26,7 +25,8 @@ def moulded(base, colours, pip, edge, glint, **shape):
         r = 5.6 if face == 1 else 4.4
         write(HERE / f"{base + face}.svg", 48, 48, *die,
               defs(linear("pip", *pip, x1=0.2, y1=0.1, x2=0.8, y2=0.95)),
-              *[hollow(x, y, r, "pip", edge, glint) for x, y in pip_places(face, (22, 22), (11, 11))])
+              *[hollow(x, y, r, "pip", edge, glint) for x, y in pip_places(face, (22, 22), (11, 11))],
+              left=MARGIN)
 
 
 def blue():
@@ -86,7 +86,8 @@ def patriot():
               path(rounded(28, 41), fill="url(#d)"),
               rect(3, 3, 38, 38, 6.5, fill="url(#glow)"),
               *[pip(x, y, "#14206e") if y == 22 else pip(x + 0.6, y + 0.8, "#060a2a") + pip(x, y, "#ffffff")
-                for x, y in pip_places(face, (22, 22), (11.5, 12.4))])
+                for x, y in pip_places(face, (22, 22), (11.5, 12.4))],
+              left=MARGIN)
 
 
 # --- drawn by hand -------------------------------------------------------------------------------------------------

@@ -8,6 +8,7 @@ from svg import (around, circle, defs, digit, ellipse, group, line, linear, mix,
 
 HERE = pathlib.Path(__file__).parent
 FACES = range(1, 7)
+MARGIN = 2  # to the left of a body of 44, so that it stands in the middle of its 48 pixels
 
 
 def clocks():
@@ -114,7 +115,8 @@ def clouds():
                    linear("sky", (0, "#1450c0"), (0.6, "#3f86e4"), (1, "#7db8f6"))),
               shadow(0, 0, 44, 44, 9, 4, 0.09),
               rect(0, 0, 44, 44, 9, fill="url(#rim)"), rect(1.2, 1.2, 41.6, 41.6, 8, fill="url(#sky)"),
-              *[cloud(x, y, width[face]) for x, y in pip_places(face, (22, 22), spread[face])])
+              *[cloud(x, y, width[face]) for x, y in pip_places(face, (22, 22), spread[face])],
+              left=MARGIN)
 
 
 def marbles():
@@ -162,7 +164,8 @@ def marbles():
               shadow(0, 0, 44, 44, 7, 4, 0.09),
               rect(0, 0, 44, 44, 7, fill="url(#rim)"), rect(1.2, 1.2, 41.6, 41.6, 6, fill="url(#wood)"),
               *[vein(2 + 4.4 * i) for i in range(10)],
-              *[marble(x, y, radius[face]) for x, y in pip_places(face, (22, 22), spread[face])])
+              *[marble(x, y, radius[face]) for x, y in pip_places(face, (22, 22), spread[face])],
+              left=MARGIN)
 
 
 def keys():
@@ -219,7 +222,8 @@ def bubbles():
               rect(0, 0, 44, 44, 13, fill="#04306c"), rect(0.6, 0.6, 42.8, 42.8, 12.6, fill="url(#rim)"),
               rect(1.9, 1.9, 40.2, 40.2, 11.4, fill="url(#water)"), rect(1.9, 1.9, 40.2, 40.2, 11.4, fill="url(#glow)"),
               path("M4.6 21 V14 Q4.6 4.6 14 4.6 H24 Q9 7 4.6 21 Z", fill="#ffffff", fill_opacity=0.5),
-              *[bubble(x, y, radius[face]) for x, y in pip_places(face, (22, 22), spread[face])])
+              *[bubble(x, y, radius[face]) for x, y in pip_places(face, (22, 22), spread[face])],
+              left=MARGIN)
 
 
 def computer():
