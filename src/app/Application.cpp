@@ -149,7 +149,7 @@ void Application::CheckWhoopin(const std::string&, std::int16_t) {}
 
 void Application::ShowCongrats() {
   Form->ShowControls();
-  frmCongrats(Table, Form.get()).exec();
+  frmCongrats(Table, *Form).exec();
 }
 
 void Application::ShowNewGame() {
