@@ -279,7 +279,7 @@ def quacker():
 
 def moose():
     rng = random.Random(31)
-    defs = (linear("sky", (0, "#20384a"), (0.45, "#2b505c"), (0.72, "#4a6c6a"), (0.88, "#b4a884"), (1, "#d8b988"))
+    defs = (linear("sky", (0, "#20384a"), (0.45, "#2b505c"), (0.7, "#48696a"), (0.82, "#7f8f7c"), (1, "#a89f80"))
             + linear("antler", (0, "#9a7a50"), (0.6, "#84643e"), (1, "#6a4c2e"))
             + linear("face", (0, "#7c5234"), (0.5, "#8e6040"), (1, "#a87a54"))
             + radial("snout", (0, "#c79a72"), (0.6, "#ad7f5a"), (1, "#835838"), cx=0.4, cy=0.3, r=0.8)
@@ -307,7 +307,7 @@ def moose():
                 continue
             layer += pine(x, base, high * rng.uniform(0.6, 1.05), colour)
         body += f'<g{" filter=" + chr(34) + "url(#b2)" + chr(34) if soft else ""}>{layer}<rect x="0" y="{base - 4}" width="786" height="240" fill="{colour}"/></g>'
-        body += f'<ellipse cx="393" cy="{base}" rx="520" ry="34" fill="#c8cdb6" opacity="0.20" filter="url(#b30)"/>'
+        body += f'<ellipse cx="393" cy="{base}" rx="520" ry="34" fill="#9fb0a4" opacity="0.12" filter="url(#b30)"/>'
     body += '<path d="M-10 944Q200 900 400 930T800 920V1040H-10Z" fill="#b9c8cc"/><path d="M-10 960Q220 920 420 948T800 940V1040H-10Z" fill="#dbe4e6"/>'
     for _ in range(50):
         body += f'<ellipse cx="{rng.uniform(0, WIDTH):.0f}" cy="{rng.uniform(950, 1026):.0f}" rx="{rng.uniform(20, 90):.0f}" ry="4" fill="#9fb3bb" opacity="0.4" filter="url(#b2)"/>'

@@ -202,21 +202,22 @@ def nautical():
             a = math.atan2(y - last[1], x - last[0])
             walked += math.hypot(x - last[0], y - last[1])
             last = (x, y)
-            if walked >= 11:
-                walked = 0
+            if walked >= 10:
+                walked -= 10
                 out += (f'<g transform="translate({x:.1f} {y:.1f}) rotate({math.degrees(a):.0f})"><path d="M-9 7C-7 0 0 -6 8 -7.5C13 -6 12 -1 8 1C3 3 -1 8 -3 8Z" fill="#7d6540" stroke="#33240f" stroke-width="1.2"/>'
                         '<path d="M-6 5C-4 0 2 -4 8 -5.5" stroke="#b0945c" stroke-width="2" fill="none" stroke-linecap="round"/><path d="M-4 6.5C-2 2 3 -1 9 -2.5" stroke="#6a5228" stroke-width="1" fill="none"/></g>')
         return out
-    frame, r, m = [], 26, 13
+    frame, r, m = [], 46, 13
     x1, y1 = WIDTH - m, HEIGHT - m
     for k in range(0, WIDTH - 2 * m - 2 * r):
         frame.append((m + r + k, m))
-    frame += [(x1 - r + r * math.sin(k / 40 * math.pi / 2), m + r - r * math.cos(k / 40 * math.pi / 2)) for k in range(41)]
+    frame += [(x1 - r + r * math.sin(k / 72 * math.pi / 2), m + r - r * math.cos(k / 72 * math.pi / 2)) for k in range(73)]
     frame += [(x1, m + r + k) for k in range(0, HEIGHT - 2 * m - 2 * r)]
-    frame += [(x1 - r + r * math.cos(k / 40 * math.pi / 2), y1 - r + r * math.sin(k / 40 * math.pi / 2)) for k in range(41)]
+    frame += [(x1 - r + r * math.cos(k / 72 * math.pi / 2), y1 - r + r * math.sin(k / 72 * math.pi / 2)) for k in range(73)]
     frame += [(x1 - r - k, y1) for k in range(0, WIDTH - 2 * m - 2 * r)]
-    frame += [(m + r - r * math.sin(k / 40 * math.pi / 2), y1 - r + r * math.cos(k / 40 * math.pi / 2)) for k in range(41)]
+    frame += [(m + r - r * math.sin(k / 72 * math.pi / 2), y1 - r + r * math.cos(k / 72 * math.pi / 2)) for k in range(73)]
     frame += [(m, y1 - r - k) for k in range(0, HEIGHT - 2 * m - 2 * r)]
-    frame += [(m + r - r * math.cos(k / 40 * math.pi / 2), m + r - r * math.sin(k / 40 * math.pi / 2)) for k in range(41)]
+    frame += [(m + r - r * math.cos(k / 72 * math.pi / 2), m + r - r * math.sin(k / 72 * math.pi / 2)) for k in range(73)]
+    frame += frame[:8]  # closes the round
     body += f'<rect x="{m + 3}" y="{m + 6}" width="{WIDTH - 2 * m}" height="{HEIGHT - 2 * m}" rx="{r}" fill="none" stroke="#020b14" stroke-width="15" opacity="0.5" filter="url(#b5)"/>{rope(frame)}'
     save_svg("Nautical", 6, defs, body)
