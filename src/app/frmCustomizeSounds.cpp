@@ -27,6 +27,7 @@ constexpr std::array<Entry, GameSettings::SoundEvents> Entries{{{"Blunko", "Blun
                                                                 {"OneDie", "Roll One Die"},
                                                                 {"Undo", "Undo"}}};
 constexpr std::int16_t Backspace = 8;
+constexpr int ListWidth = 240;  // px
 const QColor ButtonColour(137, 189, 255);
 
 }  // namespace
@@ -49,13 +50,16 @@ frmCustomizeSounds::frmCustomizeSounds(Game& Table, GameSettings& Options, QWidg
 
 void frmCustomizeSounds::Build() {
   lstEvents = new QListWidget(this);
-  for (const Entry& Made : Entries) lstEvents->addItem(QString::fromLatin1(Made.Caption));
-  lstEvents->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  const int RowHeight = fontMetrics().height() + 6;
+  for (const Entry& Made : Entries) {
+    auto* Row = new QListWidgetItem(QString::fromLatin1(Made.Caption), lstEvents);
+    Row->setSizeHint(QSize(0, RowHeight));
+  }
   lstEvents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstEvents->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   const int Border = 2 * lstEvents->frameWidth();
-  lstEvents->setFixedHeight(lstEvents->sizeHintForRow(0) * lstEvents->count() + Border);
-  lstEvents->setMinimumWidth(lstEvents->sizeHintForColumn(0) + Border + 24);
+  lstEvents->setFixedHeight(RowHeight * lstEvents->count() + Border);
+  lstEvents->setMinimumWidth(ListWidth);
   txtSound = new QLineEdit(this);
   txtSound->setReadOnly(true);
   cmdBrowse = new ButtonPlus(tr("Browse..."), this);
@@ -71,21 +75,25 @@ void frmCustomizeSounds::Build() {
   };
   auto* Hint = new QLabel(tr("[Hit Backspace to restore defaults]"), this);
   Hint->setAlignment(Qt::AlignCenter);
+  auto* Buttons = new QVBoxLayout;
+  Buttons->setSpacing(4);
+  Buttons->addWidget(cmdBrowse);
+  Buttons->addWidget(cmdTest);
+  Buttons->addStretch(1);
+  Buttons->addWidget(cmdOK);
+  Buttons->addWidget(cmdCancel);
   auto* Places = new QGridLayout(this);
   Places->setContentsMargins(12, 10, 12, 10);
-  Places->setHorizontalSpacing(10);
+  Places->setHorizontalSpacing(12);
   Places->setVerticalSpacing(4);
-  Places->setColumnStretch(0, 1);
   Places->addWidget(Caption(tr("Event:"), lstEvents), 0, 0);
-  Places->addWidget(lstEvents, 1, 0, 5, 1);
-  Places->addWidget(cmdOK, 1, 1);
-  Places->addWidget(cmdCancel, 2, 1);
-  Places->setRowStretch(3, 1);
-  Places->addWidget(Caption(tr("Sound:"), txtSound), 6, 0);
-  Places->addWidget(txtSound, 7, 0);
-  Places->addWidget(cmdBrowse, 4, 1);
-  Places->addWidget(cmdTest, 5, 1);
-  Places->addWidget(Hint, 8, 0, 1, 2);
+  Places->addWidget(lstEvents, 1, 0);
+  Places->setRowMinimumHeight(2, 4);
+  Places->addWidget(Caption(tr("Sound:"), txtSound), 3, 0);
+  Places->addWidget(txtSound, 4, 0);
+  Places->addLayout(Buttons, 1, 1, 4, 1);
+  Places->setRowMinimumHeight(5, 4);
+  Places->addWidget(Hint, 6, 0, 1, 2);
   Places->setSizeConstraint(QLayout::SetFixedSize);
 
   const std::pair<QWidget*, const char*> Names[] = {{lstEvents, "lstEvents"}, {txtSound, "txtSound"},
@@ -106,6 +114,14 @@ void frmCustomizeSounds::Form_Load() {
   lstEvents->setCurrentRow(0);
   lstEvents_Click();
   FixButtonColours(*this);
+}
+
+/// Centred on the owner. The window's frame isn't known yet; it will be like the owner's.
+void frmCustomizeSounds::showEvent(QShowEvent* Event) {
+  const QRect Around = parentWidget()->frameGeometry();
+  const QSize Frame = Around.size() - parentWidget()->size();
+  move(Around.center() - QRect(QPoint(), sizeHint() + Frame).center());
+  QDialog::showEvent(Event);
 }
 
 std::string& frmCustomizeSounds::ChosenFile() { return EventFile[static_cast<std::size_t>(lstEvents->currentRow())]; }

@@ -35,6 +35,7 @@ class frmCustomizeSounds : public QDialog {
   ButtonPlus* cmdCancel;
 
  protected:
+  void showEvent(QShowEvent* Event) override;
   void keyReleaseEvent(QKeyEvent* Event) override;
 
  private:

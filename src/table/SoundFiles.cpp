@@ -21,8 +21,9 @@ QString FileOfSound(int Id) {
 }
 
 int ExtractResource(int Id, const QString& Kind, const QString& Path) {
-  QFile Resource(QStringLiteral(":/sounds/") + FileOfSound(Id));
-  if (Kind != QLatin1String("CUSTOM") || !Resource.open(QIODevice::ReadOnly)) return ENOENT;
+  const QString Name = FileOfSound(Id);
+  QFile Resource(QStringLiteral(":/sounds/") + Name);
+  if (Kind != QLatin1String("CUSTOM") || Name.isEmpty() || !Resource.open(QIODevice::ReadOnly)) return ENOENT;
   const QByteArray Bytes = Resource.readAll();
 
   const int Descriptor = open(QFile::encodeName(Path).constData(),

@@ -23,6 +23,7 @@ constexpr qint64 LargestFile = 32 << 20;                         // bytes
 constexpr auto LongestOpening = std::chrono::seconds(1);         // a sound that comes later than this no longer fits
 constexpr auto LongestClosing = std::chrono::milliseconds(500);  // at the program's end
 constexpr int DeviceRate = 44100;                                // Hz
+constexpr int DeviceFrame = 4;                                   // bytes: two channels of 16 bits
 constexpr int DevicePeriod = 1024;                               // samples, 23 ms
 constexpr Uint32 Portion = 1024;                                 // frames of a wave that are converted at once
 
@@ -42,7 +43,6 @@ struct SoundLibrary {
   decltype(&SDL_NewAudioStream) NewAudioStream;
   decltype(&SDL_FreeAudioStream) FreeAudioStream;
   decltype(&SDL_AudioStreamPut) AudioStreamPut;
-  decltype(&SDL_AudioStreamFlush) AudioStreamFlush;
   decltype(&SDL_AudioStreamAvailable) AudioStreamAvailable;
   decltype(&SDL_AudioStreamGet) AudioStreamGet;
 
@@ -67,7 +67,6 @@ struct SoundLibrary {
     Find(NewAudioStream, "SDL_NewAudioStream");
     Find(FreeAudioStream, "SDL_FreeAudioStream");
     Find(AudioStreamPut, "SDL_AudioStreamPut");
-    Find(AudioStreamFlush, "SDL_AudioStreamFlush");
     Find(AudioStreamAvailable, "SDL_AudioStreamAvailable");
     Find(AudioStreamGet, "SDL_AudioStreamGet");
     SilenceDriver();
@@ -125,8 +124,9 @@ class Sounds::Player {
   SDL_AudioStream* stream = nullptr;
   Uint8* wave = nullptr;
   Uint32 waveLength = 0;
-  Uint32 frame = 1;  ///< bytes of one sample of all channels
-  Uint32 taken = 0;
+  Uint32 taken = 0;      ///< bytes of the wave that the converter has
+  QByteArray silence;    ///< a portion of it in the wave's form
+  qint64 remaining = 0;  ///< bytes that the device hasn't
 };
 
 void Sounds::Player::Start(const std::shared_ptr<Player>& Shared, const QString& Path) {
@@ -231,9 +231,12 @@ bool Sounds::Player::Begin(const QByteArray& File) {
   SDL_AudioStream* Converter = sdl.NewAudioStream(Form.format, Form.channels, Form.freq, AUDIO_S16SYS, 2, DeviceRate);
   if (Converter == nullptr) return false;
   sdl.LockAudioDevice(device);
-  frame = Form.channels * SDL_AUDIO_BITSIZE(Form.format) / 8U;
-  waveLength -= waveLength % frame;
+  const Uint32 Frame = Form.channels * SDL_AUDIO_BITSIZE(Form.format) / 8U;
+  waveLength -= waveLength % Frame;
   taken = 0;
+  silence.fill(static_cast<char>(Form.silence), static_cast<qsizetype>(Frame * Portion));
+  const qint64 Frames = qint64{waveLength / Frame} * DeviceRate / Form.freq + DeviceRate / 100;
+  remaining = Frames * DeviceFrame;
   stream = Converter;
   sdl.UnlockAudioDevice(device);
   return true;
@@ -248,21 +251,25 @@ void Sounds::Player::End() {
 }
 
 /// The callback of the device. It converts the wave bit by bit: a long one is never held in the device's form as a
-/// whole.
+/// whole. Silence follows it, which pushes its end out of the converter: the library's own flush makes a click there.
 void Sounds::Player::Fill(void* User, Uint8* Out, int Length) {
   Player& p = *static_cast<Player*>(User);
+  const bool Ended = p.remaining <= 0;
   int Got = 0;
-  if (p.stream != nullptr) {
-    while (p.sdl.AudioStreamAvailable(p.stream) < Length && p.taken < p.waveLength) {
-      const Uint32 Size = std::min(p.frame * Portion, p.waveLength - p.taken);
-      p.sdl.AudioStreamPut(p.stream, p.wave + p.taken, static_cast<int>(Size));
-      p.taken += Size;
-      if (p.taken == p.waveLength) p.sdl.AudioStreamFlush(p.stream);
+  if (p.stream != nullptr && !Ended) {
+    bool Fits = true;
+    while (Fits && p.sdl.AudioStreamAvailable(p.stream) < Length) {
+      const auto Full = static_cast<Uint32>(p.silence.size());
+      const Uint32 Size = p.taken < p.waveLength ? std::min(Full, p.waveLength - p.taken) : Full;
+      const void* From = p.taken < p.waveLength ? static_cast<const void*>(p.wave + p.taken) : p.silence.constData();
+      Fits = p.sdl.AudioStreamPut(p.stream, From, static_cast<int>(Size)) == 0;
+      p.taken += p.taken < p.waveLength ? Size : 0;
     }
-    Got = std::max(p.sdl.AudioStreamGet(p.stream, Out, Length), 0);
+    Got = Fits ? std::max(p.sdl.AudioStreamGet(p.stream, Out, Length), 0) : 0;
+    p.remaining = Got > 0 ? p.remaining - Got : 0;
   }
   std::fill(Out + Got, Out + Length, Uint8{0});
-  if (p.stream == nullptr || Got > 0) return;
+  if (p.stream == nullptr || !Ended) return;
   const std::lock_guard Lock(p.mutex);
   p.finished = true;
   p.changed.notify_all();
