@@ -99,7 +99,10 @@ void frmCustomizeSounds::Build() {
   const std::pair<QWidget*, const char*> Names[] = {{lstEvents, "lstEvents"}, {txtSound, "txtSound"},
                                                     {cmdBrowse, "cmdBrowse"}, {cmdTest, "cmdTest"},
                                                     {cmdOK, "cmdOK"},         {cmdCancel, "cmdCancel"}};
-  for (const auto& [Widget, Name] : Names) Widget->setObjectName(QLatin1String(Name));
+  for (const auto& [Widget, Name] : Names) {
+    Widget->setObjectName(QLatin1String(Name));
+    Widget->installEventFilter(this);
+  }
   connect(lstEvents, &QListWidget::currentRowChanged, this, &frmCustomizeSounds::lstEvents_Click);
   connect(lstEvents, &QListWidget::itemDoubleClicked, this, &frmCustomizeSounds::cmdBrowse_Click);
   connect(cmdBrowse, &QPushButton::clicked, this, &frmCustomizeSounds::cmdBrowse_Click);
@@ -146,10 +149,13 @@ void frmCustomizeSounds::cmdOK_Click() {
   accept();
 }
 
-/// Keys that the controls leave arrive here: none of them takes the release of Backspace.
-void frmCustomizeSounds::keyReleaseEvent(QKeyEvent* Event) {
-  if (Event->isAutoRepeat()) return;
-  Form_KeyUp(KeyCodeOf(*Event));
+/// The form sees keys before its controls do: a line of text, for one, would keep them to itself.
+bool frmCustomizeSounds::eventFilter(QObject* Watched, QEvent* Event) {
+  if (Event->type() == QEvent::KeyRelease) {
+    const auto& Key = static_cast<const QKeyEvent&>(*Event);
+    if (!Key.isAutoRepeat()) Form_KeyUp(KeyCodeOf(Key));
+  }
+  return QDialog::eventFilter(Watched, Event);
 }
 
 void frmCustomizeSounds::Form_KeyUp(std::int16_t KeyCode) {

@@ -36,7 +36,7 @@ class frmCustomizeSounds : public QDialog {
 
  protected:
   void showEvent(QShowEvent* Event) override;
-  void keyReleaseEvent(QKeyEvent* Event) override;
+  bool eventFilter(QObject* Watched, QEvent* Event) override;
 
  private:
   void Build();
