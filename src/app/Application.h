@@ -10,6 +10,7 @@
 #include "storage/IniInfo.h"
 #include "table/OptionsPanel.h"
 #include "table/QtDesktop.h"
+#include "table/Sounds.h"
 #include "table/frmMain.h"
 #include "table/frmScorePad.h"
 #include "util/TbkUtil.h"
@@ -55,6 +56,8 @@ class Application : public Program {
   void UnloadOtherForms() override;
   void ExitProgram() override;
   void Abort() override;
+  /// Shows the dialog of the sounds over the active window, and waits.
+  void CustomizeSounds();
 
   Folders folders;
   IniInfo InfoFile;
@@ -63,6 +66,7 @@ class Application : public Program {
   Module1 State;
   TableControls Controls;
   QtDesktop Screen;
+  Sounds Player;
   std::unique_ptr<NumberSource> Numbers;
   UniformGenerator Uniform;
   Game Table;
