@@ -115,6 +115,13 @@ TEST(IniInfo, WritesAtOnceAndLeavesNothingBeside) {
   EXPECT_EQ(place.Get("x.ini"), QByteArray("[Info]\nNames=B\xA4\nEmpty=\n"));
   EXPECT_EQ(Info.ReadInfoValue("Empty", "default"), QStringLiteral("default"));
   EXPECT_EQ(place.Names(), QStringList("x.ini"));
+
+  struct stat Before {
+  }, After{};
+  stat(place.Path("x.ini").toLatin1().constData(), &Before);
+  Info.WriteInfoValue("names", QString::fromLatin1("B\xA4"));
+  stat(place.Path("x.ini").toLatin1().constData(), &After);
+  EXPECT_EQ(Before.st_ino, After.st_ino) << "what stands there already costs no write";
 }
 
 TEST(IniInfo, LeavesAloneWhatItCannotRead) {
@@ -123,7 +130,8 @@ TEST(IniInfo, LeavesAloneWhatItCannotRead) {
   place.Put("huge.ini", QByteArray(2 << 20, '\n'));
   place.Put("secret.ini", "[Info]\nKey=old\n");
   place.Put("readonly.ini", "[Info]\nKey=old\n");
-  chmod(place.Path("secret.ini").toLatin1().constData(), 0);
+  chmod(place.Path("secret.ini").toLatin1().constData(), 0222);
+  chmod(place.Path("huge.ini").toLatin1().constData(), 0666);
   chmod(place.Path("readonly.ini").toLatin1().constData(), 0444);
   const QStringList Before = place.Names();
   {
