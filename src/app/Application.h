@@ -10,6 +10,7 @@
 #include "storage/IniInfo.h"
 #include "table/OptionsPanel.h"
 #include "table/QtDesktop.h"
+#include "table/SettingsView.h"
 #include "table/Sounds.h"
 #include "table/frmMain.h"
 #include "table/frmScorePad.h"
@@ -17,21 +18,6 @@
 #include "util/UtilRandom.h"
 
 namespace blunko {
-
-/// The settings, as the rules see them.
-class SettingsView : public GameOptions {
- public:
-  explicit SettingsView(const GameSettings& Settings) : settings(Settings) {}
-  int ComputerSpeed() const override { return settings.ComputerSpeed(); }
-  bool SortDice() const override { return settings.SortDice(); }
-  bool MarkScorers() const override { return settings.MarkScorers(); }
-  int DieColour() const override { return settings.DieColour(); }
-  bool SoundDisabled() const override { return settings.SoundDisabled(); }
-  const std::string& GetSound(std::string_view Name) const override { return settings.GetSound(Name); }
-
- private:
-  const GameSettings& settings;
-};
 
 /// The program: owns the objects of a run, puts its start-up questions, shows the table, and answers what the rules ask
 /// of the dialogs.
