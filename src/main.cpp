@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QIcon>
+#include <QLoggingCategory>
 
 #include "app/Application.h"
 
@@ -9,6 +10,7 @@ int main(int argc, char** argv) {
       qEnvironmentVariableIsSet("DISPLAY")) {
     qputenv("QT_QPA_PLATFORM", "xcb");
   }
+  QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*=false"));  // a broken picture is no news
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("TollmoorBlunko"));
