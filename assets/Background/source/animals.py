@@ -2,8 +2,7 @@
 import math
 import random
 
-from brush import (Ball, HEIGHT, WIDTH, blade, blur, curve, fur, linear, mix, radial, ramp, rgb, save_svg, sheet, smooth,
-                   stroke)
+from brush import Ball, HEIGHT, WIDTH, blur, curve, fur, linear, mix, radial, ramp, rgb, save_svg, sheet, stroke
 
 
 def eye(x, y, r, colour="#1c1210"):
@@ -284,7 +283,7 @@ def moose():
             + linear("face", (0, "#7c5234"), (0.5, "#8e6040"), (1, "#a87a54"))
             + radial("snout", (0, "#c79a72"), (0.6, "#ad7f5a"), (1, "#835838"), cx=0.4, cy=0.3, r=0.8)
             + linear("neck", (0, "#6a432a"), (1, "#4a2e1e")) + linear("scarf", (0, "#d2473e"), (1, "#982824"))
-            + radial("moon", (0, "#f7efd0", 0.9), (0.2, "#f7efd0", 0.35), (1, "#f7efd0", 0)) + blur(2) + blur(6) + blur(14) + blur(30))
+            + blur(2) + blur(6) + blur(14) + blur(30))
     body = sheet("url(#sky)")
     for _ in range(70):
         body += (f'<circle cx="{rng.uniform(0, WIDTH):.0f}" cy="{rng.uniform(0, 560):.0f}" r="{rng.uniform(0.8, 2.0):.1f}" fill="#fff6d8" '
@@ -306,7 +305,8 @@ def moose():
             if base == 930 and 170 < x < 620:
                 continue
             layer += pine(x, base, high * rng.uniform(0.6, 1.05), colour)
-        body += f'<g{" filter=" + chr(34) + "url(#b2)" + chr(34) if soft else ""}>{layer}<rect x="0" y="{base - 4}" width="786" height="240" fill="{colour}"/></g>'
+        haze = ' filter="url(#b2)"' if soft else ""
+        body += f'<g{haze}>{layer}<rect x="0" y="{base - 4}" width="786" height="240" fill="{colour}"/></g>'
         body += f'<ellipse cx="393" cy="{base}" rx="520" ry="34" fill="#9fb0a4" opacity="0.12" filter="url(#b30)"/>'
     body += '<path d="M-10 944Q200 900 400 930T800 920V1040H-10Z" fill="#b9c8cc"/><path d="M-10 960Q220 920 420 948T800 940V1040H-10Z" fill="#dbe4e6"/>'
     for _ in range(50):

@@ -2,7 +2,7 @@
 import math
 import random
 
-from brush import HEIGHT, Noise, WIDTH, blur, curve, linear, radial, rgb, mix, save_svg, sheet
+from brush import HEIGHT, Noise, WIDTH, blur, curve, linear, radial, save_svg, sheet
 
 # Digits and letters of a draughtsman's stencil, as strokes in a box of 6 by 10.
 STENCIL = {
@@ -134,7 +134,8 @@ def nautical():
                 a = j * math.pi / 18
                 r = (first + k * 30) * (1 + 0.34 * noise.at(2 + 1.3 * math.cos(a) + ox, 2 + 1.3 * math.sin(a) + k * 0.12))
                 ring.append((ox + 1.25 * r * math.cos(a), oy + 0.8 * r * math.sin(a)))
-            body += f'<path d="{curve(ring)}" fill="#6fc0c4" fill-opacity="{0.05 if k < 3 else 0}" stroke="#9fd4d8" stroke-width="1.5" opacity="{0.42 - k * 0.04:.2f}" {"stroke-dasharray=" + chr(34) + "7 5" + chr(34) if k % 2 else ""}/>'
+            dashes = ' stroke-dasharray="7 5"' if k % 2 else ""
+            body += f'<path d="{curve(ring)}" fill="#6fc0c4" fill-opacity="{0.05 if k < 3 else 0}" stroke="#9fd4d8" stroke-width="1.5" opacity="{0.42 - k * 0.04:.2f}"{dashes}/>'
     soundings = []
     for _ in range(120):
         x, y = rng.uniform(50, 736), rng.uniform(330, 700)

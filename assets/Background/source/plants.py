@@ -185,7 +185,8 @@ def evergreen():
             one, heap = bough(x, y, a, n)
             needles += one
             heaps += heap
-        body += f'<g{" transform=" + chr(34) + "translate(786 0) scale(-1 1)" + chr(34) if flip else ""}>{needles}{heaps}</g>'
+        mirror = ' transform="translate(786 0) scale(-1 1)"' if flip else ""
+        body += f'<g{mirror}>{needles}{heaps}</g>'
     body += cone(150, 880, 8, 0.95) + cone(206, 866, -14, 0.8) + cone(640, 868, -6, 0.95)
     for _ in range(110):
         y = HEIGHT * rng.random()
