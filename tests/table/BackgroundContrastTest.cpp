@@ -26,7 +26,7 @@ struct Place {
 };
 
 /// Where the texts of the table stand. The status line rises by 12 for the last rolls.
-constexpr std::array Places{Place{"lblMnuGame", {12, 2, 38, 17}},      Place{"lblMnuHelp", {60, 2, 34, 17}},
+constexpr std::array Places{Place{"lblMnuGame", {12, 5, 38, 17}},      Place{"lblMnuHelp", {60, 5, 34, 17}},
                             Place{"lblStatus", {6, 207, 381, 30}},     Place{"lblStatus, risen", {6, 195, 381, 30}},
                             Place{"lblLastRoll", {6, 236, 381, 24}},   Place{"Label1", {10, 300, 180, 26}},
                             Place{"lblPlayer", {200, 300, 185, 26}},   Place{"lblTurnScoreLabel", {10, 330, 180, 26}},
