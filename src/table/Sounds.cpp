@@ -4,6 +4,7 @@
 #include <QtEndian>
 
 #include <SDL_audio.h>
+#include <SDL_hints.h>
 #include <SDL_thread.h>
 #include <algorithm>
 #include <condition_variable>
@@ -13,6 +14,7 @@
 #include <utility>
 
 #include "storage/FileAccess.h"
+#include "table/QtDesktop.h"
 
 namespace blunko {
 
@@ -30,6 +32,7 @@ constexpr int FirstPortion = 20;  // seconds of a wave that are converted before
 
 /// The functions of the sound library. It is loaded with the first sound: it would make up a good part of the start.
 struct SoundLibrary {
+  decltype(&SDL_SetHint) SetHint;
   decltype(&SDL_AudioInit) AudioInit;
   decltype(&SDL_AudioQuit) AudioQuit;
   decltype(&SDL_OpenAudioDevice) OpenAudioDevice;
@@ -55,6 +58,7 @@ struct SoundLibrary {
       Function = reinterpret_cast<std::remove_reference_t<decltype(Function)>>(File.resolve(Name));
       Found = Found && Function != nullptr;
     };
+    Find(SetHint, "SDL_SetHint");
     Find(AudioInit, "SDL_AudioInit");
     Find(AudioQuit, "SDL_AudioQuit");
     Find(OpenAudioDevice, "SDL_OpenAudioDevice");
@@ -207,6 +211,7 @@ void Sounds::Player::PlayAll(std::unique_lock<std::mutex>& Lock) {
 bool Sounds::Player::Open() {
   loaded = sdl.Load();
   if (!loaded) return false;
+  sdl.SetHint(SDL_HINT_APP_NAME, ProductName.toUtf8().constData());  // the name in the system's volume control
   initialised = sdl.AudioInit(nullptr) == 0;
   if (!initialised) return false;
   SDL_AudioSpec Form{};
