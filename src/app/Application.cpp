@@ -66,6 +66,7 @@ bool Application::Main() {
     Pointer == MousePointer::Hourglass ? Form->setCursor(Qt::WaitCursor) : Form->unsetCursor();
   };
   QObject::connect(Form.get(), &frmMain::minimised, Form.get(), [this] { Form_Resize(); });
+  Form->OnCommand.Options = [this] { Options().cmdOptions_Click(); };
   const QColor Trays = StartColour(Settings.DieColour());
   Form->PaintTrays(Trays, Trays);
   Form->ShowBackground(Settings.Background());
@@ -127,6 +128,14 @@ frmScorePad& Application::ScorePad() {
   return *scorePad;
 }
 
+OptionsPanel& Application::Options() {
+  if (options == nullptr) {
+    options = new OptionsPanel(*Form, Table, Settings, folders.Shipped(QStringLiteral("Background")));
+    options->OnCustomizeSounds = [this] { CustomizeSounds(); };
+  }
+  return *options;
+}
+
 frmNewGame& Application::NewGame() {
   if (newGame == nullptr) newGame = new frmNewGame(Table, InfoFile, Settings, Form.get());
   return *newGame;
@@ -150,7 +159,7 @@ void Application::CheckWhoopin(const std::string&, std::int16_t) {}
 
 void Application::ShowCongrats() {
   Form->ShowControls();
-  frmCongrats(Table, Form.get()).exec();
+  frmCongrats(Table, *Form).exec();
 }
 
 void Application::ShowNewGame() {
@@ -160,12 +169,15 @@ void Application::ShowNewGame() {
 
 void Application::RunComputerTurn() { Players.RunComputerTurn(); }
 
+void Application::CancelOptions() { Options().ARCmdCancelOptions_Click(); }
+
 void Application::UnloadOtherForms() {
   if (newGame != nullptr) newGame->Unload();
   if (scorePad != nullptr) scorePad->hide();
 }
 
 void Application::ExitProgram() {
+  if (options != nullptr) options->ARCmdCancelOptions_Click();  // a preview isn't kept
   UnloadOtherForms();
   Form->hide();
   QCoreApplication::exit();

@@ -8,6 +8,7 @@
 #include "storage/Folders.h"
 #include "storage/GameSettings.h"
 #include "storage/IniInfo.h"
+#include "table/OptionsPanel.h"
 #include "table/QtDesktop.h"
 #include "table/Sounds.h"
 #include "table/frmMain.h"
@@ -51,6 +52,7 @@ class Application : public Program {
   void ShowCongrats() override;
   void ShowNewGame() override;
   void RunComputerTurn() override;
+  void CancelOptions() override;
   void UnloadOtherForms() override;
   void ExitProgram() override;
   void Abort() override;
@@ -78,7 +80,9 @@ class Application : public Program {
   void Form_Resize();
   frmScorePad& ScorePad();
   frmNewGame& NewGame();
+  OptionsPanel& Options();
 
+  OptionsPanel* options = nullptr;
   frmScorePad* scorePad = nullptr;
   frmNewGame* newGame = nullptr;
 };
