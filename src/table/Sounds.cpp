@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <condition_variable>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <type_traits>
 #include <utility>
@@ -152,8 +153,12 @@ void Sounds::Player::Start(const std::shared_ptr<Player>& Shared, const QString&
   p.busy = true;
   p.changed.notify_all();
   if (p.running) return;
-  p.running = true;
-  std::thread([Shared] { Shared->Run(); }).detach();
+  try {
+    std::thread([Shared] { Shared->Run(); }).detach();
+    p.running = true;
+  } catch (const std::system_error&) {  // no room for another thread
+    p.busy = false;
+  }
 }
 
 bool Sounds::Player::IsBusy() {
