@@ -56,7 +56,10 @@ QString QtDesktop::InputBox(const QString& Prompt, const QString& Title, const Q
   Box.setWindowTitle(Title);
   Box.setLabelText(Prompt);
   Box.setTextValue(HeldToNameRule(Preset));
-  if (auto* Line = Box.findChild<QLineEdit*>()) Line->setValidator(new NameValidator(Line));
+  if (auto* Line = Box.findChild<QLineEdit*>()) {
+    Line->setMaxLength(LongestName);
+    Line->setValidator(new NameValidator(Line));
+  }
   return Box.exec() == QDialog::Accepted ? Box.textValue() : QString();
 }
 
