@@ -12,9 +12,10 @@ namespace blunko {
 
 namespace {
 
-constexpr int NameColumn = 16;  // letters, dots included
-constexpr int ScoreColumn = 5;  // digits
-constexpr int RowsHeld = 10;    // of a list
+constexpr int NameColumn = 16;        // letters, dots included
+constexpr int ScoreColumn = 5;        // digits
+constexpr qsizetype LongestRow = 60;  // letters
+constexpr int Spare = 4;              // px in the text boxes
 constexpr double ListPoints = 9.75;
 const QColor Background(2, 127, 255);
 const QColor Navy(0, 0, 128);
@@ -55,11 +56,9 @@ frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Mai
   Columns->addWidget(lblBMoV, 0, 1);
   Columns->addWidget(txtHSTSList, 1, 0);
   Columns->addWidget(txtBMoVList, 1, 1);
-  auto* Bottom = new QGridLayout;  // the button in the middle, the link at its left
-  Bottom->setColumnStretch(0, 1);
-  Bottom->setColumnStretch(2, 1);
+  auto* Bottom = new QGridLayout;  // one cell: the button in the middle, the link at the left
   Bottom->addWidget(lblReset, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
-  Bottom->addWidget(cmdOK, 0, 1);
+  Bottom->addWidget(cmdOK, 0, 0, Qt::AlignCenter);
   auto* Outer = new QVBoxLayout(this);
   Outer->setContentsMargins(14, 10, 14, 12);
   Outer->setSpacing(8);
@@ -94,10 +93,8 @@ QPlainTextEdit* frmHighRollers::NewList(const char* Name, const QString& Descrip
   Colours.setColor(QPalette::Base, Navy);
   Colours.setColor(QPalette::Text, Qt::yellow);
   Made->setPalette(Colours);
-  const QFontMetricsF Metrics(Made->font());
-  const qreal Around = 2 * (Made->document()->documentMargin() + Made->frameWidth());
-  const qreal Widest = Metrics.horizontalAdvance(QString(NameColumn + ScoreColumn, QLatin1Char('0')));
-  Made->setFixedSize(qCeil(Widest + Around + 6), qCeil(Metrics.lineSpacing() * RowsHeld + Around + 4));
+  Made->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  Made->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   return Made;
 }
 
@@ -115,16 +112,25 @@ void frmHighRollers::showEvent(QShowEvent* Event) {
 
 void frmHighRollers::ShowHighRollerLists() {
   rollers.LoadHighRollers();
-  const auto Fill = [](QPlainTextEdit* Box, const RollerList& List) {
-    QStringList Rows;
-    for (const HighRoller& Entry : List) {
-      const QString Name = HeldToNameRule(Entry.Name);
-      Rows << Name + DotString(NameColumn - static_cast<int>(Name.size())) + QString::number(Entry.Score);
-    }
-    Box->setPlainText(Rows.join(QLatin1Char('\n')));
-  };
-  Fill(txtHSTSList, rollers.Lists().lstHSTS);
-  Fill(txtBMoVList, rollers.Lists().lstBMoV);
+  FillList(txtHSTSList, rollers.Lists().lstHSTS);
+  FillList(txtBMoVList, rollers.Lists().lstBMoV);
+}
+
+/// The box is as large as its rows: a long name from a foreign file makes it wider.
+void frmHighRollers::FillList(QPlainTextEdit* Box, const RollerList& List) {
+  QStringList Rows;
+  qsizetype Longest = NameColumn + ScoreColumn;
+  for (const HighRoller& Entry : List) {
+    const QString Name = HeldToNameRule(Entry.Name);
+    Rows << Name + DotString(NameColumn - static_cast<int>(Name.size())) + QString::number(Entry.Score);
+    Longest = qBound(Longest, Rows.back().size(), LongestRow);
+  }
+  Box->setPlainText(Rows.join(QLatin1Char('\n')));
+  const QFontMetricsF Metrics(Box->font());
+  const qreal Around = 2 * (Box->document()->documentMargin() + Box->frameWidth());
+  const qreal Width = Metrics.horizontalAdvance(QString(Longest, QLatin1Char('0')));
+  const qreal Height = qCeil(Metrics.lineSpacing()) * static_cast<qreal>(Rows.size());
+  Box->setFixedSize(qCeil(Width + Around) + Spare, qCeil(Height + Around) + Spare);
 }
 
 QString frmHighRollers::DotString(int Count) { return QString(qMax(Count, 0), QLatin1Char('.')); }

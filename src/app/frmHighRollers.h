@@ -41,6 +41,7 @@ class frmHighRollers : public QDialog {
   QLabel* NewHeading(const char* Name, const QString& Caption);
   QPlainTextEdit* NewList(const char* Name, const QString& Description);
   SvgBox* NewPicture(const char* Name, const QString& Resource);
+  static void FillList(QPlainTextEdit* Box, const RollerList& List);
   void lblReset_Click();
 
   HighRollers& rollers;
