@@ -31,7 +31,8 @@ bool ReplaceFile(const QString& Path, const QByteArray& Bytes) {
   if (!File.open(QIODevice::WriteOnly)) return false;
   File.write(Bytes);
   // The bytes must be on the disk before the new name is: after a power cut an empty file may stand there otherwise.
-  if (File.flush() && fsync(File.handle()) != 0) File.cancelWriting();
+  // On a full disk the failure shows here and only here: the commit would put what fitted in place.
+  if (!File.flush() || fsync(File.handle()) != 0) File.cancelWriting();
   if (!File.commit()) return false;
   const int Folder = open(QFile::encodeName(QFileInfo(Path).absolutePath()).constData(), O_RDONLY | O_DIRECTORY);
   if (Folder >= 0) {
