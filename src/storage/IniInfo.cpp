@@ -40,7 +40,7 @@ qsizetype FindLine(const QList<QByteArray>& Lines, const QByteArray& Key, qsizet
 }
 
 QList<QByteArray> LinesOf(QByteArray Text) {
-  if (Text.startsWith("\xEF\xBB\xBF")) Text.remove(0, 3);
+  while (Text.startsWith("\xEF\xBB\xBF")) Text.remove(0, 3);
   return Text.split('\n');
 }
 
