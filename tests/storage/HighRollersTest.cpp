@@ -371,7 +371,8 @@ TEST(HighRollers, AReadOnlyFolderIsLeftAsItIs) {
 /// A copy that saves without a pause is killed at any moment: the file holds the lists before or after the save that
 /// was under way, whole, and every save that had returned.
 TEST(HighRollers, KilledAtAnyMomentTheFileIsWhole) {
-  constexpr int Rounds = 200, SavesWanted = 200;
+  constexpr int Rounds = 200, MostSavesAwaited = 3;
+  constexpr useconds_t LongestPause = 20000;
   constexpr std::chrono::seconds Limit(240);
   const Place place;
   place.LoadedCopy();
@@ -379,12 +380,8 @@ TEST(HighRollers, KilledAtAnyMomentTheFileIsWhole) {
   RollerList Before = place.Held().lstHSTS;
   std::int16_t Score = 2000;
   int Saves = 0;
-  auto Start = std::chrono::steady_clock::now();
-  place.Copy().Add(&RollerLists::lstHSTS, {});
-  const std::chrono::microseconds OneSave =
-      std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - Start);
-  Start = std::chrono::steady_clock::now();
-  for (int Round = 0; Round < Rounds || Saves < SavesWanted; ++Round) {
+  const auto Start = std::chrono::steady_clock::now();
+  for (int Round = 0; Round < Rounds; ++Round) {
     ASSERT_LT(std::chrono::steady_clock::now() - Start, Limit) << Round << " rounds, " << Saves << " saves";
     int Pipe[2];
     ASSERT_EQ(pipe(Pipe), 0);
@@ -400,13 +397,19 @@ TEST(HighRollers, KilledAtAnyMomentTheFileIsWhole) {
     }
     close(Pipe[1]);
     char Byte;
-    ASSERT_EQ(read(Pipe[0], &Byte, 1), 1) << "the child lives";
-    usleep(static_cast<useconds_t>(std::uniform_int_distribution<long>(0, 4 * OneSave.count())(Random)));
+    int Returned = -1;  // the first byte only says that the child lives
+    for (const int Awaited = Round % (MostSavesAwaited + 1); Returned < Awaited; ++Returned) {
+      ASSERT_EQ(read(Pipe[0], &Byte, 1), 1);
+    }
+    usleep(std::uniform_int_distribution<useconds_t>(0, LongestPause)(Random));
     kill(Child, SIGKILL);
     waitpid(Child, nullptr, 0);
-    int Returned = 0;
     while (read(Pipe[0], &Byte, 1) == 1) ++Returned;
     close(Pipe[0]);
+    // A lock that doesn't name its owner yet is respected for some seconds: the test has no time for that.
+    for (const QFileInfo& Left : QDir(place.Folder.path()).entryInfoList({QStringLiteral("*lock")}, QDir::Files)) {
+      if (Left.size() == 0) QFile::remove(Left.filePath());
+    }
 
     const auto Found = RollerLists::OfText(place.Plain());
     ASSERT_TRUE(Found) << place.Plain().constData();
@@ -420,6 +423,7 @@ TEST(HighRollers, KilledAtAnyMomentTheFileIsWhole) {
     ASSERT_EQ(Found->lstBMoV, RollerLists::Default().lstBMoV);
     Saves += Saved;
   }
+  EXPECT_GE(Saves, Rounds);
 }
 
 }  // namespace
