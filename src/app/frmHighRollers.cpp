@@ -50,7 +50,7 @@ frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Mai
   connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
   auto* Columns = new QGridLayout;
-  Columns->setHorizontalSpacing(16);
+  Columns->setHorizontalSpacing(12);
   Columns->setVerticalSpacing(4);
   Columns->addWidget(lblHSTS, 0, 0);
   Columns->addWidget(lblBMoV, 0, 1);
@@ -60,7 +60,7 @@ frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Mai
   Bottom->addWidget(lblReset, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
   Bottom->addWidget(cmdOK, 0, 0, Qt::AlignCenter);
   auto* Outer = new QVBoxLayout(this);
-  Outer->setContentsMargins(14, 10, 14, 12);
+  Outer->setContentsMargins(12, 10, 12, 12);
   Outer->setSpacing(8);
   Outer->addWidget(Image1, 0, Qt::AlignHCenter);
   Outer->addLayout(Columns);
