@@ -10,6 +10,9 @@
 #include "app/OpenInShell.h"
 #include "app/frmCongrats.h"
 #include "app/frmCustomizeSounds.h"
+#include "app/frmHighRollers.h"
+#include "app/frmViewHRListYN.h"
+#include "storage/DayNumber.h"
 #include "table/DiceSets.h"
 #include "table/SoundFiles.h"
 #include "table/Twips.h"
@@ -34,7 +37,10 @@ Application::Application(const Folders& Where, std::unique_ptr<NumberSource> Dic
       Uniform(0),
       Table(State, Controls, View, Screen, *this, *Numbers),
       Players(Table, Uniform),
-      Util(VersionAddress) {}
+      Util(VersionAddress),
+      Rollers(Where.State + QStringLiteral("/highscores.dat"),
+              [this](const QByteArray& Text) { Util.UtilStoreLists(Text); }),
+      RollersCheck(State, InfoFile, Rollers, *this) {}
 
 Application::~Application() = default;
 
@@ -61,6 +67,8 @@ bool Application::Main() {
   };
 
   Form = std::make_unique<frmMain>(Table);
+  Rollers.LoadHighRollers();
+  Form->OnCommand.HighRollers = [this] { ViewLists(); };
   Screen.ShowControls = [this] { Form->ShowControls(); };
   Screen.ShowPointer = [this](MousePointer Pointer) {
     Pointer == MousePointer::Hourglass ? Form->setCursor(Qt::WaitCursor) : Form->unsetCursor();
@@ -154,8 +162,27 @@ void Application::ShowScorePad() {
 
 void Application::FocusTable() { Form->activateWindow(); }
 
-void Application::CheckHighTurn(const std::string&, std::int16_t) {}
-void Application::CheckWhoopin(const std::string&, std::int16_t) {}
+void Application::CheckHighTurn(const std::string& Name, std::int16_t Score) {
+  Form->ShowControls();
+  RollersCheck.CheckHighTurn(Name, Score);
+}
+
+void Application::CheckWhoopin(const std::string& Name, std::int16_t Margin) {
+  Form->ShowControls();
+  RollersCheck.CheckWhoopin(Name, Margin);
+}
+
+QString Application::AskName(const QString& Prompt, const QString& Title, const QString& Preset) {
+  return QtDesktop::InputBox(Prompt, Title, Preset);
+}
+
+void Application::AskToView() { frmViewHRListYN(State, Screen, InfoFile, Form.get()).exec(); }
+
+void Application::ViewLists() {
+  if (!State.Quitting) frmHighRollers(Rollers, Screen, Form.get()).exec();
+}
+
+QString Application::Today() const { return DayNumber(QDate::currentDate()); }
 
 void Application::ShowCongrats() {
   Form->ShowControls();

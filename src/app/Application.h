@@ -2,11 +2,13 @@
 
 #include <memory>
 
+#include "app/HighRollersCheck.h"
 #include "app/frmNewGame.h"
 #include "bots/ComputerPlayers.h"
 #include "engine/Game.h"
 #include "storage/Folders.h"
 #include "storage/GameSettings.h"
+#include "storage/HighRollers.h"
 #include "storage/IniInfo.h"
 #include "table/OptionsPanel.h"
 #include "table/QtDesktop.h"
@@ -21,7 +23,7 @@ namespace blunko {
 
 /// The program: owns the objects of a run, puts its start-up questions, shows the table, and answers what the rules ask
 /// of the dialogs.
-class Application : public Program {
+class Application : public Program, private HighRollersScreen {
  public:
   /// `Numbers` replaces the dice and `Where` the folders, for tests.
   explicit Application(const Folders& Where, std::unique_ptr<NumberSource> Numbers = std::make_unique<FairDice>());
@@ -58,6 +60,8 @@ class Application : public Program {
   Game Table;
   ComputerPlayers Players;
   TbkUtil Util;
+  HighRollers Rollers;
+  HighRollersCheck RollersCheck;
   std::unique_ptr<frmMain> Form;
 
  private:
@@ -67,6 +71,10 @@ class Application : public Program {
   frmScorePad& ScorePad();
   frmNewGame& NewGame();
   OptionsPanel& Options();
+  QString AskName(const QString& Prompt, const QString& Title, const QString& Preset) override;
+  void AskToView() override;
+  void ViewLists() override;
+  QString Today() const override;
 
   OptionsPanel* options = nullptr;
   frmScorePad* scorePad = nullptr;

@@ -4,6 +4,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTimer>
@@ -12,6 +13,12 @@
 #include "table/NameValidator.h"
 
 namespace blunko {
+
+namespace {
+
+constexpr int PromptWidth = 340;  // px
+
+}  // namespace
 
 void QtDesktop::Sleep(int Milliseconds) {
   ShowControls();
@@ -56,7 +63,15 @@ QString QtDesktop::InputBox(const QString& Prompt, const QString& Title, const Q
   Box.setWindowTitle(Title);
   Box.setLabelText(Prompt);
   Box.setTextValue(HeldToNameRule(Preset));
-  if (auto* Line = Box.findChild<QLineEdit*>()) Line->setValidator(new NameValidator(Line));
+  if (auto* Label = Box.findChild<QLabel*>()) {
+    Label->setWordWrap(true);
+    Label->setMinimumWidth(PromptWidth);
+    Label->setMinimumHeight(Label->heightForWidth(PromptWidth));
+  }
+  if (auto* Line = Box.findChild<QLineEdit*>()) {
+    Line->setMaxLength(LongestName);
+    Line->setValidator(new NameValidator(Line));
+  }
   return Box.exec() == QDialog::Accepted ? Box.textValue() : QString();
 }
 
