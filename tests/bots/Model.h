@@ -13,36 +13,87 @@
 namespace blunko::test {
 
 /// Everything of a game that can be seen or that the rules remember, at one moment.
-struct Moment {
-  std::array<int, 6> DieFace{}, ShownFace{}, TrayFace{};
-  std::array<std::string, 6> DieScoreCode{"0", "0", "0", "0", "0", "0"};
-  std::array<bool, 6> DieUp{}, TrayUsed{}, BotTake{};
-  std::array<std::string, 8> PlayerName;
-  std::array<int, 8> PlayerScore{}, PlayerStyle{};
-  std::array<bool, 8> PlayerIsComputer{};
-  int NumPlayers = 1, PlayToScore = 5000, BreakInScore = 500, CurrentPlayer = 99, OutPlayer = 99, Winner = 0;
-  int TurnScore = 0, SavedTurnScore = 0, TrayCountAtRoll = 0, LeaderScore = 0;
-  std::string ActionSet = "r", SavedActionSet = "r", FormMessage;
-  bool RollIsBust = false, MayPass = false, TurnOver = false, GameOver = false, Quitting = false;
-  bool PauseComputer = false, ScorePadShown = false;
+struct Moment : Module1, TableControls {};
 
-  std::string lblStatus = " ", lblLastRoll, lblPlayer, lblTurnScore;
-  int lblStatusTop = StatusTop, pctDividerLeft = 0;
-  bool lblLastRollVisible = false, pctDividerVisible = false;
-  bool NewGameVisible = true, RollVisible = false, RollEnabled = false, PassVisible = false, PassEnabled = false;
-  bool picTray1Enabled = true, picTray2Enabled = true;
-  std::array<int, 16> Picture1{};
-  std::array<bool, 6> picMarker{};
+/// Ends a status text that the screen has shown: the same text without it has been set again.
+inline constexpr char SeenMark = '\1';
 
-  bool operator==(const Moment&) const = default;
-};
+/// Calls `Look` with a name and both values for everything in which two moments can differ.
+template <typename Action>
+void LookAtBoth(const Moment& One, const Moment& Other, Action Look) {
+  const auto Fields = [&](const char* Name, auto Member) { Look(Name, One.*Member, Other.*Member); };
+  const auto Buttons = [&](const char* Name, auto Member) {
+    Look(Name, (One.*Member).Enabled, (Other.*Member).Enabled);
+    Look(Name, (One.*Member).Visible, (Other.*Member).Visible);
+  };
+  const auto Labels = [&](const char* Name, auto Member) {
+    const auto Caption = [Member](const Moment& At) {
+      const std::string_view Text = (At.*Member).Caption;
+      return Text.substr(0, Text.find(SeenMark));
+    };
+    Look(Name, Caption(One), Caption(Other));
+    Look(Name, (One.*Member).Visible, (Other.*Member).Visible);
+    Look(Name, (One.*Member).Top, (Other.*Member).Top);
+  };
+  Fields("DieFace", &Module1::DieFace);
+  Fields("ShownFace", &Module1::ShownFace);
+  Fields("TrayFace", &Module1::TrayFace);
+  Fields("DieScoreCode", &Module1::DieScoreCode);
+  Fields("DieUp", &Module1::DieUp);
+  Fields("TrayUsed", &Module1::TrayUsed);
+  Fields("BotTake", &Module1::BotTake);
+  Fields("PlayerName", &Module1::PlayerName);
+  Fields("PlayerScore", &Module1::PlayerScore);
+  Fields("PlayerStyle", &Module1::PlayerStyle);
+  Fields("PlayerIsComputer", &Module1::PlayerIsComputer);
+  Fields("NumPlayers", &Module1::NumPlayers);
+  Fields("PlayToScore", &Module1::PlayToScore);
+  Fields("BreakInScore", &Module1::BreakInScore);
+  Fields("CurrentPlayer", &Module1::CurrentPlayer);
+  Fields("OutPlayer", &Module1::OutPlayer);
+  Fields("Winner", &Module1::Winner);
+  Fields("TurnScore", &Module1::TurnScore);
+  Fields("SavedTurnScore", &Module1::SavedTurnScore);
+  Fields("TrayCountAtRoll", &Module1::TrayCountAtRoll);
+  Fields("LeaderScore", &Module1::LeaderScore);
+  Fields("ActionSet", &Module1::ActionSet);
+  Fields("SavedActionSet", &Module1::SavedActionSet);
+  Fields("FormMessage", &Module1::FormMessage);
+  Fields("RollIsBust", &Module1::RollIsBust);
+  Fields("MayPass", &Module1::MayPass);
+  Fields("TurnOver", &Module1::TurnOver);
+  Fields("GameOver", &Module1::GameOver);
+  Fields("Quitting", &Module1::Quitting);
+  Fields("PauseComputer", &Module1::PauseComputer);
+  Fields("ScorePadShown", &Module1::ScorePadShown);
+  Labels("lblStatus", &TableControls::lblStatus);
+  Labels("lblLastRoll", &TableControls::lblLastRoll);
+  Labels("lblPlayer", &TableControls::lblPlayer);
+  Labels("lblTurnScore", &TableControls::lblTurnScore);
+  Buttons("ARCmdNewGame", &TableControls::ARCmdNewGame);
+  Buttons("cmdRoll", &TableControls::cmdRoll);
+  Buttons("cmdPassDice", &TableControls::cmdPassDice);
+  Look("picTray1", One.picTray1.Enabled, Other.picTray1.Enabled);
+  Look("picTray2", One.picTray2.Enabled, Other.picTray2.Enabled);
+  Look("picMarker", One.picMarker, Other.picMarker);
+  Look("pctDivider", One.pctDivider.Visible, Other.pctDivider.Visible);
+  Look("pctDivider", One.pctDivider.Left, Other.pctDivider.Left);
+  for (int i = 0; i < 6; ++i) Look("Picture1", One.Picture1(i), Other.Picture1(i));
+  for (int i = 10; i < 16; ++i) Look("Picture1", One.Picture1(i), Other.Picture1(i));
+}
+
+inline bool Same(const Moment& One, const Moment& Other) {
+  bool Equal = true;
+  LookAtBoth(One, Other, [&Equal](const char*, const auto& A, const auto& B) { Equal = Equal && A == B; });
+  return Equal;
+}
 
 /// What comes from outside, the same for everybody who is given the same seed: the dice and the answers to dialogs.
 class Fate {
  public:
-  explicit Fate(std::uint32_t Seed) : dice(Seed), styles(Seed + 1), answers(Seed + 2) {
-    static constexpr unsigned Chances[] = {0, 0, 0, 40, 75, 96};
-    repeats = Chances[Seed % 6];
+  explicit Fate(std::uint32_t Seed) : dice(Seed), styles(Seed + 1), answers(Seed + 2), events(Seed + 3) {
+    static constexpr unsigned Chances[] = {0, 0, 0, 0, 0, 40, 75, 95};
+    repeats = Chances[Seed % 8];
   }
 
   /// A face. In some games the dice like to fall alike: groups of four to six, and scores at their limit.
@@ -71,18 +122,36 @@ class Fate {
     }
     return Chosen;
   }
-  /// Something that a person does while events are delivered: 0 mostly, for nothing.
-  int Interruption(bool Waiting) { return Waiting ? static_cast<int>(answers() % 3) : 0; }
+
+  /// What a person does while events are delivered: seldom anything. `Before` is the last that happened.
+  template <typename Side>
+  void Deliver(Side& Table, Module1& State, const std::string& Before) {
+    // Not inside such a command; and a person who rolled in the middle of a fresh game's start would be ahead of it.
+    if (busy || Before == "pad shown" || (!State.PauseComputer && events() % 300 != 0)) return;
+    busy = true;
+    if (State.PauseComputer) {
+      State.PauseComputer = events() % 3 != 0;
+    } else {
+      static constexpr std::int16_t Keys[] = {82, 80, 8, 49, 53, 101, 96, 110, 113, 113, 113};
+      const auto What = events() % 16;
+      if (What < std::size(Keys)) Table.Form_KeyUp(Keys[What], events() % 3 == 0);
+      if (What == 11) Table.Form_KeyUp(27, 0);
+      if (What == 12) State.PauseComputer = true;
+      if (What > 12) Table.PersonClicksDie(static_cast<std::int16_t>(events() % 2 * 10 + events() % 6), 1 + What % 2);
+    }
+    busy = false;
+  }
 
  private:
-  std::minstd_rand dice, styles, answers;
+  std::minstd_rand dice, styles, answers, events;
+  bool busy = false;
   unsigned repeats;
   int last = 0;
   int gamesOver = 0;
 };
 
-/// A second account of the rules and the computer players, written apart from the first and as plainly as can be:
-/// computer turns nest, nothing is shared, and whatever happens is written down together with the moment.
+/// A second account of the rules and the computer players, written apart from the first and as plainly as can be.
+/// Whatever happens is written down together with the moment.
 class Model : public Moment {
  public:
   struct Event {
@@ -96,16 +165,16 @@ class Model : public Moment {
 
   // What a person does. The table is closed to persons while a computer plays and after a game was given up.
   void PersonClicksDie(int Index, int Button) {
-    if (PersonMayPlay() && (Index < 10 ? picTray1Enabled : picTray2Enabled)) Picture1_MouseUp(Index, Button);
+    if (PersonMayPlay() && (Index < 10 ? picTray1.Enabled : picTray2.Enabled)) Picture1_MouseUp(Index, Button);
   }
   void PersonRolls() {
-    if (RollEnabled && RollVisible) cmdRoll_Click();
+    if (PersonMayPlay() && cmdRoll.Enabled) cmdRoll_Click();
   }
   void PersonPasses() {
-    if (PassEnabled && PassVisible) cmdPassDice_Click();
+    if (PersonMayPlay() && cmdPassDice.Enabled) cmdPassDice_Click();
   }
   void Form_KeyUp(int Key, int Shift) {
-    if (Key == 27) {
+    if (Key == 27 && !Quitting) {
       Write("unload others");
       Form_Unload();
     } else if (Key == 113) {
@@ -127,26 +196,31 @@ class Model : public Moment {
     }
   }
   void ARCmdNewGame_Click() {
+    const auto Game = GameNumber;
     PumpEvents();
-    ShowNewGame();
+    if (!InAnother(Game)) ShowNewGame();
   }
   void mnuNewGame_Click() {
+    const auto Game = GameNumber;
     PumpEvents();
+    if (InAnother(Game)) return;
     if (CurrentPlayer == 99) return ShowNewGame();
     Write("beep");
     if (FormMessage != "RestartGame" && !Ask()) return;
-    RollVisible = PassVisible = false;
-    NewGameVisible = true;
-    lblStatus = lblPlayer = lblTurnScore = "";
-    pctDividerVisible = false;
+    cmdRoll.Visible = cmdPassDice.Visible = false;
+    ARCmdNewGame.Visible = true;
+    lblStatus.Caption = lblPlayer.Caption = lblTurnScore.Caption = "";
+    pctDivider.Visible = false;
     picMarker = {};
     ShownFace = TrayFace = {};
     Picture1 = {};
-    picTray1Enabled = picTray2Enabled = false;
-    ++games;
+    picTray1.Enabled = picTray2.Enabled = false;
+    ++GameNumber;
+    TurnOver = true;
     ShowNewGame();
   }
   bool Form_Unload() {
+    if (Quitting) return true;
     if (CurrentPlayer != 99) {
       Write("beep");
       if (!Ask()) return false;
@@ -158,8 +232,8 @@ class Model : public Moment {
 
  private:
   void FreshGame(const GameSetup& Setup) {
-    NewGameVisible = false;
-    RollVisible = PassVisible = picTray1Enabled = picTray2Enabled = true;
+    ARCmdNewGame.Visible = false;
+    cmdRoll.Visible = cmdPassDice.Visible = picTray1.Enabled = picTray2.Enabled = true;
     CurrentPlayer = 0;
     NumPlayers = Setup.NumPlayers;
     for (int i = 0; i < 8; ++i) {
@@ -172,49 +246,49 @@ class Model : public Moment {
         if (Seat.StyleWord == Words[Number - 1]) PlayerStyle[i] = Number;
       }
     }
-    lblPlayer = PlayerName[0];
+    lblPlayer.Caption = PlayerName[0];
     DieScoreCode.fill("0");
     if (NumPlayers == 1) NumPlayers = 2;
     SetStatus("Roll the dice.");
     DieUp = TrayUsed = {};
     ShownFace = TrayFace = {};
     ActionSet = "r";
-    RollEnabled = !PlayerIsComputer[0];
+    cmdRoll.Enabled = !PlayerIsComputer[0];
     TurnScore = 0;
-    lblTurnScore = "0";
-    PassEnabled = false;
+    lblTurnScore.Caption = "0";
+    cmdPassDice.Enabled = false;
     PlayToScore = Setup.PlayToScore;
     BreakInScore = Setup.BreakInScore;
     picMarker = {};
     Picture1 = {};
     OutPlayer = 99;
-    lblLastRollVisible = false;
-    lblStatusTop = StatusTop;
+    lblLastRoll.Visible = false;
+    lblStatus.Top = StatusTop;
     GameOver = false;
     Write("pad shown");
     ScorePadShown = TurnOver = true;
-    const int Game = ++games;
+    const auto Game = ++GameNumber;
     PumpEvents();
-    if (games != Game) return;
+    if (InAnother(Game)) return;
     Write("focus");
     if (PlayerIsComputer[0]) RunComputerTurn();
   }
 
   void cmdRoll_Click() {
-    const int Game = games;
-    pctDividerVisible = false;
+    const auto Game = GameNumber;
+    pctDivider.Visible = false;
     if (Settings.Mark) picMarker = {};
     SetStatus("Rolling...");
     int Count = 0;
-    for (int i = 10; i < 16; ++i) Count += Picture1[i] != 0;
+    for (int i = 10; i < 16; ++i) Count += Picture1(i) != 0;
     if (Count >= 1 && Count <= 5) {
-      pctDividerLeft = DieBoxLeft[static_cast<std::size_t>(Count)] - 84;
-      pctDividerVisible = true;
+      pctDivider.Left = DieBoxLeft[static_cast<std::size_t>(Count)] - 84;
+      pctDivider.Visible = true;
     }
     TrayCountAtRoll = Count;
     if (Count == 6) {
       Count = 0;
-      for (int i = 0; i < 6; ++i) Picture1[10 + i] = 0, TrayFace[i] = 0, TrayUsed[i] = false;
+      for (int i = 0; i < 6; ++i) Picture1(10 + i) = 0, TrayFace[i] = 0, TrayUsed[i] = false;
     }
     const int Rolled = 6 - Count;
     for (int i = 0; i < 6; ++i) DieUp[i] = i < Rolled;
@@ -222,7 +296,7 @@ class Model : public Moment {
     ScoreDice(Rolled);
     for (int i = 0; i < Rolled && Settings.Mark; ++i) picMarker[i] = DieScoreCode[i] != "0";
     CheckRoll();
-    if (games != Game) return;
+    if (GameNumber != Game) return;
     SavedActionSet = ActionSet;
     SavedTurnScore = TurnScore;
   }
@@ -235,7 +309,7 @@ class Model : public Moment {
     static constexpr Row Animation[] = {{"", 0, 0},           {"OneDie", 20, 20},  {"MultiDie", 15, 15},
                                         {"MultiDie", 10, 13}, {"MultiDie", 8, 13}, {"MultiDie", 7, 11},
                                         {"MultiDie", 5, 10}};
-    for (int i = 0; i < 6; ++i) Picture1[i] = 0, DieFace[i] = 99;
+    for (int i = 0; i < 6; ++i) Picture1(i) = 0, DieFace[i] = 99;
     if (!(Computer() && Settings.Speed >= 2)) {
       Sound(Animation[Rolled].Sound);
       for (int Cycle = 0; Cycle < Animation[Rolled].Cycles; ++Cycle) {
@@ -249,11 +323,12 @@ class Model : public Moment {
     if (Settings.Sort) std::sort(DieFace.begin(), DieFace.begin() + Rolled);
     for (int i = 0; i < 6; ++i) {
       ShownFace[i] = i < Rolled ? DieFace[i] : 0;
-      if (i < Rolled) Picture1[i] = DieFace[i] + Settings.Colour;
+      if (i < Rolled) Picture1(i) = DieFace[i] + Settings.Colour;
     }
   }
 
   void ScoreDice(int Rolled) {
+    static constexpr std::string_view Letters = "abcdefghijklmnopqrstuvwx";
     std::array<int, 7> Shown{};
     for (const int Face : DieFace) Shown[Face == 99 ? 0 : Face] += Face != 99;
     const auto All = [&](auto Holds) { return Rolled == 6 && std::all_of(Shown.begin() + 1, Shown.end(), Holds); };
@@ -261,7 +336,7 @@ class Model : public Moment {
     const bool ThreePairs = All([](int n) { return n == 0 || n == 2; });
     for (int i = 0; i < 6; ++i) {
       const int Face = DieFace[i];
-      std::string& Code = DieScoreCode[i];
+      std::string_view& Code = DieScoreCode[i];
       if (Face == 99) {
         Code = "99";
       } else if (Straight) {
@@ -269,13 +344,13 @@ class Model : public Moment {
       } else if (ThreePairs) {
         Code = "z";
       } else if (Shown[Face] >= 3) {
-        Code = std::string(1, static_cast<char>('a' + 6 * (Shown[Face] - 3) + Face - 1));
+        Code = Letters.substr(static_cast<std::size_t>(6 * (Shown[Face] - 3) + Face - 1), 1);
       } else {
         Code = Face == 1 ? "1" : Face == 5 ? "5" : "0";
       }
     }
   }
-  static int PointsOf(const std::string& Code) {
+  static int PointsOf(std::string_view Code) {
     if (Code == "1") return 100;
     if (Code == "5") return 50;
     if (Code == "y") return 1500;
@@ -296,21 +371,21 @@ class Model : public Moment {
 
   void CheckRoll() {
     RollIsBust = std::all_of(DieScoreCode.begin(), DieScoreCode.end(),
-                             [](const std::string& Code) { return Code == "0" || Code == "99"; });
+                             [](std::string_view Code) { return Code == "0" || Code == "99"; });
     FindMayPass();
-    RollEnabled = false;
+    cmdRoll.Enabled = false;
     if (AllUpScore()) {
-      PassEnabled = false;
+      cmdPassDice.Enabled = false;
       Offer("Select Dice.", "s");
     } else if (RollIsBust) {
-      PassEnabled = false;
-      const int Game = games;
+      cmdPassDice.Enabled = false;
+      const auto Game = GameNumber;
       ShowBust();
-      if (games == Game && CurrentPlayer != 99) ActionSet = "p";
+      if (GameNumber == Game && CurrentPlayer != 99) ActionSet = "p";
     } else if (MayPass && TrayUsed != std::array<bool, 6>{}) {
       Offer("Select Dice or Pass Dice.", "sp");
     } else {
-      PassEnabled = false;
+      cmdPassDice.Enabled = false;
       Offer("Select Dice.", "s");
     }
   }
@@ -324,14 +399,14 @@ class Model : public Moment {
     }
     const bool Person = !Computer();
     if (AllUpScore()) {
-      RollEnabled = PassEnabled = false;
+      cmdRoll.Enabled = cmdPassDice.Enabled = false;
       return Offer("Select Dice.", "s");
     }
-    if (Person) RollEnabled = true;
+    if (Person) cmdRoll.Enabled = true;
     if (!SomeUp || !MayPass) {
-      PassEnabled = false;
+      cmdPassDice.Enabled = false;
     } else if (Person) {
-      PassEnabled = true;
+      cmdPassDice.Enabled = true;
     }
     if (!SomeUp) return Offer("All dice score - You must roll.", "r");
     if (!ScorerUp) return MayPass ? Offer("Roll or pass the dice.", "rp") : Offer("Roll the dice.", "r");
@@ -370,7 +445,7 @@ class Model : public Moment {
     SetStatus("BLUNKO - Passing the dice");
     Sleep(20);
     SetStatus("BLUNKO - Passing the dice.");
-    lblTurnScore = "0";
+    lblTurnScore.Caption = "0";
     const bool Person = !Computer();
     if (Person) Sleep(300);
     Write("pointer 0");
@@ -379,7 +454,7 @@ class Model : public Moment {
 
   void Picture1_MouseUp(int Index, int Button) {
     if (Button == 2) {
-      if (RollEnabled) cmdRoll_Click();
+      if (cmdRoll.Enabled) cmdRoll_Click();
     } else if (Index < 10) {
       TakeDice(Index);
     } else {
@@ -387,7 +462,7 @@ class Model : public Moment {
     }
   }
   void TakeDice(int Index) {
-    const std::string Code = DieScoreCode[Index];
+    const std::string_view Code = DieScoreCode[Index];
     if (Code == "0" && DieUp[Index]) return Write("beep");
     if (!DieUp[Index]) return;
     const auto TakeOfGroup = [&](int i) {
@@ -410,14 +485,14 @@ class Model : public Moment {
       }
     }
     TurnScore = std::min(TurnScore + PointsOf(Code), 32767);
-    lblTurnScore = std::to_string(TurnScore);
+    lblTurnScore.Caption = std::to_string(TurnScore);
     if (Computer() && Settings.Speed < 2) Sleep(100);
     CheckSelection();
   }
   void MoveDieToTray(int Index) {
     if (Settings.Mark) picMarker[Index] = false;
     Sound("MoveDie");
-    Picture1[Index] = ShownFace[Index] = 0;
+    Picture1(Index) = ShownFace[Index] = 0;
     int Slot = 15;
     for (int k = 4; k >= 0; --k) {
       if (TrayUsed[k]) continue;
@@ -425,7 +500,7 @@ class Model : public Moment {
       TrayUsed[k] = true;
       TrayUsed[k + 1] = false;
     }
-    Picture1[Slot] = DieFace[Index] + Settings.Colour;
+    Picture1(Slot) = DieFace[Index] + Settings.Colour;
     TrayFace[Slot - 10] = DieFace[Index];
   }
   void Undo(int Index) {
@@ -434,36 +509,36 @@ class Model : public Moment {
     for (int t = TrayCountAtRoll + 10; t <= 15; ++t) {
       for (int i = 0; i < 6 && TrayUsed[t - 10]; ++i) {
         if (DieFace[i] != TrayFace[t - 10] || DieUp[i]) continue;
-        Picture1[t] = 0;
-        Picture1[i] = DieFace[i] + Settings.Colour;
+        Picture1(t) = 0;
+        Picture1(i) = DieFace[i] + Settings.Colour;
         ShownFace[i] = DieFace[i];
         if (Settings.Mark) picMarker[i] = true;
         TrayUsed[t - 10] = false;
         TrayFace[t - 10] = 0;
         DieUp[i] = true;
         TurnScore = SavedTurnScore;
-        lblTurnScore = std::to_string(TurnScore);
+        lblTurnScore.Caption = std::to_string(TurnScore);
         ActionSet = SavedActionSet;
         SetStatus(ActionSet == "s"    ? "Select Dice. (Undo)"
                   : ActionSet == "sp" ? "Select Dice or Pass Dice. (Undo)"
                                       : "never seen in play");
         Sound("Undo");
-        RollEnabled = false;
-        if (ActionSet.find('p') == std::string::npos) PassEnabled = false;
+        cmdRoll.Enabled = false;
+        if (ActionSet.find('p') == std::string::npos) cmdPassDice.Enabled = false;
       }
     }
   }
 
   void cmdPassDice_Click() {
-    const int Game = games;
+    const auto Game = GameNumber;
     ActionSet = "r";
-    pctDividerVisible = false;
+    pctDivider.Visible = false;
     if (Settings.Mark) picMarker = {};
-    RollEnabled = PassEnabled = false;  // cmdRoll stays off until a person may roll, at the handler's end
+    cmdRoll.Enabled = cmdPassDice.Enabled = false;  // cmdRoll stays off until a person may roll, at the handler's end
     Sound(RollIsBust ? "Passem2" : "Passem1");
     if (Settings.Speed < 2) Sleep(1000);
     if (!RollIsBust) {
-      int& Score = PlayerScore[CurrentPlayer];
+      std::int16_t& Score = PlayerScore[CurrentPlayer];
       Score = std::min(Score + TurnScore, 32767);
       Write("pad update");
       if (!Computer()) Write("high turn " + PlayerName[CurrentPlayer] + " " + std::to_string(TurnScore));
@@ -476,32 +551,32 @@ class Model : public Moment {
     CurrentPlayer = (CurrentPlayer + 1) % NumPlayers;
     Write("pad update");
     TurnScore = 0;
-    lblTurnScore = "0";
-    lblPlayer = PlayerName[CurrentPlayer];
+    lblTurnScore.Caption = "0";
+    lblPlayer.Caption = PlayerName[CurrentPlayer];
     if (CurrentPlayer == OutPlayer) return EndGame();
-    int Top = PlayToScore;
+    std::int16_t Top = PlayToScore;
     for (int i = 0; i < NumPlayers; ++i) {
       if (i != CurrentPlayer) Top = std::max(Top, PlayerScore[i]);
     }
     const int Need = std::min(Top - PlayerScore[CurrentPlayer] + 50, 32767);
     const std::string Caption =
         "(Last Roll - Need " + std::to_string(Need) + (NumPlayers == 2 ? " To Win)" : " To Take The Lead)");
-    if (Computer() || !lblLastRollVisible) {
-      lblLastRoll = Caption;
+    if (Computer() || !lblLastRoll.Visible) {
+      lblLastRoll.Caption = Caption;
     } else {
-      lblStatus = "";
+      lblStatus.Caption = "";
       for (int Blink = 0; Blink < 3; ++Blink) {
         if (!Settings.Silent) Write("beep");
         for (const bool Shown : {true, false}) {
           if (Blink == 2 && !Shown) break;
-          lblLastRoll = Shown ? Caption : "";
+          lblLastRoll.Caption = Shown ? Caption : "";
           PumpEvents();
-          if (games != Game || Quitting) return;
+          if (InAnother(Game)) return;
           if (Blink < 2) Sleep(200);
         }
       }
     }
-    RollEnabled = !Computer();
+    cmdRoll.Enabled = !Computer();
     SetStatus("Roll the dice.");
     if (CurrentPlayer == 99 || !Computer()) return;
     if (Settings.Speed == 0) Sleep(1000);
@@ -515,8 +590,8 @@ class Model : public Moment {
       Write("box " + PlayerName[OutPlayer] + " has gone out.  Everybody else gets one more roll to try and beat " +
             std::to_string(PlayerScore[OutPlayer]) + " points.");
     }
-    lblLastRollVisible = true;
-    lblStatusTop = StatusTop - 180;
+    lblLastRoll.Visible = true;
+    lblStatus.Top = StatusTop - 180;
   }
 
   void EndGame() {
@@ -532,19 +607,19 @@ class Model : public Moment {
     }
     Write("congrats");
     FormMessage = fate.Word();
-    RollEnabled = PassEnabled = false;
+    cmdRoll.Enabled = cmdPassDice.Enabled = false;
     GameOver = true;
     CurrentPlayer = 99;
     SetStatus(" ");
-    lblPlayer = " ";
-    lblLastRollVisible = false;
-    lblStatusTop = StatusTop;
+    lblPlayer.Caption = " ";
+    lblLastRoll.Visible = false;
+    lblStatus.Top = StatusTop;
     Write("focus");
     if (FormMessage == "SameGame") {
       mnuNewGame_Click();
     } else if (FormMessage == "DifferentGame") {
-      NewGameVisible = true;
-      RollVisible = PassVisible = false;
+      ARCmdNewGame.Visible = true;
+      cmdRoll.Visible = cmdPassDice.Visible = false;
       FormMessage = "";
       mnuNewGame_Click();
     } else if (FormMessage == "Quit") {
@@ -555,7 +630,15 @@ class Model : public Moment {
 
   // The computer players.
   void RunComputerTurn() {
-    picTray1Enabled = true;  // turns are handed over: the one before has ended
+    seatIsDue = true;
+    if (running) return;  // the turn that is ending hands over
+    running = true;
+    while (std::exchange(seatIsDue, false) && !Quitting) {
+      if (Computer() && cmdRoll.Visible) PlayStyle();
+    }
+    running = false;
+  }
+  void PlayStyle() {
     switch (PlayerStyle[CurrentPlayer]) {
       case 1: return Bot_Normal();
       case 2: return Bot_Cautious();
@@ -579,9 +662,10 @@ class Model : public Moment {
   void Bot_Fearless() { TableBot({3, {0, 400, 450, 500, 1100, 1500}}, true); }
   void Bot_Simple() {
     Loop(true, [this] {
+      if (Left()) return;
       if (ActionSet.find('s') != std::string::npos) {
         for (int i = 0; i < 6; ++i) {
-          if (DieScoreCode[i] != "0" && !Left()) BotClick(i);
+          if (DieScoreCode[i] != "0") BotClick(i);
         }
       } else if (ActionSet == "r" || (ActionSet == "rp" && TurnScore <= 350)) {
         BotRoll();
@@ -592,9 +676,10 @@ class Model : public Moment {
   }
   void Bot_Moron() {
     Loop(true, [this] {
+      if (Left()) return;
       if (ActionSet == "s") {
         for (int i = 0; i < 6; ++i) {
-          if (DieScoreCode[i] == "0" || Left()) continue;
+          if (DieScoreCode[i] == "0") continue;
           BotClick(i);
           bool DeadUp = false;
           for (int j = 0; j < 6; ++j) DeadUp = DeadUp || (DieScoreCode[j] == "0" && DieUp[j]);
@@ -634,9 +719,9 @@ class Model : public Moment {
         if (n < 1 || n > 5) return Write("guard 529");
         Choice = TurnScore >= Style.StopAt[n] ? Pass : Roll;
       }
+      if (Choice == Take) return BotTakeDice(Style.TakeAllBelow);
       PumpEvents();
       if (Left()) return;
-      if (Choice == Take) return BotTakeDice(Style.TakeAllBelow);
       if (Choice == Pass) return BotPass();
       BotTake = {};
       BotRoll();
@@ -702,37 +787,42 @@ class Model : public Moment {
 
   template <typename Action>
   void Loop(bool Waits, Action Act) {
-    if (Quitting) return;
-    picTray1Enabled = false;
+    const auto Game = GameNumber;
+    picTray1.Enabled = false;
     TurnOver = false;
     while (!TurnOver) {
-      while (Waits && PauseComputer && !Left()) PumpEvents();
+      while (Waits && PauseComputer && !Left()) Deliver("wait");
+      if (TurnOver) break;
       if (Settings.Speed < 2) Sleep(100);
       Act();
       if (Quitting) return;
       if (!TurnOver) PumpEvents();  // the events after a pass come when the handlers have returned
     }
-    picTray1Enabled = true;
+    if (!InAnother(Game)) picTray1.Enabled = true;
   }
 
   // The outside.
   void Write(std::string What) {
-    if (What == "pump" && !Events.empty() && Events.back().What == What) return;  // nothing can have happened since
-    if (Moments.empty() || Moments.back() != *this) Moments.push_back(*this);
+    if (Moments.empty() || !Same(Moments.back(), *this)) Moments.push_back(*this);
     Events.push_back({std::move(What), Moments.size() - 1});
     if (Events.size() > 3'000'000) throw std::runtime_error("a game without an end");
   }
   void SetStatus(const char* Text) {
-    lblStatus = Text;
+    lblStatus.Caption = Text;
     Write(std::string("status ") + Text);
   }
   void Sleep(int Time) { Write("sleep " + std::to_string(Time)); }
   void Sound(const char* Name) { Write(std::string("sound ") + Name); }
-  void PumpEvents() { Write("pump"); }
+  void PumpEvents() { Deliver("pump"); }
+  void Deliver(const char* How) {
+    const std::string Before = Events.empty() ? "" : Events.back().What;
+    Write(How);
+    fate.Deliver(*this, *this, Before);
+  }
   void Draw(int j) {
     Write("draw 6");
     DieFace[j] = fate.Die();
-    Picture1[j] = DieFace[j] + Settings.Colour;
+    Picture1(j) = DieFace[j] + Settings.Colour;
   }
   bool Ask() {
     Write("ask Quit?: Are you sure you want to quit the current game?");
@@ -742,7 +832,7 @@ class Model : public Moment {
     Write("new game");
     if (FormMessage != "SameGame") {
       if (FormMessage.empty() && fate.Cancels()) {
-        RollEnabled = false;
+        cmdRoll.Enabled = false;
         return;
       }
       setup = fate.Setup();
@@ -752,13 +842,14 @@ class Model : public Moment {
   }
 
   bool Computer() const { return CurrentPlayer != 99 && PlayerIsComputer[CurrentPlayer]; }
-  bool PersonMayPlay() const { return RollVisible && CurrentPlayer != 99 && !Computer(); }
+  /// Whether, after events, a handler of that game must leave everything alone.
+  bool InAnother(std::uint32_t Game) const { return Quitting || GameNumber != Game; }
+  bool PersonMayPlay() const { return !Quitting && cmdRoll.Visible && CurrentPlayer != 99 && !Computer(); }
 
   const PlainOptions& Settings;
-  int NumDiceUp = 0;
+  bool seatIsDue = false, running = false;
   Fate fate;
   GameSetup setup;
-  int games = 0;  ///< begun or given up: a handler that was suspended writes nothing into another game
 };
 
 }  // namespace blunko::test

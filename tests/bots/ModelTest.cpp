@@ -9,77 +9,21 @@
 namespace blunko::test {
 namespace {
 
-/// Names and values of a moment, a line each.
-std::vector<std::string> Describe(const Moment& At) {
-  std::vector<std::string> Lines;
-  const auto Add = [&Lines](const char* Name, const auto& Value) {
-    std::ostringstream Line;
-    Line << Name << " = " << Value;
-    Lines.push_back(Line.str());
-  };
-  const auto AddAll = [&Lines](const char* Name, const auto& Values) {
-    std::ostringstream Line;
-    Line << Name << " =";
-    for (const auto& Value : Values) Line << ' ' << Value;
-    Lines.push_back(Line.str());
-  };
-  AddAll("DieFace", At.DieFace);
-  AddAll("ShownFace", At.ShownFace);
-  AddAll("TrayFace", At.TrayFace);
-  AddAll("DieScoreCode", At.DieScoreCode);
-  AddAll("DieUp", At.DieUp);
-  AddAll("TrayUsed", At.TrayUsed);
-  AddAll("BotTake", At.BotTake);
-  AddAll("PlayerName", At.PlayerName);
-  AddAll("PlayerScore", At.PlayerScore);
-  AddAll("PlayerStyle", At.PlayerStyle);
-  AddAll("PlayerIsComputer", At.PlayerIsComputer);
-  Add("NumPlayers", At.NumPlayers);
-  Add("PlayToScore", At.PlayToScore);
-  Add("BreakInScore", At.BreakInScore);
-  Add("CurrentPlayer", At.CurrentPlayer);
-  Add("OutPlayer", At.OutPlayer);
-  Add("Winner", At.Winner);
-  Add("TurnScore", At.TurnScore);
-  Add("SavedTurnScore", At.SavedTurnScore);
-  Add("TrayCountAtRoll", At.TrayCountAtRoll);
-  Add("LeaderScore", At.LeaderScore);
-  Add("ActionSet", At.ActionSet);
-  Add("SavedActionSet", At.SavedActionSet);
-  Add("FormMessage", At.FormMessage);
-  Add("RollIsBust", At.RollIsBust);
-  Add("MayPass", At.MayPass);
-  Add("TurnOver", At.TurnOver);
-  Add("GameOver", At.GameOver);
-  Add("Quitting", At.Quitting);
-  Add("PauseComputer", At.PauseComputer);
-  Add("ScorePadShown", At.ScorePadShown);
-  Add("lblStatus", At.lblStatus);
-  Add("lblLastRoll", At.lblLastRoll);
-  Add("lblPlayer", At.lblPlayer);
-  Add("lblTurnScore", At.lblTurnScore);
-  Add("lblStatusTop", At.lblStatusTop);
-  Add("pctDividerLeft", At.pctDividerLeft);
-  Add("lblLastRollVisible", At.lblLastRollVisible);
-  Add("pctDividerVisible", At.pctDividerVisible);
-  Add("NewGameVisible", At.NewGameVisible);
-  Add("RollVisible", At.RollVisible);
-  Add("RollEnabled", At.RollEnabled);
-  Add("PassVisible", At.PassVisible);
-  Add("PassEnabled", At.PassEnabled);
-  Add("picTray1Enabled", At.picTray1Enabled);
-  Add("picTray2Enabled", At.picTray2Enabled);
-  AddAll("Picture1", At.Picture1);
-  AddAll("picMarker", At.picMarker);
-  return Lines;
+std::string Text(const auto& Value) {
+  std::ostringstream Written;
+  if constexpr (requires { Written << Value; }) {
+    Written << Value;
+  } else {
+    for (const auto& Part : Value) Written << Part << ' ';
+  }
+  return Written.str();
 }
 
 /// The program's table, whose every event is held against the model's account of the same step.
 class Witness : public Desktop, public Program, public NumberSource, public UniformSource {
  public:
   Witness(const Model& Expected, const PlainOptions& Options, std::uint32_t Seed)
-      : model(Expected), fate(Seed), game(m, t, Options, *this, *this, *this) {
-    m.TempFolder = "";
+      : model(Expected), fate(Seed), game(now, now, Options, *this, *this, *this) {
     game.ClearAtStart();
   }
 
@@ -87,20 +31,20 @@ class Witness : public Desktop, public Program, public NumberSource, public Unif
   void BeginStep() { next = 0; }
   /// Throws unless every event of the model came to pass, and both agree about the end.
   void EndStep() {
-    if (next < model.Events.size()) Fail("nothing more", Seen());
-    if (Seen() != model) Fail("end of the step", Seen());
+    if (next < model.Events.size()) Fail("nothing more");
+    if (!Same(now, model)) Fail("end of the step");
   }
 
   void Refresh() override {
     // A text that was seen gets an invisible mark: the same text without it has been set again.
-    std::string& Caption = t.lblStatus.Caption;
-    if (Caption.ends_with(Mark)) return;
+    std::string& Caption = now.lblStatus.Caption;
+    if (Caption.ends_with(SeenMark)) return;
     See("status " + Caption);
-    Caption += Mark;
+    Caption += SeenMark;
   }
   void Sleep(int Milliseconds) override { See("sleep " + std::to_string(Milliseconds)); }
-  void PumpEvents() override { See("pump"); }
-  void WaitForEvents() override { PumpEvents(); }
+  void PumpEvents() override { Deliver("pump"); }
+  void WaitForEvents() override { Deliver("wait"); }
   void Beep() override { See("beep"); }
   void PlaySoundFile(const std::string& File, bool Always) override { See((Always ? "always " : "sound ") + File); }
   void MessageBox(const std::string& Text) override { See("box " + Text); }
@@ -121,18 +65,18 @@ class Witness : public Desktop, public Program, public NumberSource, public Unif
   }
   void ShowCongrats() override {
     See("congrats");
-    m.FormMessage = fate.Word();
+    now.FormMessage = fate.Word();
   }
   void ShowNewGame() override {
     See("new game");
-    if (m.FormMessage != "SameGame") {
-      if (m.FormMessage.empty() && fate.Cancels()) {
-        t.cmdRoll.Enabled = false;
+    if (now.FormMessage != "SameGame") {
+      if (now.FormMessage.empty() && fate.Cancels()) {
+        now.cmdRoll.Enabled = false;
         return;
       }
       setup = fate.Setup();
     }
-    m.FormMessage.clear();
+    now.FormMessage.clear();
     game.FreshGame(setup);
   }
   void RunComputerTurn() override { players.RunComputerTurn(); }
@@ -150,89 +94,36 @@ class Witness : public Desktop, public Program, public NumberSource, public Unif
   }
 
  private:
-  static constexpr char Mark = '\1';
-
+  void Deliver(const char* How) {
+    const std::string Before = next == 0 ? "" : model.Events[next - 1].What;
+    See(How);
+    fate.Deliver(game, now, Before);
+  }
   void See(const std::string& What) {
-    if (What == "pump" && next > 0 && model.Events[next - 1].What == What) return;
-    if (next >= model.Events.size()) Fail(What, Seen());
+    if (next >= model.Events.size()) Fail(What);
     const Model::Event& Told = model.Events[next];
-    if (Told.What != What || Seen() != model.Moments[Told.At]) Fail(What, Seen());
+    if (Told.What != What || !Same(now, model.Moments[Told.At])) Fail(What);
     ++next;
   }
 
-  Moment Seen() const {
-    Moment Now;
-    const auto Copy = [](const auto& From, auto& To) { std::copy_n(From.begin(), From.size(), To.begin()); };
-    Copy(m.DieFace, Now.DieFace);
-    Copy(m.ShownFace, Now.ShownFace);
-    Copy(m.TrayFace, Now.TrayFace);
-    Copy(m.DieScoreCode, Now.DieScoreCode);
-    Now.DieUp = m.DieUp;
-    Now.TrayUsed = m.TrayUsed;
-    Now.BotTake = m.BotTake;
-    Now.PlayerName = m.PlayerName;
-    Copy(m.PlayerScore, Now.PlayerScore);
-    Copy(m.PlayerStyle, Now.PlayerStyle);
-    Now.PlayerIsComputer = m.PlayerIsComputer;
-    Now.NumPlayers = m.NumPlayers;
-    Now.PlayToScore = m.PlayToScore;
-    Now.BreakInScore = m.BreakInScore;
-    Now.CurrentPlayer = m.CurrentPlayer;
-    Now.OutPlayer = m.OutPlayer;
-    Now.Winner = m.Winner;
-    Now.TurnScore = m.TurnScore;
-    Now.SavedTurnScore = m.SavedTurnScore;
-    Now.TrayCountAtRoll = m.TrayCountAtRoll;
-    Now.LeaderScore = m.LeaderScore;
-    Now.ActionSet = m.ActionSet;
-    Now.SavedActionSet = m.SavedActionSet;
-    Now.FormMessage = m.FormMessage;
-    Now.RollIsBust = m.RollIsBust;
-    Now.MayPass = m.MayPass;
-    Now.TurnOver = m.TurnOver;
-    Now.GameOver = m.GameOver;
-    Now.Quitting = m.Quitting;
-    Now.PauseComputer = m.PauseComputer;
-    Now.ScorePadShown = m.ScorePadShown;
-    Now.lblStatus = t.lblStatus.Caption;
-    if (Now.lblStatus.ends_with(Mark)) Now.lblStatus.pop_back();
-    Now.lblLastRoll = t.lblLastRoll.Caption;
-    Now.lblPlayer = t.lblPlayer.Caption;
-    Now.lblTurnScore = t.lblTurnScore.Caption;
-    Now.lblStatusTop = t.lblStatus.Top;
-    Now.lblLastRollVisible = t.lblLastRoll.Visible;
-    Now.pctDividerVisible = t.pctDivider.Visible;
-    Now.pctDividerLeft = t.pctDivider.Left;
-    Now.NewGameVisible = t.ARCmdNewGame.Visible;
-    Now.RollVisible = t.cmdRoll.Visible;
-    Now.RollEnabled = t.cmdRoll.Enabled;
-    Now.PassVisible = t.cmdPassDice.Visible;
-    Now.PassEnabled = t.cmdPassDice.Enabled;
-    Now.picTray1Enabled = t.picTray1.Enabled;
-    Now.picTray2Enabled = t.picTray2.Enabled;
-    for (int i = 0; i < 6; ++i) Now.Picture1[i] = t.Picture1(i), Now.Picture1[10 + i] = t.Picture1(10 + i);
-    Now.picMarker = t.picMarker;
-    return Now;
-  }
-
-  [[noreturn]] void Fail(const std::string& What, const Moment& Now) const {
-    std::ostringstream Text;
-    for (std::size_t i = next < 12 ? 0 : next - 12; i < next; ++i) Text << "both:    " << model.Events[i].What << '\n';
+  [[noreturn]] void Fail(const std::string& What) const {
+    std::ostringstream Report;
+    for (std::size_t i = next < 12 ? 0 : next - 12; i < next; ++i)
+      Report << "both:    " << model.Events[i].What << '\n';
     const bool More = next < model.Events.size();
-    Text << "model:   " << (More ? model.Events[next].What : "nothing more") << "\nprogram: " << What << '\n';
-    const auto Told = Describe(More ? model.Moments[model.Events[next].At] : model), Is = Describe(Now);
-    for (std::size_t i = 0; i < Told.size(); ++i) {
-      if (Told[i] != Is[i]) Text << "  model:   " << Told[i] << "\n  program: " << Is[i] << '\n';
-    }
-    throw std::runtime_error(Text.str());
+    Report << "model:   " << (More ? model.Events[next].What : "nothing more") << "\nprogram: " << What << '\n';
+    LookAtBoth(More ? model.Moments[model.Events[next].At] : model, now,
+               [&Report](const char* Name, const auto& Told, const auto& Is) {
+                 if (Told != Is) Report << "  " << Name << ": model " << Text(Told) << ", program " << Text(Is) << '\n';
+               });
+    throw std::runtime_error(Report.str());
   }
 
   const Model& model;
   std::size_t next = 0;
   Fate fate;
   GameSetup setup;
-  Module1 m;
-  TableControls t;
+  Moment now;
 
  public:
   Game game;
@@ -273,6 +164,7 @@ class Play {
     model.Events.clear();
     model.Moments.clear();
     witness.BeginStep();
+    model.PauseComputer = witness.game.m.PauseComputer = false;
     Do(model);
     Do(witness.game);
     witness.EndStep();
@@ -288,7 +180,8 @@ class Play {
   }
 
   void Act() {
-    const bool OnTurn = model.CurrentPlayer != 99 && model.RollVisible && !model.PlayerIsComputer[model.CurrentPlayer];
+    const bool OnTurn =
+        model.CurrentPlayer != 99 && model.cmdRoll.Visible && !model.PlayerIsComputer[model.CurrentPlayer];
     if (!OnTurn && Pick(3) != 0) return BeginGame();
     const int What = Pick(1000);
     if (What < 300) return Roll();
@@ -327,7 +220,7 @@ class Play {
     options.Colour = 112 + 10 * Pick(3);
   }
   void BeginGame() {
-    if (model.NewGameVisible && Pick(2) == 0) {
+    if (model.ARCmdNewGame.Visible && Pick(2) == 0) {
       return Both("new game", [](auto& Side) { Side.ARCmdNewGame_Click(); });
     }
     Key(113, Pick(4));
