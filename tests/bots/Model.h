@@ -248,10 +248,10 @@ class Model : public Moment {
     }
     lblPlayer.Caption = PlayerName[0];
     DieScoreCode.fill("0");
-    if (NumPlayers == 1) NumPlayers = 2;
-    SetStatus("Roll the dice.");
     DieUp = TrayUsed = {};
     ShownFace = TrayFace = {};
+    if (NumPlayers == 1) NumPlayers = 2;
+    SetStatus("Roll the dice.");
     ActionSet = "r";
     cmdRoll.Enabled = !PlayerIsComputer[0];
     TurnScore = 0;
