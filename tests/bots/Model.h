@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <random>
+#include <stdexcept>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -18,75 +19,29 @@ struct Moment : Module1, TableControls {};
 /// Ends a status text that the screen has shown: the same text without it has been set again.
 inline constexpr char SeenMark = '\1';
 
-/// Calls `Look` with a name and both values for everything in which two moments can differ.
-template <typename Action>
-void LookAtBoth(const Moment& One, const Moment& Other, Action Look) {
-  const auto Fields = [&](const char* Name, auto Member) { Look(Name, One.*Member, Other.*Member); };
-  const auto Buttons = [&](const char* Name, auto Member) {
-    Look(Name, (One.*Member).Enabled, (Other.*Member).Enabled);
-    Look(Name, (One.*Member).Visible, (Other.*Member).Visible);
-  };
-  const auto Labels = [&](const char* Name, auto Member) {
-    const auto Caption = [Member](const Moment& At) {
-      const std::string_view Text = (At.*Member).Caption;
-      return Text.substr(0, Text.find(SeenMark));
-    };
-    Look(Name, Caption(One), Caption(Other));
-    Look(Name, (One.*Member).Visible, (Other.*Member).Visible);
-    Look(Name, (One.*Member).Top, (Other.*Member).Top);
-  };
-  Fields("DieFace", &Module1::DieFace);
-  Fields("ShownFace", &Module1::ShownFace);
-  Fields("TrayFace", &Module1::TrayFace);
-  Fields("DieScoreCode", &Module1::DieScoreCode);
-  Fields("DieUp", &Module1::DieUp);
-  Fields("TrayUsed", &Module1::TrayUsed);
-  Fields("BotTake", &Module1::BotTake);
-  Fields("PlayerName", &Module1::PlayerName);
-  Fields("PlayerScore", &Module1::PlayerScore);
-  Fields("PlayerStyle", &Module1::PlayerStyle);
-  Fields("PlayerIsComputer", &Module1::PlayerIsComputer);
-  Fields("NumPlayers", &Module1::NumPlayers);
-  Fields("PlayToScore", &Module1::PlayToScore);
-  Fields("BreakInScore", &Module1::BreakInScore);
-  Fields("CurrentPlayer", &Module1::CurrentPlayer);
-  Fields("OutPlayer", &Module1::OutPlayer);
-  Fields("Winner", &Module1::Winner);
-  Fields("TurnScore", &Module1::TurnScore);
-  Fields("SavedTurnScore", &Module1::SavedTurnScore);
-  Fields("TrayCountAtRoll", &Module1::TrayCountAtRoll);
-  Fields("LeaderScore", &Module1::LeaderScore);
-  Fields("ActionSet", &Module1::ActionSet);
-  Fields("SavedActionSet", &Module1::SavedActionSet);
-  Fields("FormMessage", &Module1::FormMessage);
-  Fields("RollIsBust", &Module1::RollIsBust);
-  Fields("MayPass", &Module1::MayPass);
-  Fields("TurnOver", &Module1::TurnOver);
-  Fields("GameOver", &Module1::GameOver);
-  Fields("Quitting", &Module1::Quitting);
-  Fields("PauseComputer", &Module1::PauseComputer);
-  Fields("ScorePadShown", &Module1::ScorePadShown);
-  Labels("lblStatus", &TableControls::lblStatus);
-  Labels("lblLastRoll", &TableControls::lblLastRoll);
-  Labels("lblPlayer", &TableControls::lblPlayer);
-  Labels("lblTurnScore", &TableControls::lblTurnScore);
-  Buttons("ARCmdNewGame", &TableControls::ARCmdNewGame);
-  Buttons("cmdRoll", &TableControls::cmdRoll);
-  Buttons("cmdPassDice", &TableControls::cmdPassDice);
-  Look("picTray1", One.picTray1.Enabled, Other.picTray1.Enabled);
-  Look("picTray2", One.picTray2.Enabled, Other.picTray2.Enabled);
-  Look("picMarker", One.picMarker, Other.picMarker);
-  Look("pctDivider", One.pctDivider.Visible, Other.pctDivider.Visible);
-  Look("pctDivider", One.pctDivider.Left, Other.pctDivider.Left);
-  for (int i = 0; i < 6; ++i) Look("Picture1", One.Picture1(i), Other.Picture1(i));
-  for (int i = 10; i < 16; ++i) Look("Picture1", One.Picture1(i), Other.Picture1(i));
+/// All that is compared of a moment; without NumDiceUp, a computer player's note that is counted more often than used.
+inline auto Compared(const Moment& m) {
+  const std::string_view Status = m.lblStatus.Caption;
+  std::array<int, 12> Pictures;
+  for (int i = 0; i < 6; ++i) Pictures[i] = m.Picture1(i), Pictures[6 + i] = m.Picture1(10 + i);
+  return std::tuple_cat(
+      std::tuple(Status.substr(0, Status.find(SeenMark)), Pictures),
+      std::tie(m.DieFace, m.ShownFace, m.TrayFace, m.DieScoreCode, m.DieUp, m.TrayUsed, m.BotTake, m.PlayerName,
+               m.PlayerScore, m.PlayerStyle, m.PlayerIsComputer, m.NumPlayers, m.PlayToScore, m.BreakInScore,
+               m.CurrentPlayer, m.OutPlayer, m.Winner, m.TurnScore, m.SavedTurnScore, m.TrayCountAtRoll, m.LeaderScore,
+               m.ActionSet, m.SavedActionSet, m.FormMessage, m.RollIsBust, m.MayPass, m.TurnOver, m.GameOver,
+               m.Quitting, m.PauseComputer, m.ScorePadShown, m.lblStatus.Top, m.lblLastRoll.Caption,
+               m.lblLastRoll.Visible, m.lblPlayer.Caption, m.lblTurnScore.Caption, m.ARCmdNewGame.Visible,
+               m.cmdRoll.Visible, m.cmdRoll.Enabled, m.cmdPassDice.Visible, m.cmdPassDice.Enabled, m.picTray1.Enabled,
+               m.picTray2.Enabled, m.picMarker, m.pctDivider.Visible, m.pctDivider.Left));
 }
-
-inline bool Same(const Moment& One, const Moment& Other) {
-  bool Equal = true;
-  LookAtBoth(One, Other, [&Equal](const char*, const auto& A, const auto& B) { Equal = Equal && A == B; });
-  return Equal;
-}
+inline constexpr const char* ComparedNames =
+    "lblStatus.Caption Picture1 DieFace ShownFace TrayFace DieScoreCode DieUp TrayUsed BotTake PlayerName PlayerScore "
+    "PlayerStyle PlayerIsComputer NumPlayers PlayToScore BreakInScore CurrentPlayer OutPlayer Winner TurnScore "
+    "SavedTurnScore TrayCountAtRoll LeaderScore ActionSet SavedActionSet FormMessage RollIsBust MayPass TurnOver "
+    "GameOver Quitting PauseComputer ScorePadShown lblStatus.Top lblLastRoll.Caption lblLastRoll.Visible "
+    "lblPlayer.Caption lblTurnScore.Caption ARCmdNewGame.Visible cmdRoll.Visible cmdRoll.Enabled cmdPassDice.Visible "
+    "cmdPassDice.Enabled picTray1.Enabled picTray2.Enabled picMarker pctDivider.Visible pctDivider.Left";
 
 /// What comes from outside, the same for everybody who is given the same seed: the dice and the answers to dialogs.
 class Fate {
@@ -165,7 +120,7 @@ class Model : public Moment {
 
   // What a person does. The table is closed to persons while a computer plays and after a game was given up.
   void PersonClicksDie(int Index, int Button) {
-    if (PersonMayPlay() && (Index < 10 ? picTray1.Enabled : picTray2.Enabled)) Picture1_MouseUp(Index, Button);
+    if (PersonMayPlay()) Picture1_MouseUp(Index, Button);
   }
   void PersonRolls() {
     if (PersonMayPlay() && cmdRoll.Enabled) cmdRoll_Click();
@@ -803,7 +758,7 @@ class Model : public Moment {
 
   // The outside.
   void Write(std::string What) {
-    if (Moments.empty() || !Same(Moments.back(), *this)) Moments.push_back(*this);
+    if (Moments.empty() || Compared(Moments.back()) != Compared(*this)) Moments.push_back(*this);
     Events.push_back({std::move(What), Moments.size() - 1});
     if (Events.size() > 3'000'000) throw std::runtime_error("a game without an end");
   }
@@ -844,7 +799,9 @@ class Model : public Moment {
   bool Computer() const { return CurrentPlayer != 99 && PlayerIsComputer[CurrentPlayer]; }
   /// Whether, after events, a handler of that game must leave everything alone.
   bool InAnother(std::uint32_t Game) const { return Quitting || GameNumber != Game; }
-  bool PersonMayPlay() const { return !Quitting && cmdRoll.Visible && CurrentPlayer != 99 && !Computer(); }
+  bool PersonMayPlay() const {
+    return !Quitting && picTray1.Enabled && cmdRoll.Visible && CurrentPlayer != 99 && !Computer();
+  }
 
   const PlainOptions& Settings;
   bool seatIsDue = false, running = false;

@@ -11,7 +11,9 @@ namespace {
 
 std::string Text(const auto& Value) {
   std::ostringstream Written;
-  if constexpr (requires { Written << Value; }) {
+  if constexpr (requires { +Value; }) {
+    Written << +Value;
+  } else if constexpr (requires { Written << Value; }) {
     Written << Value;
   } else {
     for (const auto& Part : Value) Written << Part << ' ';
@@ -32,7 +34,7 @@ class Witness : public Desktop, public Program, public NumberSource, public Unif
   /// Throws unless every event of the model came to pass, and both agree about the end.
   void EndStep() {
     if (next < model.Events.size()) Fail("nothing more");
-    if (!Same(now, model)) Fail("end of the step");
+    if (Compared(now) != Compared(model)) Fail("end of the step");
   }
 
   void Refresh() override {
@@ -102,7 +104,7 @@ class Witness : public Desktop, public Program, public NumberSource, public Unif
   void See(const std::string& What) {
     if (next >= model.Events.size()) Fail(What);
     const Model::Event& Told = model.Events[next];
-    if (Told.What != What || !Same(now, model.Moments[Told.At])) Fail(What);
+    if (Told.What != What || Compared(now) != Compared(model.Moments[Told.At])) Fail(What);
     ++next;
   }
 
@@ -112,10 +114,14 @@ class Witness : public Desktop, public Program, public NumberSource, public Unif
       Report << "both:    " << model.Events[i].What << '\n';
     const bool More = next < model.Events.size();
     Report << "model:   " << (More ? model.Events[next].What : "nothing more") << "\nprogram: " << What << '\n';
-    LookAtBoth(More ? model.Moments[model.Events[next].At] : model, now,
-               [&Report](const char* Name, const auto& Told, const auto& Is) {
-                 if (Told != Is) Report << "  " << Name << ": model " << Text(Told) << ", program " << Text(Is) << '\n';
-               });
+    std::istringstream Names(ComparedNames);
+    const auto Tell = [&](const auto& Told, const auto& Is) {
+      std::string Name;
+      Names >> Name;
+      if (Told != Is) Report << "  " << Name << ": model " << Text(Told) << ", program " << Text(Is) << '\n';
+    };
+    const auto Told = Compared(More ? model.Moments[model.Events[next].At] : model), Is = Compared(now);
+    std::apply([&](const auto&... A) { std::apply([&](const auto&... B) { (Tell(A, B), ...); }, Is); }, Told);
     throw std::runtime_error(Report.str());
   }
 
