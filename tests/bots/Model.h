@@ -66,7 +66,8 @@ class Fate {
   bool Cancels() { return answers() % 6 == 0; }
   GameSetup Setup() {
     GameSetup Chosen;
-    Chosen.NumPlayers = static_cast<std::uint8_t>(1 + answers() % (answers() % 3 == 0 ? 8 : 3));
+    const unsigned MostSeats = answers() % 3 == 0 ? 8 : 3;
+    Chosen.NumPlayers = static_cast<std::uint8_t>(1 + answers() % MostSeats);
     Chosen.PlayToScore = answers() % 3 == 0 ? 10000 : 5000;
     Chosen.BreakInScore = answers() % 2 == 0 ? 500 : 1000;
     const unsigned Computers = static_cast<unsigned>(answers() % 5);  // of four seats, that many
@@ -88,11 +89,11 @@ class Fate {
       State.PauseComputer = events() % 3 != 0;
     } else {
       static constexpr std::int16_t Keys[] = {82, 80, 8, 49, 53, 101, 96, 110, 113, 113, 113};
-      const auto What = events() % 16;
-      if (What < std::size(Keys)) Table.Form_KeyUp(Keys[What], events() % 3 == 0);
+      const auto What = events() % 16, Detail = events() % 16;
+      if (What < std::size(Keys)) Table.Form_KeyUp(Keys[What], Detail % 3 == 0);
       if (What == 11) Table.Form_KeyUp(27, 0);
       if (What == 12) State.PauseComputer = true;
-      if (What > 12) Table.PersonClicksDie(static_cast<std::int16_t>(events() % 2 * 10 + events() % 6), 1 + What % 2);
+      if (What > 12 && (Detail < 6 || Detail >= 10)) Table.PersonClicksDie(Detail, 1 + What % 2);
     }
     busy = false;
   }
@@ -127,6 +128,12 @@ class Model : public Moment {
   }
   void PersonPasses() {
     if (PersonMayPlay() && cmdPassDice.Enabled) cmdPassDice_Click();
+  }
+  void picTray1_MouseUp(int Button, int, float, float) {
+    if (Button == 2) PersonRolls();
+  }
+  void picTray2_MouseUp(int Button, int, float, float) {
+    if (Button == 2) PersonRolls();
   }
   void Form_KeyUp(int Key, int Shift) {
     if (Key == 27 && !Quitting) {
