@@ -141,7 +141,7 @@ class Witness : public Desktop, public Program, public NumberSource, public Unif
 /// A table at which a person clicks and presses keys at random, mostly what is allowed, in both accounts.
 class Play {
  public:
-  explicit Play(std::uint32_t Seed) : chance(Seed), seed(Seed) {
+  explicit Play(std::uint32_t Seed) : chance(~Seed), seed(Seed) {
     options.Speed = Pick(3);
     options.Sort = Pick(2) == 0;
     options.Mark = Pick(2) == 0;
