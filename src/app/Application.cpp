@@ -9,7 +9,9 @@
 #include "Links.h"
 #include "app/OpenInShell.h"
 #include "app/frmCongrats.h"
+#include "app/frmCustomizeSounds.h"
 #include "table/DiceSets.h"
+#include "table/SoundFiles.h"
 #include "table/Twips.h"
 
 namespace blunko {
@@ -50,6 +52,13 @@ bool Application::Main() {
   Uniform = UniformGenerator(static_cast<std::uint64_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000));
   State.PauseComputer = false;
   State.TempFolder = folders.Temp.toStdString();
+  // What can't be written stays silent.
+  for (int Id = FirstSound; Id <= LastSound; ++Id) {
+    ExtractResource(Id, QStringLiteral("CUSTOM"), folders.Temp + FileOfSound(Id));
+  }
+  Screen.PlayFile = [this](const QString& File, bool Always) {
+    if (Always || !Settings.SoundDisabled()) Player.Play(File);
+  };
 
   Form = std::make_unique<frmMain>(Table);
   Screen.ShowControls = [this] { Form->ShowControls(); };
@@ -57,6 +66,7 @@ bool Application::Main() {
     Pointer == MousePointer::Hourglass ? Form->setCursor(Qt::WaitCursor) : Form->unsetCursor();
   };
   QObject::connect(Form.get(), &frmMain::minimised, Form.get(), [this] { Form_Resize(); });
+  Form->OnCommand.Options = [this] { Options().cmdOptions_Click(); };
   const QColor Trays = StartColour(Settings.DieColour());
   Form->PaintTrays(Trays, Trays);
   Form->ShowBackground(Settings.Background());
@@ -118,6 +128,14 @@ frmScorePad& Application::ScorePad() {
   return *scorePad;
 }
 
+OptionsPanel& Application::Options() {
+  if (options == nullptr) {
+    options = new OptionsPanel(*Form, Table, Settings, folders.Shipped(QStringLiteral("Background")));
+    options->OnCustomizeSounds = [this] { CustomizeSounds(); };
+  }
+  return *options;
+}
+
 frmNewGame& Application::NewGame() {
   if (newGame == nullptr) newGame = new frmNewGame(Table, InfoFile, Settings, Form.get());
   return *newGame;
@@ -141,7 +159,7 @@ void Application::CheckWhoopin(const std::string&, std::int16_t) {}
 
 void Application::ShowCongrats() {
   Form->ShowControls();
-  frmCongrats(Table, Form.get()).exec();
+  frmCongrats(Table, *Form).exec();
 }
 
 void Application::ShowNewGame() {
@@ -151,15 +169,23 @@ void Application::ShowNewGame() {
 
 void Application::RunComputerTurn() { Players.RunComputerTurn(); }
 
+void Application::CancelOptions() { Options().ARCmdCancelOptions_Click(); }
+
 void Application::UnloadOtherForms() {
   if (newGame != nullptr) newGame->Unload();
   if (scorePad != nullptr) scorePad->hide();
 }
 
 void Application::ExitProgram() {
+  if (options != nullptr) options->ARCmdCancelOptions_Click();  // a preview isn't kept
   UnloadOtherForms();
   Form->hide();
   QCoreApplication::exit();
+}
+
+void Application::CustomizeSounds() {
+  QWidget* const Active = QApplication::activeWindow();
+  frmCustomizeSounds(Table, Settings, Active != nullptr ? Active : Form.get()).exec();
 }
 
 void Application::Abort() { std::_Exit(EXIT_FAILURE); }

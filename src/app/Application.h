@@ -8,7 +8,9 @@
 #include "storage/Folders.h"
 #include "storage/GameSettings.h"
 #include "storage/IniInfo.h"
+#include "table/OptionsPanel.h"
 #include "table/QtDesktop.h"
+#include "table/Sounds.h"
 #include "table/frmMain.h"
 #include "table/frmScorePad.h"
 #include "util/TbkUtil.h"
@@ -50,9 +52,12 @@ class Application : public Program {
   void ShowCongrats() override;
   void ShowNewGame() override;
   void RunComputerTurn() override;
+  void CancelOptions() override;
   void UnloadOtherForms() override;
   void ExitProgram() override;
   void Abort() override;
+  /// Shows the dialog of the sounds over the active window, and waits.
+  void CustomizeSounds();
 
   Folders folders;
   IniInfo InfoFile;
@@ -61,6 +66,7 @@ class Application : public Program {
   Module1 State;
   TableControls Controls;
   QtDesktop Screen;
+  Sounds Player;
   std::unique_ptr<NumberSource> Numbers;
   UniformGenerator Uniform;
   Game Table;
@@ -74,7 +80,9 @@ class Application : public Program {
   void Form_Resize();
   frmScorePad& ScorePad();
   frmNewGame& NewGame();
+  OptionsPanel& Options();
 
+  OptionsPanel* options = nullptr;
   frmScorePad* scorePad = nullptr;
   frmNewGame* newGame = nullptr;
 };

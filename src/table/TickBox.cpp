@@ -1,0 +1,44 @@
+#include "table/TickBox.h"
+
+#include <QPainter>
+
+namespace blunko {
+
+namespace {
+
+constexpr int Side = 15;  // px, of the square
+constexpr int Ring = 2;   // px around it, for the focus
+const QColor Frame(40, 40, 60);
+const QColor Tick(0, 0, 128);
+const QColor FocusColour(255, 178, 36);
+
+}  // namespace
+
+TickBox::TickBox(QWidget* Parent) : QCheckBox(Parent) { setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); }
+
+QSize TickBox::sizeHint() const { return {Side + 2 * Ring, Side + 2 * Ring}; }
+
+void TickBox::paintEvent(QPaintEvent*) {
+  QPainter Painter(this);
+  Painter.setRenderHint(QPainter::Antialiasing);
+  Painter.translate((width() - Side) / 2.0, (height() - Side) / 2.0);
+  const QRectF Square(0.5, 0.5, Side - 1, Side - 1);
+  if (hasFocus()) {
+    Painter.setPen(QPen(FocusColour, 2));
+    Painter.drawRect(Square.adjusted(-1.5, -1.5, 1.5, 1.5));
+  }
+  Painter.setPen(QPen(Frame, 1));
+  Painter.setBrush(isEnabled() && !isDown() ? Qt::white : QColor(222, 226, 234));
+  Painter.drawRect(Square);
+  if (isChecked()) DrawTick(Painter, QRectF(0, 0, Side, Side), isEnabled() ? Tick : Frame.lighter(200));
+}
+
+void DrawTick(QPainter& Painter, const QRectF& Place, const QColor& Colour) {
+  const qreal Unit = qMin(Place.width(), Place.height()) / 15;
+  const auto At = [&](qreal X, qreal Y) { return Place.center() + Unit * QPointF(X - 7.5, Y - 7.5); };
+  Painter.setPen(QPen(Colour, 2.4 * Unit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  Painter.setBrush(Qt::NoBrush);
+  Painter.drawPolyline(QPolygonF{At(3.2, 7.8), At(6.2, 11.2), At(11.8, 3.6)});
+}
+
+}  // namespace blunko
