@@ -290,7 +290,6 @@ class Model : public Moment {
   }
 
   void ScoreDice(int Rolled) {
-    static constexpr std::string_view Letters = "abcdefghijklmnopqrstuvwx";
     std::array<int, 7> Shown{};
     for (const int Face : DieFace) Shown[Face == 99 ? 0 : Face] += Face != 99;
     const auto All = [&](auto Holds) { return Rolled == 6 && std::all_of(Shown.begin() + 1, Shown.end(), Holds); };
@@ -298,7 +297,7 @@ class Model : public Moment {
     const bool ThreePairs = All([](int n) { return n == 0 || n == 2; });
     for (int i = 0; i < 6; ++i) {
       const int Face = DieFace[i];
-      std::string_view& Code = DieScoreCode[i];
+      Word& Code = DieScoreCode[i];
       if (Face == 99) {
         Code = "99";
       } else if (Straight) {
@@ -306,18 +305,18 @@ class Model : public Moment {
       } else if (ThreePairs) {
         Code = "z";
       } else if (Shown[Face] >= 3) {
-        Code = Letters.substr(static_cast<std::size_t>(6 * (Shown[Face] - 3) + Face - 1), 1);
+        Code = Word(static_cast<char>('a' + 6 * (Shown[Face] - 3) + Face - 1));
       } else {
         Code = Face == 1 ? "1" : Face == 5 ? "5" : "0";
       }
     }
   }
-  static int PointsOf(std::string_view Code) {
+  static int PointsOf(Word Code) {
     if (Code == "1") return 100;
     if (Code == "5") return 50;
     if (Code == "y") return 1500;
     if (Code == "z") return 500;
-    const int Letter = Code[0] - 'a', Face = Letter % 6 + 1;
+    const int Letter = Code.front() - 'a', Face = Letter % 6 + 1;
     return (Face == 1 ? 1000 : 100 * Face) << Letter / 6;
   }
 
@@ -332,8 +331,8 @@ class Model : public Moment {
   void FindMayPass() { MayPass = PlayerScore[CurrentPlayer] >= BreakInScore || TurnScore >= BreakInScore; }
 
   void CheckRoll() {
-    RollIsBust = std::all_of(DieScoreCode.begin(), DieScoreCode.end(),
-                             [](std::string_view Code) { return Code == "0" || Code == "99"; });
+    RollIsBust =
+        std::all_of(DieScoreCode.begin(), DieScoreCode.end(), [](Word Code) { return Code == "0" || Code == "99"; });
     FindMayPass();
     cmdRoll.Enabled = false;
     if (AllUpScore()) {
@@ -374,7 +373,7 @@ class Model : public Moment {
     if (!ScorerUp) return MayPass ? Offer("Roll or pass the dice.", "rp") : Offer("Roll the dice.", "r");
     MayPass ? Offer("Roll, select, or pass the dice.", "rsp") : Offer("Select dice or roll.", "rs");
   }
-  void Offer(const char* Text, const char* Actions) {
+  void Offer(const char* Text, Word Actions) {
     ActionSet = Actions;
     SetStatus(Text);
   }
@@ -424,7 +423,7 @@ class Model : public Moment {
     }
   }
   void TakeDice(int Index) {
-    const std::string_view Code = DieScoreCode[Index];
+    const Word Code = DieScoreCode[Index];
     if (Code == "0" && DieUp[Index]) return Write("beep");
     if (!DieUp[Index]) return;
     const auto TakeOfGroup = [&](int i) {
@@ -486,7 +485,7 @@ class Model : public Moment {
                                       : "never seen in play");
         Sound("Undo");
         cmdRoll.Enabled = false;
-        if (ActionSet.find('p') == std::string::npos) cmdPassDice.Enabled = false;
+        if (!ActionSet.contains('p')) cmdPassDice.Enabled = false;
       }
     }
   }
@@ -521,11 +520,10 @@ class Model : public Moment {
       if (i != CurrentPlayer) Top = std::max(Top, PlayerScore[i]);
     }
     const int Need = std::min(Top - PlayerScore[CurrentPlayer] + 50, 32767);
-    const std::string Caption =
+    lblLastRoll.Caption =
         "(Last Roll - Need " + std::to_string(Need) + (NumPlayers == 2 ? " To Win)" : " To Take The Lead)");
-    if (Computer() || !lblLastRoll.Visible) {
-      lblLastRoll.Caption = Caption;
-    } else {
+    if (!Computer() && lblLastRoll.Visible) {
+      const std::string Caption = lblLastRoll.Caption;
       lblStatus.Caption = "";
       for (int Blink = 0; Blink < 3; ++Blink) {
         if (!Settings.Silent) Write("beep");
@@ -625,7 +623,7 @@ class Model : public Moment {
   void Bot_Simple() {
     Loop(true, [this] {
       if (Left()) return;
-      if (ActionSet.find('s') != std::string::npos) {
+      if (ActionSet.contains('s')) {
         for (int i = 0; i < 6; ++i) {
           if (DieScoreCode[i] != "0") BotClick(i);
         }
@@ -647,7 +645,7 @@ class Model : public Moment {
           for (int j = 0; j < 6; ++j) DeadUp = DeadUp || (DieScoreCode[j] == "0" && DieUp[j]);
           if (DeadUp) break;
         }
-      } else if (ActionSet.find('p') != std::string::npos) {
+      } else if (ActionSet.contains('p')) {
         BotPass();
       } else {
         BotRoll();
@@ -711,13 +709,13 @@ class Model : public Moment {
     PumpEvents();
     if (Left()) return;
     for (int i = 0; i < 6; ++i) {
-      if (!Scores(i) || DieScoreCode[i] < "a" || DieScoreCode[i] == "b") continue;
+      if (!Scores(i) || DieScoreCode[i].front() < 'a' || DieScoreCode[i] == "b") continue;
       for (int j = 0; j < 6; ++j) {
         if (Scores(j)) MarkAndClick(j);
       }
       return;
     }
-    for (const char* Code : {"1", "5", "b"}) {
+    for (const Word Code : {Word("1"), Word("5"), Word("b")}) {
       PumpEvents();
       if (Left()) return;
       for (int i = 0; i < 6; ++i) {

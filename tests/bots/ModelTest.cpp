@@ -10,15 +10,15 @@ namespace blunko::test {
 namespace {
 
 std::string Text(const auto& Value) {
-  std::ostringstream Written;
-  if constexpr (requires { +Value; }) {
-    Written << +Value;
-  } else if constexpr (requires { Written << Value; }) {
-    Written << Value;
+  if constexpr (requires { std::string_view(Value); }) {
+    return std::string(std::string_view(Value));
+  } else if constexpr (requires { std::to_string(Value); }) {
+    return std::to_string(Value);
   } else {
-    for (const auto& Part : Value) Written << Part << ' ';
+    std::string All;
+    for (const auto& Part : Value) All += Text(Part) + ' ';
+    return All;
   }
-  return Written.str();
 }
 
 /// The program's table, whose every event is held against the model's account of the same step.
@@ -82,6 +82,7 @@ class Witness : public Desktop, public Program, public NumberSource, public Unif
     game.FreshGame(setup);
   }
   void RunComputerTurn() override { players.RunComputerTurn(); }
+  void CancelOptions() override { See("cancel options"); }
   void UnloadOtherForms() override { See("unload others"); }
   void ExitProgram() override { See("exit"); }
   void Abort() override { See("abort"); }

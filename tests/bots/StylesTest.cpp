@@ -213,8 +213,8 @@ TEST(Styles, WaitWhilePausedButForCautious) {
 
 TEST(Styles, ReportWhatTheyCannotPlayAndLeave) {
   const struct {
-    const char* Actions;
-    const char* Code;  ///< of all six positions
+    Word Actions;
+    Word Code;  ///< of all six positions
     std::vector<std::string> Log;
   } Rows[] = {
       {"rp",
@@ -224,7 +224,7 @@ TEST(Styles, ReportWhatTheyCannotPlayAndLeave) {
       {"s", "0", {"box Msg 519 -- Please contact Tollmoor Games Tech Support.", "abort"}},
   };
   for (const auto& Row : Rows) {
-    SCOPED_TRACE(Row.Actions);
+    SCOPED_TRACE(Row.Log.front());
     PlayingTable table;
     table.Starts = false;
     table.Begin({"Normal", "Ann"});
