@@ -1,0 +1,43 @@
+#include "table/TickBox.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace blunko {
+
+namespace {
+
+constexpr int Side = 15;  // px, of the square
+constexpr int Ring = 2;   // px around it, for the focus
+const QColor Frame(40, 40, 60);
+const QColor Tick(0, 0, 128);
+const QColor FocusColour(255, 178, 36);
+
+}  // namespace
+
+TickBox::TickBox(QWidget* Parent) : QCheckBox(Parent) { setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); }
+
+QSize TickBox::sizeHint() const { return {Side + 2 * Ring, Side + 2 * Ring}; }
+
+void TickBox::paintEvent(QPaintEvent*) {
+  QPainter Painter(this);
+  Painter.setRenderHint(QPainter::Antialiasing);
+  Painter.translate((width() - Side) / 2.0, (height() - Side) / 2.0);
+  const QRectF Square(0.5, 0.5, Side - 1, Side - 1);
+  if (hasFocus()) {
+    Painter.setPen(QPen(FocusColour, 2));
+    Painter.drawRect(Square.adjusted(-1.5, -1.5, 1.5, 1.5));
+  }
+  Painter.setPen(QPen(Frame, 1));
+  Painter.setBrush(isEnabled() && !isDown() ? Qt::white : QColor(222, 226, 234));
+  Painter.drawRect(Square);
+  if (!isChecked()) return;
+  QPainterPath Path(QPointF(3.2, 7.8));
+  Path.lineTo(6.2, 11.2);
+  Path.lineTo(11.8, 3.6);
+  Painter.setPen(QPen(isEnabled() ? Tick : Frame.lighter(200), 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  Painter.setBrush(Qt::NoBrush);
+  Painter.drawPath(Path);
+}
+
+}  // namespace blunko

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QCheckBox>
+
+namespace blunko {
+
+/// A bare check box whose tick is drawn as a path, so that it looks like one whatever fonts are installed. A click or
+/// the space bar toggles it. Its caption, if any, stands in a label of its own: give it an accessible name.
+class TickBox : public QCheckBox {
+  Q_OBJECT
+
+ public:
+  explicit TickBox(QWidget* Parent = nullptr);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  bool hitButton(const QPoint& Position) const override { return rect().contains(Position); }
+  void paintEvent(QPaintEvent* Event) override;
+};
+
+}  // namespace blunko
