@@ -8,7 +8,9 @@
 
 #include "Links.h"
 #include "app/OpenInShell.h"
+#include "app/frmAbout.h"
 #include "app/frmCongrats.h"
+#include "app/frmWelcome.h"
 #include "table/DiceSets.h"
 #include "table/Twips.h"
 
@@ -57,6 +59,10 @@ bool Application::Main() {
     Pointer == MousePointer::Hourglass ? Form->setCursor(Qt::WaitCursor) : Form->unsetCursor();
   };
   QObject::connect(Form.get(), &frmMain::minimised, Form.get(), [this] { Form_Resize(); });
+  Form->OnCommand.FirstShown = [this] { Form_Activate(); };
+  Form->OnCommand.HowToPlay = [this] { ShowHelpTopic(QStringLiteral("PlayingBlunko.htm")); };
+  Form->OnCommand.GoHelp = [this] { ShowHelpTopic(QStringLiteral("Overview.htm")); };
+  Form->OnCommand.About = [this] { frmAbout(folders, Settings, Screen, Form.get()).exec(); };
   const QColor Trays = StartColour(Settings.DieColour());
   Form->PaintTrays(Trays, Trays);
   Form->ShowBackground(Settings.Background());
@@ -97,6 +103,20 @@ bool Application::CheckForUpdate() {
       break;
   }
   return true;
+}
+
+/// The table has come up: a newcomer is greeted.
+void Application::Form_Activate() {
+  if (!Settings.ShowWelcome() || !State.FirstActivate) return;
+  State.FirstActivate = false;
+  frmWelcome(
+      InfoFile, Screen, [this](const QString& Topic) { ShowHelpTopic(Topic); }, Form.get())
+      .exec();
+}
+
+void Application::ShowHelpTopic(const QString& Topic) {
+  if (help == nullptr) help = std::make_unique<HelpWindow>(QString::fromStdString(State.HelpFile), Form.get());
+  help->ShowTopic(Topic);
 }
 
 /// The score pad leaves the screen with the table and comes back to where it stood.
@@ -154,6 +174,7 @@ void Application::RunComputerTurn() { Players.RunComputerTurn(); }
 void Application::UnloadOtherForms() {
   if (newGame != nullptr) newGame->Unload();
   if (scorePad != nullptr) scorePad->hide();
+  if (help != nullptr) help->close();
 }
 
 void Application::ExitProgram() {

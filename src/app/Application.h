@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "app/HelpWindow.h"
 #include "app/frmNewGame.h"
 #include "bots/ComputerPlayers.h"
 #include "engine/Game.h"
@@ -42,6 +43,9 @@ class Application : public Program {
   /// The start, up to the shown table. False: the program ends without having shown it.
   bool Main();
 
+  /// Opens the help at a page, "Name.htm" or "Name.htm#anchor".
+  void ShowHelpTopic(const QString& Topic);
+
   void UpdateActivePlayer() override;
   void ShowScorePad() override;
   void FocusTable() override;
@@ -71,12 +75,14 @@ class Application : public Program {
  private:
   void SurveyHardware();
   bool CheckForUpdate();
+  void Form_Activate();
   void Form_Resize();
   frmScorePad& ScorePad();
   frmNewGame& NewGame();
 
   frmScorePad* scorePad = nullptr;
   frmNewGame* newGame = nullptr;
+  std::unique_ptr<HelpWindow> help;
 };
 
 }  // namespace blunko
