@@ -25,7 +25,7 @@ namespace blunko {
 namespace {
 
 constexpr int ContentsWidth = 210;                                      // px
-constexpr int NarrowestWindow = 640, WidestWindow = 820, Height = 640;  // px
+constexpr int NarrowestWindow = 720, WidestWindow = 820, Height = 640;  // px
 constexpr int Gap = 12;                                                 // px between help and table
 constexpr int AddressRole = Qt::UserRole;
 const QColor Paper(253, 252, 247), Ink(32, 33, 48), FoundColour(255, 214, 92);
@@ -87,6 +87,7 @@ void HelpWindow::Build() {
   Page = new HelpPage(this);
   Page->setObjectName(QStringLiteral("Page"));
   Page->setOpenLinks(false);
+  Page->setWordWrapMode(QTextOption::WordWrap);  // no table column narrower than its words
   Page->setFont(FontOf(Typeface::Verdana, 9.75));
   QPalette Colours = Page->palette();
   Colours.setColor(QPalette::Base, Paper);

@@ -74,6 +74,7 @@ frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& S
     Made->setObjectName(QLatin1String(Name));
     Made->setMinimumWidth(110);
     Made->setBackColor(ButtonColour);
+    Made->setAutoDefault(true);
     return Made;
   };
   cmdOK = Button("cmdOK", tr("OK"));

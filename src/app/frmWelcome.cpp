@@ -38,6 +38,7 @@ frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, HelpCommand ShowHel
     auto* Made = new ButtonPlus(Caption, this);
     Made->setObjectName(QLatin1String(Name));
     Made->setMinimumSize(300, 36);
+    Made->setAutoDefault(true);
     connect(Made, &QPushButton::clicked, this, Run);
     return Made;
   };
