@@ -26,7 +26,7 @@ void ClassifyAllRolls(benchmark::State& Run) {
     for (int Roll = 0; Roll < 46656; ++Roll) {
       for (int i = 0, Rest = Roll; i < Dice; ++i, Rest /= 6) State.DieFace[i] = static_cast<std::int16_t>(1 + Rest % 6);
       Table.ScoreDice(Dice);
-      for (const std::string_view Code : State.DieScoreCode) Scorers += IsScorer(Code);
+      for (const Word& Code : State.DieScoreCode) Scorers += IsScorer(Code);
     }
     benchmark::DoNotOptimize(Scorers);
   }

@@ -63,6 +63,7 @@ bool Application::Main() {
   Form->OnCommand.HowToPlay = [this] { ShowHelpTopic(QStringLiteral("PlayingBlunko.htm")); };
   Form->OnCommand.GoHelp = [this] { ShowHelpTopic(QStringLiteral("Overview.htm")); };
   Form->OnCommand.About = [this] { frmAbout(folders, Settings, Screen, Form.get()).exec(); };
+  Form->OnCommand.Options = [this] { Options().cmdOptions_Click(); };
   const QColor Trays = StartColour(Settings.DieColour());
   Form->PaintTrays(Trays, Trays);
   Form->ShowBackground(Settings.Background());
@@ -138,6 +139,13 @@ frmScorePad& Application::ScorePad() {
   return *scorePad;
 }
 
+OptionsPanel& Application::Options() {
+  if (options == nullptr) {
+    options = new OptionsPanel(*Form, Table, Settings, folders.Shipped(QStringLiteral("Background")));
+  }
+  return *options;
+}
+
 frmNewGame& Application::NewGame() {
   if (newGame == nullptr) newGame = new frmNewGame(Table, InfoFile, Settings, Form.get());
   return *newGame;
@@ -171,6 +179,8 @@ void Application::ShowNewGame() {
 
 void Application::RunComputerTurn() { Players.RunComputerTurn(); }
 
+void Application::CancelOptions() { Options().ARCmdCancelOptions_Click(); }
+
 void Application::UnloadOtherForms() {
   if (newGame != nullptr) newGame->Unload();
   if (scorePad != nullptr) scorePad->hide();
@@ -178,6 +188,7 @@ void Application::UnloadOtherForms() {
 }
 
 void Application::ExitProgram() {
+  if (options != nullptr) options->ARCmdCancelOptions_Click();  // a preview isn't kept
   UnloadOtherForms();
   Form->hide();
   QCoreApplication::exit();

@@ -9,6 +9,7 @@
 #include "storage/Folders.h"
 #include "storage/GameSettings.h"
 #include "storage/IniInfo.h"
+#include "table/OptionsPanel.h"
 #include "table/QtDesktop.h"
 #include "table/frmMain.h"
 #include "table/frmScorePad.h"
@@ -54,6 +55,7 @@ class Application : public Program {
   void ShowCongrats() override;
   void ShowNewGame() override;
   void RunComputerTurn() override;
+  void CancelOptions() override;
   void UnloadOtherForms() override;
   void ExitProgram() override;
   void Abort() override;
@@ -79,7 +81,9 @@ class Application : public Program {
   void Form_Resize();
   frmScorePad& ScorePad();
   frmNewGame& NewGame();
+  OptionsPanel& Options();
 
+  OptionsPanel* options = nullptr;
   frmScorePad* scorePad = nullptr;
   frmNewGame* newGame = nullptr;
   std::unique_ptr<HelpWindow> help;

@@ -44,7 +44,7 @@ void ComputerPlayers::PlayStyle(int PlayerStyle) {
 
 void ComputerPlayers::CountDiceLeft(std::uint8_t& Count) const {
   Count = 0;
-  for (int i = 0; i < Dice; ++i) Count += m.DieScoreCode[i] != NoDie && !m.BotTake[i];
+  for (int i = 0; i < Dice; ++i) Count += (m.DieScoreCode[i] != NoDie) & !m.BotTake[i];
 }
 
 bool ComputerPlayers::BotRoll() {

@@ -43,7 +43,7 @@ class ComputerPlayers {
   bool DecideToPass(const TableStyle& Style);
   bool TakeDice(int TakeAllBelow);
   void TakeAll(bool ClickEmptyToo);
-  bool TakeFirst(std::string_view Code);
+  bool TakeFirst(const Word& Code);
 
   /// The loop of a turn: `Act` acts once on the action set as it stands, and returns false to leave the turn at once.
   template <typename Action>

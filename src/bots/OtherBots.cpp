@@ -13,7 +13,7 @@ constexpr int GeniusDaresBehind = 1000;  // points
 /// Takes everything and stops at a fixed score.
 void ComputerPlayers::Bot_Simple() {
   PlayTurn(true, [this] {
-    const std::string_view Actions = m.ActionSet;
+    const Word Actions = m.ActionSet;
     if (Actions == "r") return Roll();
     if (Actions == "p") return Pass();
     if (Actions == "rp") return m.TurnScore > SimpleRollsUpTo ? Pass() : Roll();
@@ -27,7 +27,7 @@ void ComputerPlayers::Bot_Simple() {
 /// Takes as little as it may and stops as soon as it may.
 void ComputerPlayers::Bot_Moron() {
   PlayTurn(true, [this] {
-    const std::string_view Actions = m.ActionSet;
+    const Word Actions = m.ActionSet;
     if (Actions == "r" || Actions == "rs") return Roll();
     if (Actions != "s") return Pass();
     for (int i = 0; i < Dice; ++i) {

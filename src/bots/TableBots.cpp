@@ -15,9 +15,9 @@ constexpr TableStyle FearlessStyle{3, {0, 400, 450, 500, 1100, 1500}};
 /// From this turn score on a seat with nothing banked takes all it can. It doesn't follow the break-in score.
 constexpr int BreakInHunger = 500;
 
-constexpr std::string_view ThreeTwos = "b";
+constexpr Word ThreeTwos = "b";
 
-bool IsCombination(std::string_view Code) { return IsScorer(Code) && Code != "1" && Code != "5"; }
+bool IsCombination(const Word& Code) { return Code.front() >= 'a'; }
 
 }  // namespace
 
@@ -30,7 +30,7 @@ void ComputerPlayers::PlayTableStyle(const TableStyle& Style) {
 }
 
 bool ComputerPlayers::ActAtTable(const TableStyle& Style) {
-  const std::string_view Actions = m.ActionSet;
+  const Word Actions = m.ActionSet;
   if (Actions == "r") return BotRoll();
   if (Actions == "p") return BotPass();
   if (Actions == "s" || Actions == "sp") return TakeDice(Style.TakeAllBelow);
@@ -72,12 +72,12 @@ bool ComputerPlayers::TakeDice(int TakeAllBelow) {
   bool One = false;
   bool Five = false;
   for (int i = 0; i < Dice; ++i) {
-    if (m.BotTake[i]) continue;
-    const std::string_view Code = m.DieScoreCode[i];
-    AllScore = AllScore && Code != NoScore;
-    Combination = Combination || (IsCombination(Code) && Code != ThreeTwos);
-    One = One || Code == "1";
-    Five = Five || Code == "5";
+    const Word Code = m.DieScoreCode[i];
+    const bool Open = !m.BotTake[i];
+    AllScore &= !(Open & (Code == NoScore));
+    Combination |= Open & IsCombination(Code) & (Code != ThreeTwos);
+    One |= Open & (Code == "1");
+    Five |= Open & (Code == "5");
   }
   if (AllScore) {
     TakeAll(false);
@@ -108,12 +108,12 @@ bool ComputerPlayers::TakeDice(int TakeAllBelow) {
 
 void ComputerPlayers::TakeAll(bool ClickEmptyToo) {
   for (int i = 0; i < Dice; ++i) {
-    const std::string_view Code = m.DieScoreCode[i];
+    const Word Code = m.DieScoreCode[i];
     if (Code != NoScore && !m.BotTake[i] && (ClickEmptyToo || Code != NoDie)) MarkAndClick(i);
   }
 }
 
-bool ComputerPlayers::TakeFirst(std::string_view Code) {
+bool ComputerPlayers::TakeFirst(const Word& Code) {
   for (int i = 0; i < Dice; ++i) {
     if (m.DieScoreCode[i] == Code && !m.BotTake[i]) {
       MarkAndClick(i);

@@ -59,6 +59,10 @@ void Game::Form_KeyUp(std::int16_t KeyCode, std::int16_t Shift) {
   switch (KeyCode) {
     case Escape:
       if (m.Quitting) break;
+      if (!t.picGameTray.Enabled) {
+        program.CancelOptions();
+        break;
+      }
       program.UnloadOtherForms();
       Form_Unload();
       break;

@@ -61,8 +61,8 @@ std::string Game::Fault() const {
   if (FirstRoll) {
     Demand(!CanPass, "nobody passes before the first roll");
   } else {
-    Demand(CanRoll == (m.ActionSet.find('r') != m.ActionSet.npos), "Roll is enabled exactly when the action set has r");
-    Demand(CanPass == (m.ActionSet.find('p') != m.ActionSet.npos), "Pass is enabled exactly when the action set has p");
+    Demand(CanRoll == m.ActionSet.contains('r'), "Roll is enabled exactly when the action set has r");
+    Demand(CanPass == m.ActionSet.contains('p'), "Pass is enabled exactly when the action set has p");
     Demand(t.lblTurnScore.Caption == std::to_string(m.TurnScore), "the table shows the turn's score");
     const bool BrokenIn = m.PlayerScore[m.CurrentPlayer] >= m.BreakInScore || m.TurnScore >= m.BreakInScore;
     Demand(!CanPass || BrokenIn, "only a seat that has broken in can bank");

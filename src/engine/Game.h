@@ -77,7 +77,7 @@ class Game {
   void TakeClickedDice(int Index);
   void UndoSelection(int Index);
   void GoOut();
-  void FlashLastRoll(const std::string& Caption);
+  void FlashLastRoll();
   void HideMarkers();
   void ClearDice();
   void GiveUpGame();

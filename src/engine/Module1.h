@@ -3,7 +3,9 @@
 #include <array>
 #include <cstdint>
 #include <string>
-#include <string_view>
+
+#include "engine/ScoreDice.h"
+#include "engine/Word.h"
 
 namespace blunko {
 
@@ -22,10 +24,9 @@ struct Module1 {
   // The six table positions.
   std::array<std::int16_t, Dice>
       DieFace{};  ///< 1 to 6, or `Absent`; a die in the tray keeps its face until the next roll
-  std::array<std::string_view, Dice> DieScoreCode{"0", "0", "0",
-                                                  "0", "0", "0"};  ///< always one of the literals of ScoreDice
-  std::array<bool, Dice> DieUp{};                                  ///< lies on the table and can still be taken
-  std::array<std::int16_t, Dice> ShownFace{};                      ///< face drawn at the position, 0 for none
+  std::array<Word, Dice> DieScoreCode{NoScore, NoScore, NoScore, NoScore, NoScore, NoScore};
+  std::array<bool, Dice> DieUp{};              ///< lies on the table and can still be taken
+  std::array<std::int16_t, Dice> ShownFace{};  ///< face drawn at the position, 0 for none
 
   // The six tray slots. The sixth die of a set stands in slot 5 with `TrayUsed[5]` false.
   std::array<std::int16_t, Dice> TrayFace{};  ///< 0 when the slot is empty
@@ -47,9 +48,8 @@ struct Module1 {
 
   // The turn.
   std::int16_t TurnScore = 0;
-  std::string_view ActionSet = "r";  ///< what the seat may do: letters of r(oll), s(elect), p(ass); always a literal
-  std::string_view SavedActionSet =
-      "r";  ///< `ActionSet` and `TurnScore` as the last roll left them: what an undo restores
+  Word ActionSet = "r";       ///< what the seat may do: letters of r(oll), s(elect), p(ass)
+  Word SavedActionSet = "r";  ///< `ActionSet` and `TurnScore` as the last roll left them: what an undo restores
   std::int16_t SavedTurnScore = 0;
   std::uint8_t TrayCountAtRoll = 0;  ///< dice that stood in the tray when the last roll started; they stay there
   bool RollIsBust = false;

@@ -46,13 +46,13 @@ void Game::cmdPassDice_Click() {
     return;
   }
 
-  std::string Caption =
-      "(Last Roll - Need " + std::to_string(PointsNeeded()) + (m.NumPlayers == 2 ? " To Win)" : " To Take The Lead)");
+  t.lblLastRoll.Caption = "(Last Roll - Need ";
+  t.lblLastRoll.Caption += std::to_string(PointsNeeded());
+  t.lblLastRoll.Caption += m.NumPlayers == 2 ? " To Win)" : " To Take The Lead)";
   if (!IsComputerTurn() && t.lblLastRoll.Visible) {
-    FlashLastRoll(Caption);
+    FlashLastRoll();
     if (m.Quitting || m.GameNumber != Played) return;
   }
-  t.lblLastRoll.Caption = std::move(Caption);
   // Only now: a roll during the flash would be overwritten by what follows.
   t.cmdRoll.Enabled = !IsComputerTurn();
   SetStatus("Roll the dice.");
@@ -84,8 +84,9 @@ std::int16_t Game::PointsNeeded() const {
 }
 
 /// Blinks the last-roll line three times for the person whose last turn it is. Events come in meanwhile.
-void Game::FlashLastRoll(const std::string& Caption) {
+void Game::FlashLastRoll() {
   const auto Played = m.GameNumber;
+  const std::string Caption = t.lblLastRoll.Caption;
   const auto Show = [&](std::string_view Text) {
     t.lblLastRoll.Caption = Text;
     desktop.PumpEvents();

@@ -25,6 +25,8 @@ class Program {
   virtual void ShowNewGame() = 0;
   /// The seat on turn is a computer: its style plays.
   virtual void RunComputerTurn() = 0;
+  /// The options panel, which is open, takes its preview back and closes.
+  virtual void CancelOptions() = 0;
   /// Every loaded form but the table is unloaded.
   virtual void UnloadOtherForms() = 0;
   /// Unloads every form and ends the program, once the handlers that wait have returned.
@@ -44,6 +46,7 @@ class QuietProgram : public Program {
   void ShowCongrats() override {}
   void ShowNewGame() override {}
   void RunComputerTurn() override {}
+  void CancelOptions() override {}
   void UnloadOtherForms() override {}
   void ExitProgram() override {}
   void Abort() override {}

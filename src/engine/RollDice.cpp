@@ -68,9 +68,10 @@ void Game::RollDice(std::uint8_t NumDiceUp) {
   for (int i = 0; i < Dice; ++i) t.Picture1(i) = 0;
   m.DieFace.fill(Absent);
 
-  const auto Draw = [this](int i) {
+  const int DieColour = Settings.DieColour();
+  const auto Draw = [&](int i) {
     m.DieFace[i] = static_cast<std::int16_t>(RandomNumber(6));
-    t.Picture1(i) = Settings.DieColour() + m.DieFace[i];
+    t.Picture1(i) = DieColour + m.DieFace[i];
   };
   if (!(IsComputerTurn() && Settings.ComputerSpeed() >= SpeedRidiculous)) {
     const Tumble& Show = Tumbles[NumDiceUp];
@@ -86,7 +87,7 @@ void Game::RollDice(std::uint8_t NumDiceUp) {
 
   if (Settings.SortDice()) Bubble(NumDiceUp);
   for (int i = 0; i < NumDiceUp; ++i) {
-    t.Picture1(i) = Settings.DieColour() + m.DieFace[i];
+    t.Picture1(i) = DieColour + m.DieFace[i];
     m.ShownFace[i] = m.DieFace[i];
   }
   for (int i = NumDiceUp; i < Dice; ++i) m.ShownFace[i] = 0;
@@ -98,10 +99,10 @@ void Game::Bubble(std::int16_t SortHowMany) {
   for (int Limit = SortHowMany - 1; Swapped; --Limit) {
     Swapped = false;
     for (int i = 0; i < Limit; ++i) {
-      if (m.DieFace[i] > m.DieFace[i + 1]) {
-        std::swap(m.DieFace[i], m.DieFace[i + 1]);
-        Swapped = true;
-      }
+      const std::int16_t Left = m.DieFace[i], Right = m.DieFace[i + 1];
+      m.DieFace[i] = std::min(Left, Right);
+      m.DieFace[i + 1] = std::max(Left, Right);
+      Swapped |= Left > Right;
     }
   }
 }

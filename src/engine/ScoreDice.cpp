@@ -9,13 +9,10 @@ namespace blunko {
 
 namespace {
 
-constexpr std::string_view Single1 = "1";
-constexpr std::string_view Single5 = "5";
-constexpr std::string_view Straight = "y";
-constexpr std::string_view ThreePairs = "z";
-
-/// Letters of the kinds: three of a kind of the faces 1 to 6, then four, five and six of a kind.
-constexpr std::string_view KindLetters = "abcdefghijklmnopqrstuvwx";
+constexpr Word Single1 = "1";
+constexpr Word Single5 = "5";
+constexpr Word Straight = "y";
+constexpr Word ThreePairs = "z";
 
 /// Points of the letters "a" to "z".
 constexpr std::array<int, 26> LetterPoints{
@@ -27,18 +24,16 @@ constexpr std::array<int, 26> LetterPoints{
     500,                                 // three pairs
 };
 
-std::string_view KindCode(int Count, int Face) {
-  return KindLetters.substr(static_cast<std::size_t>(6 * (Count - 3) + Face - 1), 1);
-}
+/// Letters of the kinds run from "a": three of a kind of the faces 1 to 6, then four, five and six of a kind.
+Word KindCode(int Count, int Face) { return Word(static_cast<char>('a' + 6 * (Count - 3) + Face - 1)); }
 
 }  // namespace
 
-int PointsOf(std::string_view Code) {
+int PointsOf(const Word& Code) {
   if (Code == Single1) return 100;
   if (Code == Single5) return 50;
-  if (Code.size() == 1 && Code[0] >= 'a' && Code[0] <= 'z')
-    return LetterPoints[static_cast<std::size_t>(Code[0] - 'a')];
-  return 0;
+  const char Letter = Code.front();
+  return Letter >= 'a' && Letter <= 'z' ? LetterPoints[static_cast<std::size_t>(Letter - 'a')] : 0;
 }
 
 void Game::ScoreDice(std::uint8_t NumDiceUp) {

@@ -11,7 +11,7 @@ namespace {
 constexpr int PauseAfterDieOfGroup = 200;  // ms
 constexpr int PauseAfterTaking = 100;      // ms
 
-std::string_view UndoStatus(std::string_view ActionSet) {
+std::string_view UndoStatus(const Word& ActionSet) {
   if (ActionSet == "s") return "Select Dice. (Undo)";
   if (ActionSet == "sp") return "Select Dice or Pass Dice. (Undo)";
   if (ActionSet == "r") return "Roll the dice. (Undo)";
@@ -42,7 +42,7 @@ void Game::picTray2_MouseUp(std::int16_t Button, std::int16_t Shift, float X, fl
 }
 
 void Game::TakeClickedDice(int Index) {
-  const std::string_view Code = m.DieScoreCode[Index];
+  const Word Code = m.DieScoreCode[Index];
   if (!m.DieUp[Index]) return;
   if (Code == NoScore) {
     desktop.Beep();
@@ -124,7 +124,7 @@ void Game::UndoSelection(int Index) {
     SetStatus(UndoStatus(m.ActionSet));
     desktop.PlaySoundFile(Settings.GetSound("Undo"), false);
     t.cmdRoll.Enabled = false;
-    if (m.ActionSet.find('p') == m.ActionSet.npos) t.cmdPassDice.Enabled = false;
+    if (!m.ActionSet.contains('p')) t.cmdPassDice.Enabled = false;
   }
 }
 

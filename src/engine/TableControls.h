@@ -26,14 +26,14 @@ struct PictureBox {
   int Left = 0;  ///< twips
 };
 
-/// The control array of the dice: table positions 0 to 5 and tray slots 10 to 15.
+/// The control array of the dice: table positions 0 to 5 and tray slots 10 to 15. There is none from 6 to 9.
 class DieBoxes {
  public:
-  int& operator()(int Index) { return Pictures[static_cast<std::size_t>(Index < 10 ? Index : Index - 4)]; }
-  int operator()(int Index) const { return Pictures[static_cast<std::size_t>(Index < 10 ? Index : Index - 4)]; }
+  int& operator()(int Index) { return Pictures[static_cast<std::size_t>(Index)]; }
+  int operator()(int Index) const { return Pictures[static_cast<std::size_t>(Index)]; }
 
  private:
-  std::array<int, 12> Pictures{};
+  std::array<int, 16> Pictures{};
 };
 
 /// Left edge of the die boxes in their tray, in twips; the same for the table and the tray.

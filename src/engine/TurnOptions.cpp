@@ -14,9 +14,10 @@ struct Upside {
 
   explicit Upside(const Module1& m) {
     for (int i = 0; i < Dice; ++i) {
-      if (!m.DieUp[i]) continue;
-      Any = true;
-      (m.DieScoreCode[i] == NoScore ? NonScorer : Scorer) = true;
+      const bool Dead = m.DieScoreCode[i] == NoScore;
+      Any |= m.DieUp[i];
+      Scorer |= m.DieUp[i] & !Dead;
+      NonScorer |= m.DieUp[i] & Dead;
     }
   }
   bool AllScore() const { return Any && !NonScorer; }
@@ -56,18 +57,13 @@ void Game::CheckRoll() {
 void Game::CheckSelection() {
   m.MayPass = HasBrokenIn(m);
   const Upside Up(m);
-  const auto Offer = [this](std::string_view Text, std::string_view Set) {
-    const auto Allows = [Set](char What) { return Set.find(What) != Set.npos; };
-    if (!Allows('r')) {
-      t.cmdRoll.Enabled = false;
-    } else if (!IsComputerTurn()) {
-      t.cmdRoll.Enabled = true;
-    }
-    if (!Allows('p')) {
-      t.cmdPassDice.Enabled = false;
-    } else if (!IsComputerTurn()) {
-      t.cmdPassDice.Enabled = true;
-    }
+  const bool Computer = IsComputerTurn();
+  const auto Offer = [&](std::string_view Text, const Word& Set) {
+    const auto Switch = [&](Button& Which, char Action) {  // nothing is switched on for a computer
+      if (!(Computer && Set.contains(Action))) Which.Enabled = Set.contains(Action);
+    };
+    Switch(t.cmdRoll, 'r');
+    Switch(t.cmdPassDice, 'p');
     m.ActionSet = Set;
     SetStatus(Text);
   };

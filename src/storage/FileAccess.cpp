@@ -29,9 +29,10 @@ std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit) {
 bool ReplaceFile(const QString& Path, const QByteArray& Bytes) {
   QSaveFile File(Path);
   if (!File.open(QIODevice::WriteOnly)) return false;
-  File.write(Bytes);
-  // The bytes must be on the disk before the new name is: after a power cut an empty file may stand there otherwise.
-  if (File.flush() && fsync(File.handle()) != 0) File.cancelWriting();
+  // The bytes must be on the disk before the new name is: after a power cut an empty file may stand there otherwise. On
+  // a full disk the write is short, or the flush fails; the commit alone wouldn't mind and put the torso in place.
+  const bool Whole = File.write(Bytes) == Bytes.size() && File.flush() && fsync(File.handle()) == 0;
+  if (!Whole) File.cancelWriting();
   if (!File.commit()) return false;
   const int Folder = open(QFile::encodeName(QFileInfo(Path).absolutePath()).constData(), O_RDONLY | O_DIRECTORY);
   if (Folder >= 0) {

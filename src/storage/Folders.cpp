@@ -26,9 +26,11 @@ bool CanWriteIn(const QString& Folder) { return QFileInfo(Folder).isDir() && QFi
 
 }  // namespace
 
-Folders Folders::OfProgram() {
+Folders Folders::OfProgram() { return Of(QCoreApplication::applicationFilePath()); }
+
+Folders Folders::Of(const QString& Path) {
   Folders Found;
-  const QFileInfo Executable(QCoreApplication::applicationFilePath());
+  const QFileInfo Executable(Path);
   Found.Program = Executable.absolutePath();
   Found.BaseName = Executable.completeBaseName();
   Found.State = Found.Program;
@@ -49,8 +51,9 @@ QString Folders::Shipped(const QString& Part) const {
 }
 
 QString GetTempFolder() {
-  for (const auto Place : {QStandardPaths::RuntimeLocation, QStandardPaths::GenericCacheLocation}) {
-    const QString Parent = QStandardPaths::writableLocation(Place);
+  const QString Runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  const QString Cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+  for (const QString& Parent : {IsPrivate(Runtime) ? Runtime : QString(), Cache}) {
     if (Parent.isEmpty() || !QDir().mkpath(Parent)) continue;
     const QString Folder = Parent + QLatin1Char('/') + FolderName;
     if (IsPrivate(Folder) || (mkdir(QFile::encodeName(Folder).constData(), 0700) == 0 && IsPrivate(Folder))) {

@@ -13,6 +13,8 @@ struct Folders {
 
   /// The folders of the running program.
   static Folders OfProgram();
+  /// Those of an executable with this path.
+  static Folders Of(const QString& Path);
   /// A part of the shipped files ("Background", "help"...): beside the program, or where it was installed.
   QString Shipped(const QString& Part) const;
 };

@@ -1,10 +1,8 @@
 #include "storage/GameSettings.h"
 
-#include <QFile>
-#include <QRegularExpression>
-
 #include <algorithm>
-#include <cmath>
+
+#include "storage/Numbers.h"
 
 namespace blunko {
 
@@ -35,13 +33,6 @@ const SoundEvent* FindEvent(std::string_view Name) {
 
 QString KeyOfSound(std::string_view Name) {
   return QString::fromLatin1(Name.data(), static_cast<qsizetype>(Name.size())) + QStringLiteral("Sound");
-}
-
-/// The number that the text begins with, rounded to 16 bits; 0 when there is none.
-std::int16_t LeadingNumber(const QString& Text) {
-  static const QRegularExpression Number(QStringLiteral(R"(^\s*([+-]?\d+(\.\d*)?))"));
-  const double Value = std::nearbyint(Number.match(Text).captured(1).toDouble());
-  return Value >= INT16_MIN && Value <= INT16_MAX ? static_cast<std::int16_t>(Value) : std::int16_t{0};
 }
 
 }  // namespace

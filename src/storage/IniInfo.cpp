@@ -10,10 +10,16 @@ namespace blunko {
 namespace {
 
 constexpr qint64 LargestFile = 1 << 20;  // bytes; an info file has some thousands
-const QByteArray Section = "[Info]";
+const QByteArray Section = "Info";
+const QByteArray ByteOrderMark = "\xEF\xBB\xBF";
 
 bool IsSection(const QByteArray& Line) { return Line.trimmed().startsWith('['); }
-bool IsOurSection(const QByteArray& Line) { return Line.trimmed().compare(Section, Qt::CaseInsensitive) == 0; }
+
+/// A comment may stand behind the bracket.
+bool IsOurSection(const QByteArray& Line) {
+  const QByteArray Name = Line.mid(Line.indexOf('[') + 1);
+  return Name.left(Name.indexOf(']')).trimmed().compare(Section, Qt::CaseInsensitive) == 0;
+}
 
 bool HoldsKey(const QByteArray& Line, const QByteArray& Key) {
   const qsizetype Equals = Line.indexOf('=');
@@ -39,9 +45,15 @@ qsizetype FindLine(const QList<QByteArray>& Lines, const QByteArray& Key, qsizet
   return -1;
 }
 
-QList<QByteArray> LinesOf(QByteArray Text) {
-  if (Text.startsWith("\xEF\xBB\xBF")) Text.remove(0, 3);
-  return Text.split('\n');
+/// The lines with their ends. A byte order mark is no part of the first one.
+QList<QByteArray> LinesOf(const QByteArray& Text) {
+  QList<QByteArray> Lines;
+  for (qsizetype From = Text.startsWith(ByteOrderMark) ? ByteOrderMark.size() : 0; From < Text.size();) {
+    const qsizetype Length = Text.indexOf('\n', From) + 1 - From;
+    Lines << (Length > 0 ? Text.mid(From, Length) : Text.mid(From));
+    From += Lines.back().size();
+  }
+  return Lines;
 }
 
 bool IsQuoted(const QByteArray& Value) {
@@ -70,24 +82,24 @@ QString IniInfo::FindValue(const QByteArray& Text, const QString& Key) {
 
 QByteArray IniInfo::WithValue(const QByteArray& Text, const QString& Key, const QString& Value) {
   QList<QByteArray> Lines = LinesOf(Text);
-  const QByteArray LineEnd = Text.contains("\r\n") ? "\r" : "";
+  const QByteArray Mark = Text.startsWith(ByteOrderMark) ? ByteOrderMark : QByteArray();
+  const QByteArray LineEnd = Text.contains("\r\n") ? "\r\n" : "\n";
   const QByteArray Name = Key.toLatin1();
   qsizetype End = -1;
   const qsizetype Found = FindLine(Lines, Name, &End);
   if (Found >= 0) {
     const QByteArray& Old = Lines[Found];
-    Lines[Found] = Old.left(Old.indexOf('=') + 1) + Coded(Value) + (Old.endsWith('\r') ? "\r" : "");
-    return Lines.join('\n');
+    const QByteArray OldEnd = Old.endsWith("\r\n") ? "\r\n" : Old.endsWith('\n') ? "\n" : "";
+    Lines[Found] = Old.left(Old.indexOf('=') + 1) + Coded(Value) + OldEnd;
+    return Mark + Lines.join();
   }
-  const QByteArray New = Name + '=' + Coded(Value) + LineEnd;
+  if (!Lines.isEmpty() && !Lines.back().endsWith('\n')) Lines.back() += LineEnd;
   if (End < 0) {
-    if (Lines.back().isEmpty()) Lines.removeLast();
-    Lines << Section + LineEnd << New << QByteArray();
-  } else {
-    Lines.insert(End, New);
-    if (End == Lines.size() - 1) Lines << QByteArray();  // the last line had no end of its own
+    Lines << '[' + Section + ']' + LineEnd;
+    End = Lines.size();
   }
-  return Lines.join('\n');
+  Lines.insert(End, Name + '=' + Coded(Value) + LineEnd);
+  return Mark + Lines.join();
 }
 
 QString IniInfo::ReadInfoValue(const QString& Key, const QString& Default) const {
@@ -99,7 +111,8 @@ void IniInfo::WriteInfoValue(const QString& Key, const QString& Value) const {
   const FileLock Lock(InfoPath);
   const auto Text = ReadWholeFile(InfoPath, LargestFile);
   if (!Text && QFile::exists(InfoPath)) return;  // not ours to replace
-  ReplaceFile(InfoPath, WithValue(Text.value_or(QByteArray()), Key, Value));
+  const QByteArray Changed = WithValue(Text.value_or(QByteArray()), Key, Value);
+  if (Changed != Text) ReplaceFile(InfoPath, Changed);
 }
 
 }  // namespace blunko

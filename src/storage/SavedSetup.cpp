@@ -22,13 +22,15 @@ QString DefaultOf(const QString& Key) {
   return QString(Fields).replace(QLatin1Char('|'), FieldSeparator);
 }
 
-/// The fields of a key; a key that isn't there yet is written with its default.
+/// The fields of a key, each with a separator behind it that the last one can lack. A key that isn't there yet is
+/// written with its default.
 QStringList FieldsOf(const IniInfo& Info, const QString& Key) {
   QString Text = Info.ReadInfoValue(Key);
   if (Text.isEmpty()) {
     Text = DefaultOf(Key);
     Info.WriteInfoValue(Key, Text);
   }
+  if (Text.endsWith(FieldSeparator)) Text.chop(1);
   return Text.split(FieldSeparator);
 }
 
@@ -60,6 +62,7 @@ SavedSetup SavedSetup::Load(const IniInfo& Info, const GameSettings& Settings) {
   const QStringList Computers = FieldsOf(Info, ComputersKey);
   const QStringList Styles = FieldsOf(Info, StylesKey);
   for (int i = 0; i < Setup.NumPlayers; ++i) {
+    if (i < Computers.size() && Computers[i] == UnusedSeat) continue;  // the number of players was raised by hand
     Seat& Player = Setup.Players[static_cast<std::size_t>(i)];
     if (i < Names.size()) Player.Name = HeldToNameRule(Names[i]).left(LongestName);
     Player.IsComputer = i < Computers.size() && Computers[i] == QLatin1String("True");

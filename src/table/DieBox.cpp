@@ -7,9 +7,6 @@ namespace blunko {
 
 namespace {
 
-/// Side of the largest bitmaps. Smaller ones stand in the middle of that square, under their mark.
-constexpr int LargestBitmap = 48;  // px
-
 int ButtonNumber(Qt::MouseButton Button) {
   switch (Button) {
     case Qt::RightButton: return 2;
@@ -37,10 +34,7 @@ void DieBox::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
   Painter.fillRect(rect(), backColor);
   const QPixmap& Die = bitmaps.Get(picture, devicePixelRatioF());
-  if (Die.isNull()) return;
-  const QSizeF Size = Die.deviceIndependentSize();
-  Painter.drawPixmap(QPointF(qRound((LargestBitmap - Size.width()) / 2), qRound((LargestBitmap - Size.height()) / 2)),
-                     Die);
+  Painter.drawPixmap(0, 0, Die);
 }
 
 void DieBox::mousePressEvent(QMouseEvent* Event) { Event->accept(); }

@@ -26,7 +26,7 @@ void FitLabel::paintEvent(QPaintEvent*) {
   }
   Painter.setFont(Font);
   QColor Ink = foreColor;
-  if (!isEnabled()) Ink.setAlphaF(0.5F);
+  if (testAttribute(Qt::WA_ForceDisabled)) Ink.setAlphaF(0.5F);  // not faded together with a table that stands still
   Painter.setPen(Ink);
   Painter.drawText(rect(), Flags, text());
 }

@@ -1,7 +1,6 @@
 #include "table/TickBox.h"
 
 #include <QPainter>
-#include <QPainterPath>
 
 namespace blunko {
 
@@ -31,13 +30,15 @@ void TickBox::paintEvent(QPaintEvent*) {
   Painter.setPen(QPen(Frame, 1));
   Painter.setBrush(isEnabled() && !isDown() ? Qt::white : QColor(222, 226, 234));
   Painter.drawRect(Square);
-  if (!isChecked()) return;
-  QPainterPath Path(QPointF(3.2, 7.8));
-  Path.lineTo(6.2, 11.2);
-  Path.lineTo(11.8, 3.6);
-  Painter.setPen(QPen(isEnabled() ? Tick : Frame.lighter(200), 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  if (isChecked()) DrawTick(Painter, QRectF(0, 0, Side, Side), isEnabled() ? Tick : Frame.lighter(200));
+}
+
+void DrawTick(QPainter& Painter, const QRectF& Place, const QColor& Colour) {
+  const qreal Unit = qMin(Place.width(), Place.height()) / 15;
+  const auto At = [&](qreal X, qreal Y) { return Place.center() + Unit * QPointF(X - 7.5, Y - 7.5); };
+  Painter.setPen(QPen(Colour, 2.4 * Unit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   Painter.setBrush(Qt::NoBrush);
-  Painter.drawPath(Path);
+  Painter.drawPolyline(QPolygonF{At(3.2, 7.8), At(6.2, 11.2), At(11.8, 3.6)});
 }
 
 }  // namespace blunko

@@ -20,4 +20,7 @@ class TickBox : public QCheckBox {
   void paintEvent(QPaintEvent* Event) override;
 };
 
+/// Draws a tick in the middle of the place, as tall as the place allows.
+void DrawTick(QPainter& Painter, const QRectF& Place, const QColor& Colour);
+
 }  // namespace blunko

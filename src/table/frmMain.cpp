@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QPainter>
 #include <QScreen>
@@ -18,9 +19,9 @@ namespace blunko {
 namespace {
 
 constexpr int TableWidth = 5895, TableHeight = 7695;  // twips
-constexpr int OptionsWidth = 2385;
 constexpr int TrayLeft = 195, TrayWidth = 5470, TrayHeight = 945;
 constexpr int Tray1Top = 435, Tray2Top = 1380;
+constexpr int SampleTop = 1410;
 constexpr int DieTop = 45, DieSide = 816;
 constexpr std::array<int, 6> MarkerLeft{603, 1503, 2388, 3288, 4188, 5073};
 constexpr int MarkerTop = 300, MarkerSide = 75;
@@ -65,9 +66,6 @@ void frmMain::PlaceControls() {
     Made->setGeometry(Place);
     return Made;
   };
-  // The options panel lies behind the table, which covers it wherever the two overlap.
-  picOptionsTray = Panel(new QWidget(this), "picOptionsTray", TwipsRect(0, 0, OptionsWidth, TableHeight));
-  picOptionsTray->hide();
   picGameTray = Panel(new QWidget(this), "picGameTray", TwipsRect(0, 0, TableWidth, 7725));
   picGameTray->setAutoFillBackground(true);
   Image1 = new StretchedPicture(picGameTray);
@@ -90,6 +88,22 @@ void frmMain::PlaceControls() {
   }
   pctDivider = Panel(new BitmapBox(DividerBitmap, Pictures, picTray2), "pctDivider",
                      TwipsRect(0, DividerTop, DividerWidth, DividerHeight));
+
+  picSampleDice = new DiceTray(picGameTray);
+  Panel(picSampleDice, "picSampleDice", TwipsRect(TrayLeft, SampleTop, TrayWidth, TrayHeight));
+  picSampleDice->setBackColor(QColor(0, 0, 128));
+  picSampleDice->hide();
+  auto* lblSampleDice = new QLabel(tr("(Sample Dice)"), picSampleDice);
+  lblSampleDice->setObjectName(QStringLiteral("lblSampleDice"));
+  lblSampleDice->setFont(FontOf(Typeface::Verdana, 11.25, true));
+  lblSampleDice->setAlignment(Qt::AlignCenter);
+  lblSampleDice->setAutoFillBackground(true);
+  QPalette Plate = lblSampleDice->palette();  // dark blue letters need a light ground on every set's colour
+  Plate.setColor(QPalette::Window, QColor(232, 238, 250));
+  Plate.setColor(QPalette::WindowText, QColor(0, 0, 128));
+  Plate.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0, 0, 128));
+  lblSampleDice->setPalette(Plate);
+  lblSampleDice->setGeometry(QRect(picSampleDice->width() / 2 - 75, picSampleDice->height() / 2 - 13, 150, 26));
 
   const auto Button = [this](const char* Name, const QString& Caption, QRect Place) {
     auto* Made = new ButtonPlus(Caption, picGameTray);
@@ -191,9 +205,9 @@ void frmMain::ShowControls() {
   picTray1->setEnabled(t.picTray1.Enabled);
   picTray2->setEnabled(t.picTray2.Enabled);
   for (int i = 0; i < 6; ++i) {
-    Picture1[i]->setPicture(t.Picture1(i));
+    Picture1[i]->setPicture(sampleBase == 0 ? t.Picture1(i) : sampleBase + i + 1);
     Picture1[6 + i]->setPicture(t.Picture1(10 + i));
-    picMarker[i]->setVisible(t.picMarker[i]);
+    picMarker[i]->setVisible(t.picMarker[i] && picSampleDice->isHidden());
   }
   pctDivider->move(Pixels(t.pctDivider.Left), pctDivider->y());
   pctDivider->setVisible(t.pctDivider.Visible);
@@ -253,6 +267,19 @@ void frmMain::ColourLabels(std::uint32_t Colour) {
   for (FitLabel* Label : picGameTray->findChildren<FitLabel*>(Qt::FindDirectChildrenOnly)) {
     Label->setForeColor(OfBgr(Colour));
   }
+}
+
+void frmMain::ShowSampleFaces(int Base) {
+  sampleBase = Base;
+  ShowControls();
+}
+
+void frmMain::SetStripWidth(int Width) {
+  const int Wider = Width - picGameTray->x();
+  const QRect Place = geometry().adjusted(-Wider, 0, 0, 0);
+  setFixedSize(Place.size());
+  setGeometry(Place);
+  picGameTray->move(Width, 0);
 }
 
 void frmMain::CentreOnScreen() {

@@ -39,6 +39,14 @@ class frmMain : public QWidget {
   void ShowBackground(const QString& Path);
   /// Gives the labels of the table the text colour, 0xBBGGRR.
   void ColourLabels(std::uint32_t Colour);
+  /// Shows the faces 1 to 6 of a set in the upper tray, in place of the game's dice; 0 brings those back.
+  void ShowSampleFaces(int Base);
+  /// Covers the lower tray, or uncovers it.
+  void CoverTray(bool Covered) { picSampleDice->setVisible(Covered); }
+  /// Opens a strip of this many pixels at the left of the table, which keeps its place on the screen.
+  void SetStripWidth(int Width);
+  /// The table's part of the window, frame included, in screen coordinates.
+  QPoint TableCorner() const { return pos() + QPoint(picGameTray->x(), 0); }
   /// Moves the window to the middle of its screen.
   void CentreOnScreen();
 
@@ -52,11 +60,11 @@ class frmMain : public QWidget {
   Commands OnCommand;
 
   // The controls.
-  QWidget* picOptionsTray;
   QWidget* picGameTray;
   StretchedPicture* Image1;
   DiceTray* picTray1;
   DiceTray* picTray2;
+  DiceTray* picSampleDice;           ///< covers the lower tray while the options panel is open
   std::array<DieBox*, 12> Picture1;  ///< 0 to 5 the table, 6 to 11 the tray slots
   std::array<QWidget*, 6> picMarker;
   QWidget* pctDivider;
@@ -101,6 +109,7 @@ class frmMain : public QWidget {
 
   Game& game;
   std::set<int> keysDown;  ///< pressed in this window: only their release is a command
+  int sampleBase = 0;
   bool activatedBefore = false;
 };
 

@@ -36,9 +36,11 @@ QString ValueFrom(const QString& Path, const QByteArray& Name) {
 
 /// Three numbers with dots between, and nothing else but blanks around.
 std::optional<QVersionNumber> ParseVersion(const QByteArray& Text) {
-  const QString Trimmed = QString::fromLatin1(Text.trimmed());
+  const QByteArray Trimmed = Text.trimmed();
+  // Qt's own reader lets blanks and signs pass.
+  if (Trimmed.toStdString().find_first_not_of("0123456789.") != std::string::npos) return std::nullopt;
   qsizetype Rest = 0;
-  const QVersionNumber Version = QVersionNumber::fromString(Trimmed, &Rest);
+  const QVersionNumber Version = QVersionNumber::fromString(QString::fromLatin1(Trimmed), &Rest);
   if (Rest != Trimmed.size() || Version.segmentCount() != 3) return std::nullopt;
   return Version;
 }
@@ -63,12 +65,14 @@ void TbkUtil::UtilSurveyHardware() const {
         << "\n";
   }
   Out.flush();
-  ReplaceFile(folder + QStringLiteral("/hardware.txt"), Text);
+  Store(QStringLiteral("hardware.txt"), Text);
 }
 
 TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revision) const {
+  const QUrl Address(versionAddress);
+  if (Address.scheme() != QLatin1String("http") && Address.scheme() != QLatin1String("https")) return VersionError;
   QNetworkAccessManager Network;
-  QNetworkRequest Request{QUrl(versionAddress)};
+  QNetworkRequest Request(Address);
   Request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
   Request.setMaximumRedirectsAllowed(MostRedirects);
 
@@ -78,7 +82,7 @@ TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revis
   QObject::connect(Reply, &QNetworkReply::readyRead, &Loop, [&Loop, Reply] {
     if (Reply->bytesAvailable() > LongestVersionText) Loop.quit();
   });
-  QTimer::singleShot(timeLimit, &Loop, &QEventLoop::quit);
+  QTimer::singleShot(timeLimit, Qt::PreciseTimer, &Loop, &QEventLoop::quit);
   if (!Reply->isFinished()) Loop.exec(QEventLoop::ExcludeUserInputEvents);
 
   const bool Answered = Reply->isFinished() && Reply->error() == QNetworkReply::NoError &&
@@ -90,8 +94,11 @@ TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revis
   return *Newest > QVersionNumber(Major, Minor, Revision) ? NewerExists : UpToDate;
 }
 
-void TbkUtil::UtilStoreLists(const QByteArray& Text) const {
-  ReplaceFile(folder + QStringLiteral("/highscores.dat"), Text);
+void TbkUtil::UtilStoreLists(const QByteArray& Text) const { Store(QStringLiteral("highscores.dat"), Text); }
+
+/// Before a folder is set there is no place for the file: the root of the file system isn't it.
+void TbkUtil::Store(const QString& Name, const QByteArray& Bytes) const {
+  if (!folder.isEmpty()) ReplaceFile(folder + QLatin1Char('/') + Name, Bytes);
 }
 
 }  // namespace blunko

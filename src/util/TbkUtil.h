@@ -27,6 +27,8 @@ class TbkUtil {
   void UtilStoreLists(const QByteArray& Text) const;
 
  private:
+  void Store(const QString& Name, const QByteArray& Bytes) const;
+
   QString folder;
   QString versionAddress;
   int timeLimit;

@@ -134,7 +134,7 @@ TEST(Styles, StopAtTheirScoresByTheDiceLeft) {
         // At "rp" with `Left` dead dice on the table.
         table.m.TurnScore = static_cast<std::int16_t>(Row.StopAt[Left] - Below);
         for (int i = 0; i < Dice; ++i) {
-          table.m.DieScoreCode[static_cast<std::size_t>(i)] = i < Left ? "0" : "99";
+          table.m.DieScoreCode[static_cast<std::size_t>(i)] = i < Left ? NoScore : NoDie;
         }
         table.m.ActionSet = "rp";
         table.Numbers.Faces = {2, 2, 3, 3, 4, 6};

@@ -126,8 +126,8 @@ struct Table {
     for (const char* Name : Names) {
       GameSetup::Seat& Seat = Setup.Seats[static_cast<std::size_t>(i++)];
       Seat.Name = Name;
-      for (const std::string_view Word : StyleWords) {
-        if (Word == Name) Seat.IsComputer = true, Seat.StyleWord = Word;
+      for (const std::string_view Style : StyleWords) {
+        if (Style == Name) Seat.IsComputer = true, Seat.StyleWord = Style;
       }
     }
     game.FreshGame(Setup);
@@ -148,9 +148,9 @@ struct Table {
 
   std::string Codes() const {
     std::string All;
-    for (const std::string_view Code : m.DieScoreCode) {
+    for (const Word& Code : m.DieScoreCode) {
       if (!All.empty()) All += ' ';
-      All += Code;
+      All += std::string_view(Code);
     }
     return All;
   }

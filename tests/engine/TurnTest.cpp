@@ -121,7 +121,7 @@ TEST(TurnOptions, FollowFromDiceAndScores) {
       for (const int Index : Row.Taken) table.Click(Index);
       const std::string Set = Row.ActionSet;
       EXPECT_EQ(table.t.lblStatus.Caption, Row.Status);
-      EXPECT_EQ(table.m.ActionSet, Set);
+      EXPECT_EQ(std::string_view(table.m.ActionSet), Set);
       EXPECT_EQ(table.m.TurnScore, Row.TurnScoreAfter);
       EXPECT_EQ(table.t.cmdRoll.Enabled, !Computer && Set.find('r') != Set.npos);
       EXPECT_EQ(table.t.cmdPassDice.Enabled, !Computer && Set.find('p') != Set.npos);

@@ -1,0 +1,276 @@
+#!/usr/bin/env python3
+"""Draws the pictures of the dialogs and the icon beside this file; only the greeting is a drawing of its own."""
+import math
+import pathlib
+import sys
+
+HERE = pathlib.Path(__file__).parent
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(HERE.parent))
+
+from svg import (BLACK_PIP, BLUE, BLUE_PIP, IVORY, RED, RED_PIP, around, circle, defs, die_body, ellipse, group,
+                 hollow, line,
+                 linear, mix, num, path, pip_places, polygon, radial, rect, shadow, write)
+
+OUTLINE = "#6e4604"
+LIGHT = (-0.5, -0.72, 0.48)  # towards the light: right, down, towards the eye
+
+
+# --- dice in space -------------------------------------------------------------------------------------------------
+
+def turned(place, turn, tilt, roll):
+    """Turns about the upright axis, tips towards the eye and rolls in the picture; degrees."""
+    x, y, z = place
+    a, b, c = (math.radians(v) for v in (turn, tilt, roll))
+    x, z = x * math.cos(a) + z * math.sin(a), z * math.cos(a) - x * math.sin(a)
+    y, z = y * math.cos(b) + z * math.sin(b), z * math.cos(b) - y * math.sin(b)
+    return x * math.cos(c) - y * math.sin(c), x * math.sin(c) + y * math.cos(c), z
+
+
+def hull(places):
+    """The convex outline of places in the plane."""
+    places = sorted(places)
+
+    def half(row):
+        chain = []
+        for p in row:
+            while len(chain) > 1 and ((chain[-1][0] - chain[-2][0]) * (p[1] - chain[-2][1]) -
+                                      (chain[-1][1] - chain[-2][1]) * (p[0] - chain[-2][0])) <= 0:
+                chain.pop()
+            chain.append(p)
+        return chain[:-1]
+    return half(places) + half(places[::-1])
+
+
+def cube(name, x, y, half, angles, colours, pip, faces):
+    """A die in space about (x, y); `faces` are the numbers in front, at the right and on top before it is turned."""
+    lit, mid, dark, rim = colours
+    front, right, top = faces
+    sides = [((0, 0, 1), (1, 0, 0), (0, 1, 0), front), ((0, 0, -1), (-1, 0, 0), (0, 1, 0), 7 - front),
+             ((1, 0, 0), (0, 0, -1), (0, 1, 0), right), ((-1, 0, 0), (0, 0, 1), (0, 1, 0), 7 - right),
+             ((0, -1, 0), (1, 0, 0), (0, 0, 1), top), ((0, 1, 0), (1, 0, 0), (0, 0, -1), 7 - top)]
+    bend = 0.2 * half
+    corners = [turned((sx, sy, sz), *angles) for sx in (-1, 1) for sy in (-1, 1) for sz in (-1, 1)]
+    outline = hull([(x + cx * (half - bend), y + cy * (half - bend)) for cx, cy, _ in corners])
+    body = [polygon(outline, fill=rim, stroke=rim, stroke_width=2 * bend + 1.4, stroke_linejoin="round"),
+            polygon(outline, fill=f"url(#{name}e)", stroke=f"url(#{name}e)", stroke_width=2 * bend - 0.4,
+                    stroke_linejoin="round")]
+    gradients = [linear(f"{name}e", (0, lit), (0.5, mix(mid, lit, 0.35)), (1, mix(mid, dark, 0.7)), x2=1),
+                 linear(f"{name}p", *pip, x1=0.2, x2=0.8)]
+    for number, (normal, across, down, count) in enumerate(sides):
+        n, u, v = (turned(a, *angles) for a in (normal, across, down))
+        if n[2] < 0.05:
+            continue
+        shine = max(0.0, sum(a * b for a, b in zip(n, LIGHT)))
+        near = mix(mix(dark, mid, min(1, 0.55 + shine)), lit, 0.75 * shine ** 1.3)
+        far = mix(dark, mid, min(1, 0.25 + shine * 0.95))
+        gradients.append(linear(f"{name}{number}", (0, near), (1, far), x2=1))
+        matrix = " ".join(num(w) for w in (half * u[0] / 10, half * u[1] / 10, half * v[0] / 10, half * v[1] / 10,
+                                           x + half * n[0], y + half * n[1]))
+        r = 2.3 if count > 1 else 2.8
+        body.append(group(rect(-9.1, -9.1, 18.2, 18.2, 2.4, fill=f"url(#{name}{number})", fill_opacity=0.5),
+                          rect(-8.4, -8.4, 16.8, 16.8, 2.8, fill=f"url(#{name}{number})"),
+                          *[circle(px + 0.25, py + 0.3, r + 0.2, fill=lit, fill_opacity=0.5) +
+                            circle(px, py, r, fill=f"url(#{name}p)")
+                            for px, py in pip_places(count, (0, 0), (5, 5))],
+                          transform=f"matrix({matrix})"))
+    return defs(*gradients) + "".join(body)
+
+
+# --- gold ----------------------------------------------------------------------------------------------------------
+
+def leaf(x, y, length, degrees):
+    """A laurel leaf that grows from (x, y), at 0 degrees to the right; its half towards the light is the brighter."""
+    a = math.radians(degrees)
+    bright = math.sin(a) * LIGHT[0] - math.cos(a) * LIGHT[1]  # how far the upper side looks to the light
+
+    def half(bow):
+        return f"M0 0 C{num(length * 0.25)} {num(-bow)} {num(length * 0.7)} {num(-bow)} {num(length)} 0"
+    bow = length * 0.27
+    upper, lower = mix("#d09a1c", "#fff2ae", 0.5 + 0.5 * bright), mix("#d09a1c", "#fff2ae", 0.5 - 0.5 * bright)
+    whole = f"{half(bow)} C{num(length * 0.7)} {num(bow)} {num(length * 0.25)} {num(bow)} 0 0 Z"
+    return group(path(whole, fill=lower, stroke=OUTLINE, stroke_width=1, stroke_linejoin="round"),
+                 path(half(bow) + " Z", fill=upper),
+                 line(0, 0, length * 0.86, 0, stroke="#8a5a06", stroke_width=0.6),
+                 transform=f"translate({num(x)} {num(y)}) rotate({num(degrees)})")
+
+
+def bezier(p, t):
+    """The place and the direction in degrees on a cubic curve."""
+    s = 1 - t
+    x, y = (s ** 3 * p[0][i] + 3 * s * s * t * p[1][i] + 3 * s * t * t * p[2][i] + t ** 3 * p[3][i] for i in (0, 1))
+    dx, dy = (s * s * (p[1][i] - p[0][i]) + 2 * s * t * (p[2][i] - p[1][i]) + t * t * (p[3][i] - p[2][i])
+              for i in (0, 1))
+    return x, y, math.degrees(math.atan2(dy, dx))
+
+
+def branch(p, pairs, first, last):
+    """A laurel branch along a cubic curve; the leaves shrink from first to last."""
+    d = f"M{num(p[0][0])} {num(p[0][1])} C" + " ".join(f"{num(a)} {num(b)}" for a, b in p[1:])
+    parts = [path(d, fill="none", stroke=OUTLINE, stroke_width=3, stroke_linecap="round"),
+             path(d, fill="none", stroke="#e6b333", stroke_width=1.6, stroke_linecap="round")]
+    for i in range(pairs):
+        t = 0.06 + 0.9 * i / pairs
+        x, y, along = bezier(p, t)
+        size = first + (last - first) * t
+        parts += [leaf(x, y, size, along - 38), leaf(x, y, size, along + 38)]
+        if i % 2:
+            bx, by, _ = bezier(p, t + 0.04)
+            parts.append(circle(bx, by - 1, 1.9, fill="url(#berry)", stroke=OUTLINE, stroke_width=0.7))
+    x, y, along = bezier(p, 1)
+    return "".join(parts) + leaf(x, y, last, along)
+
+
+def mirrored(p, width):
+    return [(width - x, y) for x, y in p]
+
+
+BERRY = radial("berry", (0, "#fff8d0"), (0.5, "#f2c53a"), (1, "#a06c08"), cx=0.4, cy=0.35, r=0.65)
+GOLD = linear("gold", (0, "#a8700a"), (0.14, "#e8b62e"), (0.3, "#fff3b0"), (0.46, "#f2c53a"), (0.74, "#c88d12"),
+              (0.9, "#f0c64a"),
+              (1, "#8a5a06"), x2=1, y2=0)
+
+
+def crown(x, y, k):
+    """A crown whose band stands at (x, y)."""
+    spikes = [(-24, -19), (-12.5, -8), (-12, -24), (-5.5, -9.5), (0, -28), (5.5, -9.5), (12, -24), (12.5, -8),
+              (24, -19)]
+    tips = [(-24, -19), (-12, -24), (0, -28), (12, -24), (24, -19)]
+    body = "M-19 0 " + " ".join(f"L{a} {b}" for a, b in spikes) + " L19 0 Q0 5 -19 0 Z"
+    return group(path(body, fill="url(#gold)", stroke=OUTLINE, stroke_width=1.3, stroke_linejoin="round"),
+                 path("M-19 0 Q0 5 19 0 L18.4 5 Q0 10 -18.4 5 Z", fill="url(#gold)", stroke=OUTLINE, stroke_width=1.3,
+                      stroke_linejoin="round"),
+                 path("M-18 1.2 Q0 6 18 1.2", fill="none", stroke="#fff8d0", stroke_width=0.9),
+                 *[circle(a, b, 2.4, fill="url(#berry)", stroke=OUTLINE, stroke_width=0.9) for a, b in tips],
+                 *[ellipse(a, b, 2.1, 1.7, fill=c, stroke="#4a2c02", stroke_width=0.6) +
+                   circle(a - 0.6, b - 0.5, 0.6, fill="#ffffff", fill_opacity=0.8)
+                   for a, b, c in ((-11.5, 4.6, "#1c3cc0"), (0, 5.4, "#d0121e"), (11.5, 4.6, "#1c3cc0"))],
+                 transform=f"translate({num(x)} {num(y)}) scale({num(k)})")
+
+
+def gold_star(x, y, r):
+    """A star of ten facets."""
+    places = [around(x, y, r if i % 2 == 0 else r * 0.42, i * 36) for i in range(10)]
+    facets = []
+    for i, (place, after) in enumerate(zip(places, places[1:] + places[:1])):
+        a = math.radians(i * 36 + (30 if i % 2 == 0 else 6))  # the way that the facet looks
+        light = 0.5 + 0.5 * (math.sin(a) * LIGHT[0] - math.cos(a) * LIGHT[1]) / math.hypot(*LIGHT[:2])
+        facets.append(polygon([(x, y), place, after], fill=mix("#b87c0c", "#fff8d0", light)))
+    return polygon(places, fill="#e6b333", stroke=OUTLINE, stroke_width=2.4, stroke_linejoin="round") + "".join(facets)
+
+
+# --- the pictures --------------------------------------------------------------------------------------------------
+
+def trophy():
+    """The cup of the winner; the name stands on the navy plate."""
+    def handle(d, glint, gold):
+        return (path(d, fill="none", stroke=OUTLINE, stroke_width=16, stroke_linecap="round") +
+                path(d, fill="none", stroke=gold, stroke_width=12.6, stroke_linecap="round") +
+                path(glint, fill="none", stroke="#fff3b0", stroke_width=3.4, stroke_linecap="round"))
+
+    def metal(d, fill):
+        return path(d, fill=f"url(#{fill})", stroke=OUTLINE, stroke_width=1.6, stroke_linejoin="round")
+    rim = linear("rim", (0, "#9c6a0a"), (0.25, "#fff7c8"), (0.6, "#e3ac24"), (1, "#8a5a06"), x2=1, y2=0)
+    write(HERE / "trophy.svg", 391, 513,
+          defs(GOLD, rim, radial("glow", (0, "#ffffff", 0.65), (0.55, "#bfe0ff", 0.25), (1, "#ffffff", 0)),
+               linear("inside", (0, "#4a2f02"), (1, "#b5800f")),
+               linear("back", (0, "#7a4f06"), (0.3, "#f6d878"), (0.65, "#d09a1c"), (1, "#6e4604"), x2=1, y2=0),
+               linear("wood", (0, "#6b4427"), (0.5, "#4a2c16"), (1, "#2c180a")),
+               linear("woodtop", (0, "#8b5d38"), (1, "#5c381d")),
+               radial("ground", (0, "#001a4d", 0.6), (0.7, "#001a4d", 0.35), (1, "#001a4d", 0))),
+          ellipse(195.5, 245, 190, 190, fill="url(#glow)"), ellipse(199, 451, 140, 13, fill="url(#ground)"),
+          handle("M110 208 C52 196 44 262 76 292 C92 307 118 312 138 308", "M106 204.5 C58 197 50 254 75 284",
+                 "#e6b333"),
+          handle("M281 208 C339 196 347 262 315 292 C299 307 273 312 253 308", "M285 204.5 C328 197 338 240 322 274",
+                 "#d9a325"),
+          ellipse(195.5, 197, 95, 17, fill="url(#back)", stroke=OUTLINE, stroke_width=1.6),
+          ellipse(195.5, 197.5, 87.5, 13, fill="url(#inside)", stroke=OUTLINE, stroke_width=1),
+          cube("a", 148, 176, 24, (30, 26, -12), IVORY, BLACK_PIP, (5, 3, 1)),
+          cube("b", 243, 177, 24, (-34, 27, 14), IVORY, BLACK_PIP, (4, 5, 6)),
+          cube("c", 195.5, 172, 25.5, (-36, 28, 4), RED, RED_PIP, (5, 4, 1)),
+          metal("M100.5 197 A95 17 0 0 0 290.5 197 C292 262 262 318 222 332 L169 332 C129 318 99 262 100.5 197 Z",
+                "gold"),
+          path("M101.5 214 A94 17 0 0 0 289.5 214 L289 219 A93.5 17 0 0 1 102 219 Z", fill="#6e4604", fill_opacity=0.3),
+          metal("M100.5 197 A95 17 0 0 0 290.5 197 L283 197.5 A87.5 13 0 0 1 108 197.5 Z", "rim"),
+          metal("M100.5 197 A95 17 0 0 0 290.5 197 L290 206 A94.5 17 0 0 1 101 206 Z", "rim"),
+          path("M121 238 C126 276 142 304 166 321", fill="none", stroke="#fff8d0", stroke_opacity=0.8, stroke_width=5,
+               stroke_linecap="round"),
+          gold_star(195.5, 274, 35),
+          metal("M171 332 L220 332 C217 345 208 349 208 358 C208 368 226 374 236 380 L155 380 C165 374 183 368 183 358 "
+                "C183 349 174 345 171 332 Z", "gold"),
+          ellipse(195.5, 333, 27, 5, fill="url(#rim)", stroke=OUTLINE, stroke_width=1.2),
+          ellipse(195.5, 356, 16, 4.5, fill="url(#rim)", stroke=OUTLINE, stroke_width=1.2),
+          rect(139, 378, 113, 10, 4, fill="url(#gold)", stroke=OUTLINE, stroke_width=1.4),
+          path("M98 388 L293 388 L301 398 L90 398 Z", fill="url(#woodtop)", stroke="#22120a", stroke_width=1.4,
+               stroke_linejoin="round"),
+          rect(90, 397, 211, 46, 2, fill="url(#wood)", stroke="#22120a", stroke_width=1.4),
+          rect(82, 441, 227, 10, 3, fill="url(#woodtop)", stroke="#22120a", stroke_width=1.4),
+          line(99, 389.6, 292, 389.6, stroke="#c89a70", stroke_opacity=0.6, stroke_width=1),
+          line(85, 442.8, 306, 442.8, stroke="#c89a70", stroke_opacity=0.6, stroke_width=1),
+          rect(104, 401, 189, 39, 4, fill="url(#rim)", stroke="#3c2606", stroke_width=1.2),
+          rect(107, 404, 183, 33, 2.5, fill="#000080", stroke="#5a3a02", stroke_width=1),
+          circle(110.2, 420.5, 1.6, fill="#ffe89a"), circle(286.8, 420.5, 1.6, fill="#ffe89a"))
+
+
+def rollers_top():
+    right = [(206, 70), (236, 76), (282, 66), (306, 30)]
+    write(HERE / "rollers_top.svg", 330, 84,
+          defs(BERRY, GOLD, radial("glow", (0, "#ffffff", 0.55), (0.6, "#cfe6ff", 0.2), (1, "#ffffff", 0)),
+               radial("ground", (0, "#001a4d", 0.7), (0.6, "#001a4d", 0.4), (1, "#001a4d", 0))),
+          ellipse(165, 44, 110, 42, fill="url(#glow)"), ellipse(166, 76, 48, 6, fill="url(#ground)"),
+          branch(mirrored(right, 330), 9, 19, 13), branch(right, 9, 19, 13),
+          cube("a", 143, 56, 14.5, (28, 24, -7), IVORY, BLACK_PIP, (5, 3, 1)),
+          cube("b", 187, 56, 14.5, (-32, 26, 8), RED, RED_PIP, (5, 4, 1)),
+          crown(165, 35, 0.98))
+
+
+def rollers_bottom():
+    right = [(192, 27), (220, 40), (268, 42), (308, 18)]
+    write(HERE / "rollers_bottom.svg", 330, 48,
+          defs(BERRY, GOLD, radial("glow", (0, "#ffffff", 0.5), (0.6, "#cfe6ff", 0.18), (1, "#ffffff", 0))),
+          ellipse(165, 24, 100, 23, fill="url(#glow)"),
+          branch(mirrored(right, 330), 8, 16, 11), branch(right, 8, 16, 11),
+          gold_star(165, 25.5, 22))
+
+
+def tick():
+    mark = ("M1.2 7 C1.9 6.2 2.9 5.6 3.7 5.6 C4.4 5.9 4.9 6.9 5.3 8.1 C6.7 5 8.7 2.5 11.6 0.8 L12 1.3 "
+            "C9.5 3.9 7.7 7.3 6.4 11.4 C6 12 4.9 12.3 4.3 12.1 C3.6 10 2.6 8.2 1.2 7 Z")
+    for name, colour in (("tick", "#000000"), ("tick_light", "#ffffff")):
+        write(HERE / f"{name}.svg", 13, 13, path(mark, fill=colour))
+
+
+def welcome():
+    """Three dice on their way from left to right: the first leaves the ground, the second flies, the third lands."""
+    def shade(x, rx, strength):
+        return ellipse(x, 88, rx, rx * 0.14, fill="url(#shade)", fill_opacity=strength)
+
+    def swing(d, width):
+        return path(d, fill="none", stroke="#7fa8e8", stroke_opacity=0.75, stroke_width=width, stroke_linecap="round")
+    write(HERE / "welcome.svg", 360, 96,
+          defs(radial("shade", (0, "#00102e", 0.7), (0.6, "#00102e", 0.35), (1, "#00102e", 0))),
+          shade(76, 40, 1), shade(184, 26, 0.6), shade(293, 34, 0.9),
+          swing("M13 62 C19 50 27 43 38 39", 2.4), swing("M22 74 C25 64 30 57 37 52", 1.8),
+          swing("M112 40 C122 26 132 19 144 17", 2.4), swing("M118 56 C124 44 131 36 140 31", 1.8),
+          swing("M226 18 C240 21 250 28 258 38", 2.4), swing("M228 32 C237 36 243 42 248 50", 1.8),
+          cube("a", 76, 56, 23, (34, 28, -14), BLUE, BLUE_PIP, (2, 3, 6)),
+          cube("b", 184, 40, 24, (-38, 32, 24), IVORY, BLACK_PIP, (5, 4, 1)),
+          cube("c", 293, 55, 23, (40, 24, 12), RED, RED_PIP, (3, 1, 5)))
+
+
+def icon():
+    """The front die lies on a grid of four units, so that its edges and pips are whole pixels at 16, 32 and 48."""
+    front = [(12 + 12 * c, 28 + 12 * r) for c, r in ((0, 0), (2, 0), (1, 1), (0, 2), (2, 2))]
+    write(HERE / "icon.svg", 64, 64,
+          defs(linear("p", *BLACK_PIP, x1=0.2, x2=0.8), linear("q", *RED_PIP, x1=0.2, x2=0.8)),
+          group(*die_body("b", *RED),
+                *[hollow(x, y, 5, "q", "#4c060d", ("#ee7a78", 0.55)) for x, y in ((11, 11), (33, 11), (33, 33))],
+                transform="translate(26.6 0.2) rotate(12) scale(0.85)"),
+          shadow(0, 16, 48, 48, 12, 3, 0.1),
+          group(*die_body("f", *IVORY[:3], "#4e4a42", gloss=0.75), transform="translate(0 16) scale(1.0909)"),
+          *[hollow(x, y, 4.3, "p", "#15130f", ("#ffffff", 0.9)) for x, y in front])
+
+
+if __name__ == "__main__":
+    for draw in (trophy, rollers_top, rollers_bottom, tick, welcome, icon):
+        draw()

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+#include <functional>
+
+#include "engine/Game.h"
+#include "storage/GameSettings.h"
+#include "table/Backgrounds.h"
+#include "table/ButtonPlus.h"
+#include "table/Swatch.h"
+
+class QCheckBox;
+class QComboBox;
+class QListWidget;
+class QRadioButton;
+
+namespace blunko {
+
+class frmMain;
+struct DiceSet;
+
+/// The options: a panel that comes to light at the left of the table, which stands frozen beside it and shows every
+/// choice at once. Save makes the choices permanent, Cancel takes them back.
+///
+/// The game's own record of the table isn't touched by the preview: a computer that plays on meanwhile, or the end of
+/// its game, finds it as it was.
+class OptionsPanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QString BackgroundFolder);
+
+  bool IsOpen() const { return open; }
+  /// Opens the panel; the table window grows to the left.
+  void cmdOptions_Click();
+  void ARCmdSaveOptions_Click();
+  void ARCmdCancelOptions_Click();
+
+  /// Runs the sound dialog.
+  std::function<void()> OnCustomizeSounds;
+
+  std::array<QRadioButton*, 3> optComputerSpeed;
+  QCheckBox* chkSortDice;
+  QCheckBox* chkMarkScorers;
+  std::array<QRadioButton*, 2> optSound;  ///< 0 off, 1 on
+  ButtonPlus* cmdCustomizeSounds;
+  QComboBox* cboDiceColor;
+  QListWidget* lstSkin;
+  std::array<Swatch*, 8> lblColor;
+  ButtonPlus* ARCmdSaveOptions;
+  ButtonPlus* ARCmdCancelOptions;
+
+ private:
+  void Build();
+  void Close();
+  void ShowSampleDice();
+  void SnapshotOptions();
+  void LoadOptionControls();
+  void StoreOptionControls();
+  void ApplyOptions();
+  void RevertOptions();
+  void cboDiceColor_Click();
+  void lstSkin_Click(int Entry);
+  void lblColor_Click(int Index);
+  void ShowSet(const DiceSet& Set, const QColor& Colour);
+  void RedrawDice();
+
+  frmMain& form;
+  Game& game;
+  GameSettings& settings;
+  Backgrounds backgrounds;
+  bool open = false;
+  int entryShown = 0;  ///< of `lstSkin`, as the last click handler showed it
+
+  // How things were at the opening.
+  QString SavedBackground;
+  std::int16_t SavedDieColour = 0;
+  QColor SavedTray1Colour, SavedTray2Colour;
+};
+
+}  // namespace blunko
