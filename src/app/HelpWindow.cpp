@@ -247,16 +247,23 @@ void HelpWindow::Find(bool Backward) {
   lblFound->setText(tr("Not found"));
 }
 
-/// A dialog blocks every window but its own: so the help becomes one of its own, for as long as it is open.
 bool HelpWindow::event(QEvent* Event) {
-  if (Event->type() == QEvent::WindowBlocked) {
-    QWindow* Dialog = QGuiApplication::modalWindow();
-    for (const QWindow* Owner = Dialog; Owner != nullptr; Owner = Owner->transientParent()) {
-      if (Owner == windowHandle()) return true;  // a box of the help's own
-    }
-    windowHandle()->setTransientParent(Dialog);
-  }
+  if (Event->type() == QEvent::WindowBlocked) JoinDialog();
   return QWidget::event(Event);
+}
+
+/// A dialog blocks every window but its own: so the help becomes one of its own, for as long as it is open.
+void HelpWindow::JoinDialog() {
+  QWindow* Dialog = QGuiApplication::modalWindow();
+  for (const QWindow* Owner = Dialog; Owner != nullptr; Owner = Owner->transientParent()) {
+    if (Owner == windowHandle()) return;  // a box of the help's own
+  }
+  windowHandle()->setTransientParent(Dialog);
+  // Once it has gone, the dialog under it takes over.
+  if (Dialog != nullptr) {
+    connect(Dialog, &QWindow::visibleChanged, this, &HelpWindow::JoinDialog,
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
+  }
 }
 
 }  // namespace blunko

@@ -57,6 +57,7 @@ class HelpWindow : public QWidget {
   void Follow(const QUrl& Link);
   void MarkInContents(const QUrl& Source);
   void Find(bool Backward);
+  void JoinDialog();
 
   QString folder;
   QStringList pageTexts;  ///< what the search reads, in the order of `Pages`
