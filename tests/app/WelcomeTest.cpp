@@ -190,24 +190,24 @@ TEST(Welcome, HelpWorksUnderItOutlivesItAndGoesWithTheGame) {
 TEST(Welcome, MenuOpensHelpAndAboutInTheMiddleOfAComputerTurn) {
   Started Game("ShowWelcomeMessage=0\nComputerFast=2\n");
   Game.Program->ShowHelpTopic(QStringLiteral("Overview.htm"));
-  bool Blocked = false;
+  bool Answered = false;
   WhileModal Answers({[&](QWidget& Window) {
     EXPECT_EQ(Window.objectName(), QStringLiteral("frmAbout"));
-    // The close box of the table does nothing while the dialog is open; the help's own does.
-    QTest::qWait(10);
-    Game.Program->Form->windowHandle()->close();
-    Blocked = !Game.Program->State.Quitting;
-    Game.Help()->windowHandle()->close();
+    EXPECT_FALSE(Answered);
+    QTest::keyClick(Game.Help(), Qt::Key_Escape);
     EXPECT_FALSE(Game.Help()->isVisible());
-    Window.close();
+    EXPECT_TRUE(Window.isVisible());
+    QTest::keyClick(&Window, Qt::Key_Escape);
+    Answered = true;
   }});
   // The menu is chosen while the computer's turn delivers events.
   Game.Program->State.CurrentPlayer = 0;
   Game.Program->State.PlayerIsComputer[0] = true;
   QTimer::singleShot(0, Game.Program->Form.get(), [&] { Game.Program->Form->OnCommand.About(); });
-  for (int i = 0; i < 100 && !Blocked; ++i) Game.Program->Screen.PumpEvents();
+  for (int i = 0; i < 100 && !Answered; ++i) Game.Program->Screen.PumpEvents();
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "the turn waits until the dialog has closed";
-  EXPECT_TRUE(Blocked);
+  EXPECT_TRUE(Answered);
+  EXPECT_FALSE(Game.Program->State.Quitting) << "Escape was the dialog's";
   Game.Program->State.CurrentPlayer = Absent;
 }
 
