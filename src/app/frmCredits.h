@@ -35,7 +35,7 @@ class frmCredits : public QDialog {
   /// The credits as they scroll: blocks of lines with an empty line between them.
   static QString CreditsText();
 
-  /// Stops for good; the dialog closes once it is asked to.
+  /// Stops for good.
   void StopScrolling() { steps.stop(); }
   bool IsScrolling() const { return steps.isActive(); }
 
