@@ -10,8 +10,10 @@
 #include "app/OpenInShell.h"
 #include "app/frmAbout.h"
 #include "app/frmCongrats.h"
+#include "app/frmCustomizeSounds.h"
 #include "app/frmWelcome.h"
 #include "table/DiceSets.h"
+#include "table/SoundFiles.h"
 #include "table/Twips.h"
 
 namespace blunko {
@@ -52,6 +54,13 @@ bool Application::Main() {
   Uniform = UniformGenerator(static_cast<std::uint64_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000));
   State.PauseComputer = false;
   State.TempFolder = folders.Temp.toStdString();
+  // What can't be written stays silent.
+  for (int Id = FirstSound; Id <= LastSound; ++Id) {
+    ExtractResource(Id, QStringLiteral("CUSTOM"), folders.Temp + FileOfSound(Id));
+  }
+  Screen.PlayFile = [this](const QString& File, bool Always) {
+    if (Always || !Settings.SoundDisabled()) Player.Play(File);
+  };
 
   Form = std::make_unique<frmMain>(Table);
   Screen.ShowControls = [this] { Form->ShowControls(); };
@@ -142,6 +151,7 @@ frmScorePad& Application::ScorePad() {
 OptionsPanel& Application::Options() {
   if (options == nullptr) {
     options = new OptionsPanel(*Form, Table, Settings, folders.Shipped(QStringLiteral("Background")));
+    options->OnCustomizeSounds = [this] { CustomizeSounds(); };
   }
   return *options;
 }
@@ -169,7 +179,7 @@ void Application::CheckWhoopin(const std::string&, std::int16_t) {}
 
 void Application::ShowCongrats() {
   Form->ShowControls();
-  frmCongrats(Table, Form.get()).exec();
+  frmCongrats(Table, *Form).exec();
 }
 
 void Application::ShowNewGame() {
@@ -192,6 +202,11 @@ void Application::ExitProgram() {
   UnloadOtherForms();
   Form->hide();
   QCoreApplication::exit();
+}
+
+void Application::CustomizeSounds() {
+  QWidget* const Active = QApplication::activeWindow();
+  frmCustomizeSounds(Table, Settings, Active != nullptr ? Active : Form.get()).exec();
 }
 
 void Application::Abort() { std::_Exit(EXIT_FAILURE); }

@@ -11,27 +11,14 @@
 #include "storage/IniInfo.h"
 #include "table/OptionsPanel.h"
 #include "table/QtDesktop.h"
+#include "table/SettingsView.h"
+#include "table/Sounds.h"
 #include "table/frmMain.h"
 #include "table/frmScorePad.h"
 #include "util/TbkUtil.h"
 #include "util/UtilRandom.h"
 
 namespace blunko {
-
-/// The settings, as the rules see them.
-class SettingsView : public GameOptions {
- public:
-  explicit SettingsView(const GameSettings& Settings) : settings(Settings) {}
-  int ComputerSpeed() const override { return settings.ComputerSpeed(); }
-  bool SortDice() const override { return settings.SortDice(); }
-  bool MarkScorers() const override { return settings.MarkScorers(); }
-  int DieColour() const override { return settings.DieColour(); }
-  bool SoundDisabled() const override { return settings.SoundDisabled(); }
-  const std::string& GetSound(std::string_view Name) const override { return settings.GetSound(Name); }
-
- private:
-  const GameSettings& settings;
-};
 
 /// The program: owns the objects of a run, puts its start-up questions, shows the table, and answers what the rules ask
 /// of the dialogs.
@@ -59,6 +46,8 @@ class Application : public Program {
   void UnloadOtherForms() override;
   void ExitProgram() override;
   void Abort() override;
+  /// Shows the dialog of the sounds over the active window, and waits.
+  void CustomizeSounds();
 
   Folders folders;
   IniInfo InfoFile;
@@ -67,6 +56,7 @@ class Application : public Program {
   Module1 State;
   TableControls Controls;
   QtDesktop Screen;
+  Sounds Player;
   std::unique_ptr<NumberSource> Numbers;
   UniformGenerator Uniform;
   Game Table;

@@ -6,6 +6,7 @@
 
 #include "table/Fonts.h"
 #include "table/Twips.h"
+#include "table/frmMain.h"
 
 namespace blunko {
 
@@ -18,14 +19,14 @@ const QColor PlateColour(0, 0, 128);
 
 }  // namespace
 
-frmCongrats::frmCongrats(Game& Table, QWidget* Main) : QDialog(Main), game(Table), frmMain(Main) {
+frmCongrats::frmCongrats(Game& Table, frmMain& Main) : QDialog(&Main), game(Table), main(Main) {
   setObjectName(QStringLiteral("frmCongrats"));
   const QString Winner = QString::fromStdString(game.m.PlayerName[game.m.Winner]);
   setWindowTitle(QStringLiteral("Congratulations %1 !!!").arg(Winner));
   QPalette Colours = palette();
   Colours.setColor(QPalette::Window, Background);
   setPalette(Colours);
-  setFixedSize(frmMain->size());
+  setFixedSize(main.picGameTray->width(), main.height());
 
   Image2 = new SvgBox(QStringLiteral(":/art/trophy.svg"), this);
   Image2->setObjectName(QStringLiteral("Image2"));
@@ -67,7 +68,7 @@ frmCongrats::frmCongrats(Game& Table, QWidget* Main) : QDialog(Main), game(Table
 }
 
 void frmCongrats::showEvent(QShowEvent* Event) {
-  move(frmMain->pos());
+  move(main.TableCorner());
   QDialog::showEvent(Event);
   QTimer::singleShot(0, this, &frmCongrats::Form_Activate);
 }

@@ -9,13 +9,15 @@
 
 namespace blunko {
 
+class frmMain;
+
 /// The game-over dialog: a trophy with the winner's name on its plate, and three buttons that leave a word in
 /// `FormMessage`.
 class frmCongrats : public QDialog {
   Q_OBJECT
 
  public:
-  frmCongrats(Game& Table, QWidget* Main);
+  frmCongrats(Game& Table, frmMain& Main);
 
   SvgBox* Image2;  ///< the trophy
   SvgBox* Image1;  ///< the arched greeting
@@ -32,7 +34,7 @@ class frmCongrats : public QDialog {
   void Form_Activate();
 
   Game& game;
-  QWidget* frmMain;
+  frmMain& main;
   bool engraving = false;
 };
 

@@ -21,7 +21,7 @@ std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit) {
   if (!Info.isFile() || Info.size() > Limit) return std::nullopt;
   QFile File(Path);
   if (!File.open(QIODevice::ReadOnly)) return std::nullopt;
-  QByteArray Bytes = File.read(Limit + 1);
+  QByteArray Bytes = File.readAll();
   if (Bytes.size() > Limit || File.error() != QFileDevice::NoError) return std::nullopt;
   return Bytes;
 }

@@ -21,6 +21,12 @@ constexpr int PanelWidth = 2385, PanelHeight = 7695;  // twips; the table covers
 constexpr int StripWidth = 1890;                      // twips, of the panel on the screen
 const QColor ListText(0, 0, 128);
 
+// A thin line all round, with the caption in it: the style's own group boxes take more height than the strip has.
+const QString FrameStyle = QStringLiteral(
+    "QGroupBox { border: 1px solid palette(highlighted-text); border-radius: 4px; margin-top: 7px; }"
+    "QGroupBox::title { subcontrol-origin: margin; left: 7px; padding: 0 3px; background: palette(highlight);"
+    "                   color: palette(highlighted-text); }");
+
 // Entry 6 shows a purer cyan than the text gets.
 constexpr QRgb SwatchColours[] = {0x000000, 0xFF0000, 0x00FF00, 0xFFFF00, 0x0000FF, 0xFF00FF, 0x00FFFF, 0xFFFFFF};
 const char* const ColourNames[] = {"Black", "Red", "Green", "Yellow", "Blue", "Magenta", "Cyan", "White"};
@@ -37,6 +43,7 @@ OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QS
   Colours.setColor(QPalette::WindowText, Colours.color(QPalette::HighlightedText));
   setPalette(Colours);
   setAutoFillBackground(true);
+  setStyleSheet(FrameStyle);
   Build();
   FixButtonColours(*this);
   lower();
@@ -45,14 +52,14 @@ OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QS
 
 void OptionsPanel::Build() {
   auto* Outer = new QVBoxLayout(this);
-  Outer->setContentsMargins(6, 6, 6 + width() - Pixels(StripWidth), 6);
-  Outer->setSpacing(4);
+  Outer->setContentsMargins(6, 3, 6 + width() - Pixels(StripWidth), 6);
+  Outer->setSpacing(3);
 
   const auto Frame = [&](const QString& Caption) {
     auto* Box = new QGroupBox(Caption, this);
     auto* Inside = new QVBoxLayout(Box);
-    Inside->setContentsMargins(6, 3, 6, 4);
-    Inside->setSpacing(1);
+    Inside->setContentsMargins(6, 6, 5, 5);
+    Inside->setSpacing(2);
     Outer->addWidget(Box);
     return Inside;
   };
@@ -72,9 +79,15 @@ void OptionsPanel::Build() {
   chkMarkScorers = Add(Misc, new QCheckBox(tr("Mark Points")), QStringLiteral("chkMarkScorers"));
 
   auto* Sound = Frame(tr("Sound FX:"));
-  optSound[1] = Add(Sound, new QRadioButton(tr("On")), QStringLiteral("optSound(1)"));
-  optSound[0] = Add(Sound, new QRadioButton(tr("Off")), QStringLiteral("optSound(0)"));
+  auto* OnOff = new QHBoxLayout;
+  for (const int i : {1, 0}) {
+    optSound[i] = new QRadioButton(i == 1 ? tr("On") : tr("Off"));
+    optSound[i]->setObjectName(QStringLiteral("optSound(%1)").arg(i));
+    OnOff->addWidget(optSound[i]);
+  }
+  Sound->addLayout(OnOff);
   cmdCustomizeSounds = Add(Sound, new ButtonPlus(tr("Customize")), QStringLiteral("cmdCustomizeSounds"));
+  cmdCustomizeSounds->setMinimumHeight(26);
   connect(cmdCustomizeSounds, &QPushButton::clicked, this, [this] {
     if (OnCustomizeSounds) OnCustomizeSounds();
   });
@@ -90,17 +103,21 @@ void OptionsPanel::Build() {
   lstSkin = Add(Skin, new QListWidget, QStringLiteral("lstSkin"));
   lstSkin->setAccessibleName(tr("Background"));
   lstSkin->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  lstSkin->setMinimumHeight(80);
+  lstSkin->setMinimumHeight(90);
   connect(lstSkin, &QListWidget::currentRowChanged, this, &OptionsPanel::lstSkin_Click);
   // A click on the picture that is shown already brings its text colour back.
   connect(lstSkin, &QListWidget::itemClicked, this, [this] {
     if (lstSkin->currentRow() == entryShown) lstSkin_Click(entryShown);
   });
-  for (QWidget* List : {static_cast<QWidget*>(cboDiceColor), static_cast<QWidget*>(lstSkin)}) {
+  for (QWidget* List : std::initializer_list<QWidget*>{cboDiceColor, cboDiceColor->view(), lstSkin}) {
     QPalette Ink = List->palette();
     Ink.setColor(QPalette::Text, ListText);
     Ink.setColor(QPalette::ButtonText, ListText);
     List->setPalette(Ink);
+  }
+
+  for (auto* Option : findChildren<QAbstractButton*>()) {
+    if (Option != cmdCustomizeSounds) Option->setPalette(palette());  // a style sheet keeps it from being inherited
   }
 
   auto* Text = Frame(tr("Text Color:"));

@@ -127,11 +127,6 @@ struct Started {
     Program = std::make_unique<Application>(Where, std::make_unique<NoQuestions>());
     EXPECT_TRUE(Program->Main());
   }
-  /// A program that has ended leaves the event loops closed: this opens them for the next test.
-  ~Started() {
-    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
-    QCoreApplication::exec();
-  }
   HelpWindow* Help() const {
     for (QWidget* Window : QApplication::topLevelWidgets()) {
       if (auto* Found = qobject_cast<HelpWindow*>(Window)) return Found;

@@ -1,0 +1,158 @@
+#include <functional>
+#include <gtest/gtest.h>
+
+#include "storage/Folders.h"
+#include "tests/storage/Place.h"
+
+namespace blunko::test {
+namespace {
+
+/// The user's folders, all of them below a place of the test's own.
+class FoldersTest : public testing::Test {
+ protected:
+  FoldersTest() {
+    for (const char* Name : Variables) before << qgetenv(Name);
+    place.Mkdir("", 0755);
+    Set("HOME", place.Mkdir("home", 0755));
+    Set("TMPDIR", place.Mkdir("tmp", 0777));
+    Set("XDG_RUNTIME_DIR", place.Mkdir("run", 0700));
+    Set("XDG_CACHE_HOME", place.Path("home/cache"));
+    Set("XDG_CONFIG_HOME", place.Path("home/config"));
+  }
+  ~FoldersTest() override {
+    for (qsizetype i = 0; i < before.size(); ++i) {
+      before[i].isNull() ? qunsetenv(Variables[i]) : qputenv(Variables[i], before[i]);
+    }
+  }
+  static void Set(const char* Name, const QString& Value) { qputenv(Name, QFile::encodeName(Value)); }
+  static int ModeOf(const QString& Path) {
+    struct stat Found {};
+    return lstat(QFile::encodeName(Path).constData(), &Found) == 0 ? static_cast<int>(Found.st_mode & 0777) : -1;
+  }
+
+  const Place place;
+
+ private:
+  static constexpr const char* Variables[] = {"HOME", "TMPDIR", "XDG_RUNTIME_DIR", "XDG_CACHE_HOME", "XDG_CONFIG_HOME"};
+  QByteArrayList before;
+};
+
+TEST_F(FoldersTest, TemporaryFolderIsPrivateAndTheSameAtEveryStart) {
+  const QString Folder = GetTempFolder();
+  EXPECT_EQ(Folder, place.Path("run/tollmoor-blunko/"));
+  EXPECT_EQ(ModeOf(Folder), 0700);
+  EXPECT_EQ(GetTempFolder(), Folder);
+
+  const QString InCache = place.Path("home/cache/tollmoor-blunko/");
+  struct Row {
+    const char* Trouble;
+    std::function<void()> Make;
+  };
+  const Row Rows[] = {
+      {"a link is planted",
+       [this] {
+         QDir(place.Path("run/tollmoor-blunko")).removeRecursively();
+         ASSERT_TRUE(QFile::link(place.Mkdir("trap", 0700), place.Path("run/tollmoor-blunko")));
+       }},
+      {"a file is planted",
+       [this] {
+         QFile::remove(place.Path("run/tollmoor-blunko"));
+         place.Put("run/tollmoor-blunko", "");
+       }},
+      {"others can read it",
+       [this] {
+         QFile::remove(place.Path("run/tollmoor-blunko"));
+         place.Mkdir("run/tollmoor-blunko", 0755);
+       }},
+      {"it belongs to somebody else",
+       [this] {
+         place.Mkdir("run/tollmoor-blunko", 0700);
+         if (geteuid() == 0) {
+           ASSERT_EQ(chown(QFile::encodeName(place.Path("run/tollmoor-blunko")).constData(), 65534, 0), 0);
+         } else {
+           place.Mkdir("run/tollmoor-blunko", 0711);
+         }
+       }},
+      {"others can put files beside it",
+       [this] {
+         QDir().rmdir(place.Path("run/tollmoor-blunko"));
+         place.Mkdir("run", 0777);
+       }},
+      {"the runtime folder is gone", [this] { QDir(place.Path("run")).removeRecursively(); }},
+      {"there is no runtime folder", [] { qunsetenv("XDG_RUNTIME_DIR"); }},
+  };
+  for (const Row& row : Rows) {
+    row.Make();
+    EXPECT_EQ(GetTempFolder(), InCache) << row.Trouble;
+    EXPECT_EQ(ModeOf(InCache), 0700) << row.Trouble;
+  }
+  EXPECT_TRUE(QDir(place.Path("trap")).isEmpty());
+  EXPECT_FALSE(QFileInfo::exists(place.Path("run"))) << "it isn't the game's to make";
+}
+
+TEST_F(FoldersTest, WithoutAHomeTheTemporaryFolderIsAFreshOne) {
+  const Unprivileged Nobody(place);
+  for (const char* Name : {"HOME", "XDG_RUNTIME_DIR", "XDG_CACHE_HOME"}) qunsetenv(Name);
+  const QString First = GetTempFolder();
+  const QString Second = GetTempFolder();
+  EXPECT_TRUE(First.startsWith(place.Path("tmp/tollmoor-blunko-"))) << First.toStdString();
+  EXPECT_TRUE(First.endsWith('/'));
+  EXPECT_EQ(ModeOf(First), 0700);
+  EXPECT_NE(First, Second) << "its name can't be guessed";
+  Set("TMPDIR", place.Path("no such folder"));
+  EXPECT_EQ(GetTempFolder(), QString());
+}
+
+TEST_F(FoldersTest, StateLiesBesideTheProgramOrInTheUsersOwnFolder) {
+  place.Put("games/TollmoorBlunko", "");
+  chmod(QFile::encodeName(place.Path("games")).constData(), 0777);
+  const Unprivileged Nobody(place);
+  const Folders Beside = Folders::Of(place.Path("games/TollmoorBlunko"));
+  EXPECT_EQ(Beside.Program, place.Path("games"));
+  EXPECT_EQ(Beside.State, Beside.Program);
+  EXPECT_EQ(Beside.BaseName, QStringLiteral("TollmoorBlunko"));
+  EXPECT_FALSE(QFileInfo::exists(place.Path("home/config")));
+
+  Set("XDG_CONFIG_HOME", place.Path("config"));
+  const QString Installed = QStringLiteral("/proc");  // nobody can write there, not even the administrator
+  const Folders Away = Folders::Of(Installed + QStringLiteral("/TollmoorBlunko"));
+  EXPECT_EQ(Away.Program, Installed);
+  EXPECT_EQ(Away.State, place.Path("config/TollmoorBlunko"));
+  EXPECT_TRUE(QFileInfo(Away.State).isDir());
+}
+
+TEST_F(FoldersTest, ShippedFilesLieBesideTheProgramOrInShare) {
+  Folders Where;
+  Where.Program = place.Mkdir("usr/bin", 0755);
+  EXPECT_EQ(Where.Shipped("help"), place.Path("usr/bin/help")) << "nowhere: named all the same";
+  place.Mkdir("usr/share/tollmoor-blunko/help", 0755);
+  EXPECT_EQ(Where.Shipped("help"), place.Path("usr/share/tollmoor-blunko/help"));
+  place.Mkdir("usr/bin/help", 0755);
+  EXPECT_EQ(Where.Shipped("help"), place.Path("usr/bin/help"));
+}
+
+TEST_F(FoldersTest, Paths) {
+  place.Put("file", "");
+  EXPECT_TRUE(FileExists(place.Path("file")));
+  for (const QString& Path : {QString(), place.Path("missing"), place.Path("home"), place.Path("file/below")}) {
+    EXPECT_FALSE(FileExists(Path)) << Path.toStdString();
+  }
+  struct Row {
+    const char *Path, *Name, *Base;
+  };
+  static const Row Rows[] = {{"/a/Old.Glory.jpg", "Old.Glory.jpg", "Old"},
+                             {"/a.b/Satin", "Satin", "Satin"},
+                             {"Satin.jpg", "Satin.jpg", "Satin"},
+                             {"/a/.jpg", ".jpg", ""},
+                             {"/a/", "", ""},
+                             {"", "", ""}};
+  for (const Row& row : Rows) {
+    EXPECT_EQ(FileNameOnly(row.Path), QString(row.Name)) << row.Path;
+    EXPECT_EQ(FileBaseName(row.Path), QString(row.Base)) << row.Path;
+  }
+  const QString Foreign = QStringLiteral("/S\u00E4tt\u00EDn/\u65E5\u672C \U0001F3B2.jpg");
+  EXPECT_EQ(PathOfText(QString::fromLatin1(TextOfPath(Foreign).toLatin1())), Foreign);
+}
+
+}  // namespace
+}  // namespace blunko::test

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace blunko::test {
+
+/// A folder of a test's own that goes away with it.
+class Place {
+ public:
+  QString Path(const QString& Name = {}) const { return Name.isEmpty() ? folder.path() : folder.filePath(Name); }
+  void Put(const QString& Name, const QByteArray& Bytes) const {
+    QFile File(Path(Name));
+    if (!QDir().mkpath(QFileInfo(File).path()) || !File.open(QIODevice::WriteOnly) || File.write(Bytes) < 0) abort();
+  }
+  QByteArray Get(const QString& Name) const {
+    QFile File(Path(Name));
+    return File.open(QIODevice::ReadOnly) ? File.readAll() : QByteArray("(no file)");
+  }
+  /// Everything in it, hidden or not.
+  QStringList Names() const {
+    return QDir(Path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+  }
+  QString Mkdir(const QString& Name, mode_t Mode) const {
+    const QByteArray Folder = QFile::encodeName(Path(Name));
+    if (!QDir().mkpath(Path(Name)) || chmod(Folder.constData(), Mode) != 0) abort();
+    return Path(Name);
+  }
+
+ private:
+  QTemporaryDir folder;
+};
+
+/// For a while the administrator, whom no mode keeps out, is nobody in particular.
+class Unprivileged {
+ public:
+  explicit Unprivileged(const Place& Where) {
+    if (!root) return;
+    constexpr uid_t Nobody = 65534;
+    if (chown(QFile::encodeName(Where.Path()).constData(), Nobody, Nobody) != 0) abort();
+    if (setresuid(Nobody, Nobody, 0) != 0) abort();
+  }
+  ~Unprivileged() {
+    if (root && setresuid(0, 0, 0) != 0) abort();
+  }
+  Q_DISABLE_COPY_MOVE(Unprivileged)
+
+ private:
+  const bool root = geteuid() == 0;
+};
+
+/// For a while no file can grow beyond a number of bytes, as on a full disk.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t Bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit Now{Bytes, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &Now);
+  }
+  ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before); }
+  Q_DISABLE_COPY_MOVE(FullDisk)
+
+ private:
+  rlimit before{};
+};
+
+}  // namespace blunko::test

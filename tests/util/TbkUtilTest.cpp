@@ -1,0 +1,237 @@
+#include <QElapsedTimer>
+#include <QHostInfo>
+#include <QRegularExpression>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <pwd.h>
+
+#include "tests/storage/Place.h"
+#include "util/TbkUtil.h"
+
+namespace blunko::test {
+namespace {
+
+constexpr int Limit = 400;      // ms, for a server that never comes to an end
+constexpr int Patience = 5000;  // ms: a loaded machine may be late, but not for ever
+
+/// Answers every request on loopback as it is told.
+class Server {
+ public:
+  explicit Server(std::function<void(QTcpSocket&)> Answer) : answer(std::move(Answer)) {
+    if (!tcp.listen(QHostAddress::LocalHost)) abort();
+    QObject::connect(&tcp, &QTcpServer::newConnection, &tcp, [this] {
+      QTcpSocket* Client = tcp.nextPendingConnection();
+      QObject::connect(Client, &QTcpSocket::readyRead, Client, [this, Client] {
+        if (!Client->readAll().contains("\r\n\r\n")) return;
+        ++Requests;
+        answer(*Client);
+      });
+    });
+  }
+  QString Address(const QString& Path = "/version.txt") const {
+    return QStringLiteral("http://127.0.0.1:%1%2").arg(tcp.serverPort()).arg(Path);
+  }
+  int Requests = 0;
+
+ private:
+  std::function<void(QTcpSocket&)> answer;
+  QTcpServer tcp;
+};
+
+/// A whole answer that the connection's end follows.
+std::function<void(QTcpSocket&)> Reply(const QByteArray& Status, const QByteArray& Fields, const QByteArray& Body) {
+  return [=](QTcpSocket& Client) {
+    Client.write("HTTP/1.1 " + Status + "\r\nConnection: close\r\n" + Fields + "\r\n" + Body);
+    Client.disconnectFromHost();
+  };
+}
+std::function<void(QTcpSocket&)> Text(const QByteArray& Body) {
+  return Reply("200 OK", "Content-Length: " + QByteArray::number(Body.size()) + "\r\n", Body);
+}
+
+/// An answer that never ends.
+std::function<void(QTcpSocket&)> Endless(const QByteArray& Begin, const QByteArray& Part) {
+  return [=](QTcpSocket& Client) {
+    Client.write(Begin);
+    auto* Timer = new QTimer(&Client);
+    QObject::connect(Timer, &QTimer::timeout, &Client, [&Client, Part] { Client.write(Part); });
+    Timer->start(5);
+  };
+}
+
+TbkUtil::VersionAnswer Ask(const QString& Address, int TimeLimit = 10 * Patience) {
+  return TbkUtil(Address, TimeLimit).UtilCheckVersion(1, 9, 3);
+}
+
+TEST(UtilCheckVersion, ComparesNumberByNumber) {
+  struct Row {
+    QByteArray Body;
+    TbkUtil::VersionAnswer Answer;
+  };
+  const Row Rows[] = {
+      {"1.9.3", TbkUtil::UpToDate},
+      {"1.9.2", TbkUtil::UpToDate},
+      {"1.8.9", TbkUtil::UpToDate},
+      {"0.10.10", TbkUtil::UpToDate},
+      {"1.9.4", TbkUtil::NewerExists},
+      {"1.9.10", TbkUtil::NewerExists},
+      {"1.10.0", TbkUtil::NewerExists},
+      {"2.0.0", TbkUtil::NewerExists},
+      {" \t1.9.4 \r\n", TbkUtil::NewerExists},
+      {"", TbkUtil::VersionError},
+      {"\n", TbkUtil::VersionError},
+      {"newest", TbkUtil::VersionError},
+      {"<html>2.0.0</html>", TbkUtil::VersionError},
+      {"2.0", TbkUtil::VersionError},
+      {"2.0.0.0", TbkUtil::VersionError},
+      {"2.0.0.", TbkUtil::VersionError},
+      {".2.0.0", TbkUtil::VersionError},
+      {"2..0", TbkUtil::VersionError},
+      {"v2.0.0", TbkUtil::VersionError},
+      {"2.0.0b", TbkUtil::VersionError},
+      {"2. 0.0", TbkUtil::VersionError},
+      {"2.0.0\n2.0.0", TbkUtil::VersionError},
+      {"-2.0.0", TbkUtil::VersionError},
+      {"+2.0.0", TbkUtil::VersionError},
+      {"2.-1.0", TbkUtil::VersionError},
+      {QByteArray("2.0.0\0", 6), TbkUtil::VersionError},
+      {"99999999999.0.0", TbkUtil::VersionError},
+      {"2.0.18446744073709551617", TbkUtil::VersionError},
+      {"2.0.0" + QByteArray(500, ' '), TbkUtil::VersionError},
+  };
+  for (const Row& row : Rows) {
+    const Server server(Text(row.Body));
+    EXPECT_EQ(Ask(server.Address()), row.Answer) << row.Body.constData();
+    EXPECT_EQ(server.Requests, 1);
+  }
+}
+
+TEST(UtilCheckVersion, AnythingUnexpectedIsAnError) {
+  struct Row {
+    const char* Trouble;
+    std::function<void(QTcpSocket&)> Answer;
+  };
+  const Row Rows[] = {
+      {"not found", Reply("404 Not Found", "", "2.0.0")},
+      {"server error", Reply("500 Oops", "", "2.0.0")},
+      {"no content", Reply("204 No Content", "", "")},
+      {"partial", Reply("206 Partial Content", "", "2.0.0")},
+      {"redirect to itself", Reply("302 Found", "Location: /version.txt\r\n", "")},
+      {"redirect to nowhere", Reply("302 Found", "", "2.0.0")},
+      {"redirect to a file", Reply("302 Found", "Location: file:///etc/hostname\r\n", "")},
+      {"no HTTP", [](QTcpSocket& Client) { Client.write("2.0.0\n"), Client.disconnectFromHost(); }},
+      {"hangs up", [](QTcpSocket& Client) { Client.disconnectFromHost(); }},
+      {"hangs up early", Reply("200 OK", "Content-Length: 100\r\n", "2.0.0")},
+      {"breaks off", [](QTcpSocket& Client) { Client.write("HTTP/1.1 200 OK\r\nContent-Le"), Client.abort(); }},
+      {"sends for ever", Endless("HTTP/1.1 200 OK\r\n\r\n", QByteArray(5000, '1'))},
+      {"refuses", Reply("401 Who", "WWW-Authenticate: Basic realm=\"x\"\r\n", "2.0.0")},
+  };
+  for (const Row& row : Rows) {
+    const Server server(row.Answer);
+    QElapsedTimer Clock;
+    Clock.start();
+    EXPECT_EQ(Ask(server.Address()), TbkUtil::VersionError) << row.Trouble;
+    EXPECT_LT(Clock.elapsed(), Patience) << row.Trouble << ": known at once, without waiting for the limit";
+  }
+}
+
+TEST(UtilCheckVersion, FollowsARedirect) {
+  const Server Target(Text("1.9.4"));
+  const Server Start(Reply("301 Moved", "Location: " + Target.Address().toLatin1() + "\r\n", ""));
+  EXPECT_EQ(Ask(Start.Address()), TbkUtil::NewerExists);
+  EXPECT_EQ(Target.Requests, 1);
+}
+
+TEST(UtilCheckVersion, AnswersWithinTheLimit) {
+  struct Row {
+    const char* Trouble;
+    std::function<void(QTcpSocket&)> Answer;
+  };
+  const Row Rows[] = {
+      {"says nothing", [](QTcpSocket&) {}},
+      {"stops in the middle",
+       [](QTcpSocket& Client) { Client.write("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\n2.0"); }},
+      {"dribbles its head", Endless("HTTP/1.1 200 OK\r\n", "X: y\r\n")},
+  };
+  for (const Row& row : Rows) {
+    const Server server(row.Answer);
+    QElapsedTimer Clock;
+    Clock.start();
+    EXPECT_EQ(Ask(server.Address(), Limit), TbkUtil::VersionError) << row.Trouble;
+    EXPECT_LT(Clock.elapsed(), Limit + Patience) << row.Trouble;
+    EXPECT_GE(Clock.elapsed(), Limit - 5) << row.Trouble << ": a slow server has that long";
+  }
+}
+
+TEST(UtilCheckVersion, TakesWebAddressesOnly) {
+  const Place place;
+  place.Put("version.txt", "2.0.0");
+  ASSERT_EQ(mkfifo(QFile::encodeName(place.Path("pipe")).constData(), 0600), 0);
+  QString Refused;
+  {
+    const Server server(Text("2.0.0"));
+    Refused = server.Address();
+  }
+  for (const QString& Address :
+       {Refused, QString(), QStringLiteral("http://"), QStringLiteral("http://127.0.0.1:99999/"),
+        QStringLiteral("nonsense"), place.Path("version.txt"), "file://" + place.Path("version.txt"),
+        "file://" + place.Path("pipe"), QStringLiteral("data:,2.0.0"), QStringLiteral("qrc:/version.txt")}) {
+    QElapsedTimer Clock;
+    Clock.start();
+    EXPECT_EQ(Ask(Address), TbkUtil::VersionError) << Address.toStdString();
+    EXPECT_LT(Clock.elapsed(), Patience) << Address.toStdString();
+  }
+}
+
+TEST(UtilSurveyHardware, IsReadableAndNamesNobody) {
+  const Place place;
+  TbkUtil Util("");
+  Util.UtilSetFolder(place.Path());
+  Util.UtilSurveyHardware();
+  EXPECT_EQ(place.Names(), QStringList("hardware.txt"));
+  const QString Survey = QString::fromUtf8(place.Get("hardware.txt"));
+  static const QRegularExpression Form(
+      QStringLiteral("\\AProcessor: [^\\n]*\\w[^\\n]*, \\d+ threads\\nMemory: \\d+ kB\\nSystem: [^\\n]+, linux "
+                     "\\d[^\\n]*\\n(Screen: \\d+ x \\d+ pixels, scale [\\d.]+\\n)+\\z"));
+  EXPECT_TRUE(Form.match(Survey).hasMatch()) << Survey.toStdString();
+
+  const QString User = QString::fromLocal8Bit(getpwuid(geteuid())->pw_name);
+  for (const QString& Name : {QSysInfo::machineHostName(), User, QDir::homePath()}) {
+    const QRegularExpression Word("(?<![\\w.-])" + QRegularExpression::escape(Name) + "(?![\\w.-])");
+    EXPECT_FALSE(Survey.contains(Word)) << Name.toStdString() << " in\n" << Survey.toStdString();
+  }
+  EXPECT_FALSE(Survey.contains(QString::fromLatin1(QSysInfo::machineUniqueId())) &&
+               !QSysInfo::machineUniqueId().isEmpty());
+  static const QRegularExpression MacAddress(QStringLiteral("([0-9a-fA-F]{2}[:-]){5}[0-9a-fA-F]{2}"));
+  EXPECT_FALSE(Survey.contains(MacAddress)) << Survey.toStdString();
+}
+
+TEST(UtilStoreLists, PutsExactlyTheseBytesInPlace) {
+  const Place place;
+  TbkUtil Util("");
+  Util.UtilStoreLists("lost");  // there is no folder yet, and no harm in that
+  EXPECT_FALSE(QFile::exists("/highscores.dat"));
+  Util.UtilSetFolder(place.Path());
+  const QByteArray Texts[] = {QByteArray("a\r\n\0\xFF\xA4\n", 7), QByteArray(30000, '\x01'), "short", ""};
+  for (const QByteArray& Bytes : Texts) {
+    Util.UtilStoreLists(Bytes);
+    EXPECT_EQ(place.Get("highscores.dat"), Bytes);
+    EXPECT_EQ(place.Names(), QStringList("highscores.dat"));
+  }
+  Util.UtilStoreLists("old");
+  {
+    const FullDisk Full(100);
+    Util.UtilStoreLists(QByteArray(400, 'n'));
+  }
+  EXPECT_EQ(place.Get("highscores.dat"), QByteArray("old"));
+  Util.UtilSetFolder(place.Path("gone"));
+  Util.UtilStoreLists("new");
+  EXPECT_EQ(place.Names(), QStringList("highscores.dat"));
+}
+
+}  // namespace
+}  // namespace blunko::test
