@@ -8,10 +8,12 @@
 
 #include "Links.h"
 #include "app/OpenInShell.h"
+#include "app/frmAbout.h"
 #include "app/frmCongrats.h"
 #include "app/frmCustomizeSounds.h"
 #include "app/frmHighRollers.h"
 #include "app/frmViewHRListYN.h"
+#include "app/frmWelcome.h"
 #include "storage/DayNumber.h"
 #include "table/DiceSets.h"
 #include "table/SoundFiles.h"
@@ -74,6 +76,10 @@ bool Application::Main() {
     Pointer == MousePointer::Hourglass ? Form->setCursor(Qt::WaitCursor) : Form->unsetCursor();
   };
   QObject::connect(Form.get(), &frmMain::minimised, Form.get(), [this] { Form_Resize(); });
+  Form->OnCommand.FirstShown = [this] { Form_Activate(); };
+  Form->OnCommand.HowToPlay = [this] { ShowHelpTopic(QStringLiteral("PlayingBlunko.htm")); };
+  Form->OnCommand.GoHelp = [this] { ShowHelpTopic(QStringLiteral("Overview.htm")); };
+  Form->OnCommand.About = [this] { frmAbout(folders, Settings, Screen, Form.get()).exec(); };
   Form->OnCommand.Options = [this] { Options().cmdOptions_Click(); };
   const QColor Trays = StartColour(Settings.DieColour());
   Form->PaintTrays(Trays, Trays);
@@ -115,6 +121,20 @@ bool Application::CheckForUpdate() {
       break;
   }
   return true;
+}
+
+/// The table has come up: a newcomer is greeted.
+void Application::Form_Activate() {
+  if (!Settings.ShowWelcome() || !State.FirstActivate) return;
+  State.FirstActivate = false;
+  frmWelcome(
+      InfoFile, Screen, [this](const QString& Topic) { ShowHelpTopic(Topic); }, Form.get())
+      .exec();
+}
+
+void Application::ShowHelpTopic(const QString& Topic) {
+  if (help == nullptr) help = std::make_unique<HelpWindow>(QString::fromStdString(State.HelpFile), Form.get());
+  help->ShowTopic(Topic);
 }
 
 /// The score pad leaves the screen with the table and comes back to where it stood.
@@ -201,6 +221,7 @@ void Application::CancelOptions() { Options().ARCmdCancelOptions_Click(); }
 void Application::UnloadOtherForms() {
   if (newGame != nullptr) newGame->Unload();
   if (scorePad != nullptr) scorePad->hide();
+  if (help != nullptr) help->close();
 }
 
 void Application::ExitProgram() {

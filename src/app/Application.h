@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "app/HelpWindow.h"
 #include "app/HighRollersCheck.h"
 #include "app/frmNewGame.h"
 #include "bots/ComputerPlayers.h"
@@ -31,6 +32,9 @@ class Application : public Program, private HighRollersScreen {
 
   /// The start, up to the shown table. False: the program ends without having shown it.
   bool Main();
+
+  /// Opens the help at a page, "Name.htm" or "Name.htm#anchor".
+  void ShowHelpTopic(const QString& Topic);
 
   void UpdateActivePlayer() override;
   void ShowScorePad() override;
@@ -67,6 +71,7 @@ class Application : public Program, private HighRollersScreen {
  private:
   void SurveyHardware();
   bool CheckForUpdate();
+  void Form_Activate();
   void Form_Resize();
   frmScorePad& ScorePad();
   frmNewGame& NewGame();
@@ -79,6 +84,7 @@ class Application : public Program, private HighRollersScreen {
   OptionsPanel* options = nullptr;
   frmScorePad* scorePad = nullptr;
   frmNewGame* newGame = nullptr;
+  std::unique_ptr<HelpWindow> help;
 };
 
 }  // namespace blunko
