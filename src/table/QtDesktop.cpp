@@ -1,5 +1,6 @@
 #include "table/QtDesktop.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QEventLoop>
 #include <QFile>
@@ -75,18 +76,26 @@ QString QtDesktop::InputBox(const QString& Prompt, const QString& Title, const Q
   return Box.exec() == QDialog::Accepted ? Box.textValue() : QString();
 }
 
-void ShowMessage(const QString& Text) {
-  QMessageBox Box(QMessageBox::Information, ProductName, Text, QMessageBox::Ok, QApplication::activeWindow());
+namespace {
+
+/// Runs a box over the active window and returns the button pressed.
+int RunBox(QMessageBox::Icon Icon, const QString& Title, const QString& Text, QMessageBox::StandardButtons Buttons) {
+  QMessageBox Box(Icon, Title, Text, Buttons, QApplication::activeWindow());
   Box.setTextFormat(Qt::PlainText);
-  Box.exec();
+  for (QAbstractButton* Button : Box.buttons()) Button->setIcon({});  // the words say it
+  if (Buttons.testFlag(QMessageBox::No)) {
+    Box.setDefaultButton(QMessageBox::No);
+    Box.setEscapeButton(QMessageBox::No);
+  }
+  return Box.exec();
 }
 
+}  // namespace
+
+void ShowMessage(const QString& Text) { RunBox(QMessageBox::Information, ProductName, Text, QMessageBox::Ok); }
+
 bool AskQuestion(const QString& Text, const QString& Title) {
-  QMessageBox Box(QMessageBox::Question, Title, Text, QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
-  Box.setTextFormat(Qt::PlainText);
-  Box.setDefaultButton(QMessageBox::No);
-  Box.setEscapeButton(QMessageBox::No);
-  return Box.exec() == QMessageBox::Yes;
+  return RunBox(QMessageBox::Question, Title, Text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 }  // namespace blunko
