@@ -133,12 +133,15 @@ struct Table {
     game.FreshGame(Setup);
   }
 
-  /// Rolls so that the given faces come up; a person's tumbling dice are fed as well.
-  void Roll(std::initializer_list<int> Faces) {
+  /// The next roll brings the given faces up; a person's tumbling dice are fed as well.
+  void Script(std::initializer_list<int> Faces) {
     static constexpr int Cycles[] = {0, 20, 15, 10, 8, 7, 5};
     const bool Tumbles = !(m.PlayerIsComputer[m.CurrentPlayer] && Options.Speed >= SpeedRidiculous);
     if (Tumbles) Numbers.Faces.assign(Faces.size() * static_cast<std::size_t>(Cycles[Faces.size()]), 6);
     Numbers.Faces.insert(Numbers.Faces.end(), Faces);
+  }
+  void Roll(std::initializer_list<int> Faces) {
+    Script(Faces);
     game.cmdRoll_Click();
   }
 
