@@ -29,21 +29,25 @@ class ScriptedDice : public NumberSource {
   int beyond = 0;
 };
 
-/// Writes down what happens on the desktop, a line an event; `OnEvents` runs whenever events are delivered.
+/// Writes down what happens on the desktop, a line an event; `OnEvents` runs whenever events are delivered, `OnSleep`
+/// in every wait.
 class RecordingDesktop : public Desktop {
  public:
   explicit RecordingDesktop(TableControls& Controls) : t(Controls) {}
 
   std::vector<std::string> Log;
   bool Answer = true;
-  std::function<void()> OnEvents;
+  std::function<void()> OnEvents, OnSleep;
 
   void Refresh() override {
     if (t.lblStatus.Caption == LastStatus) return;
     LastStatus = t.lblStatus.Caption;
     Log.push_back("status " + LastStatus);
   }
-  void Sleep(int Milliseconds) override { Log.push_back("sleep " + std::to_string(Milliseconds)); }
+  void Sleep(int Milliseconds) override {
+    Log.push_back("sleep " + std::to_string(Milliseconds));
+    if (OnSleep) OnSleep();
+  }
   void PumpEvents() override {
     if (OnEvents) OnEvents();
   }
