@@ -12,7 +12,6 @@
 #include "app/frmCustomizeSounds.h"
 #include "table/DiceSets.h"
 #include "table/SoundFiles.h"
-#include "table/Twips.h"
 
 namespace blunko {
 
@@ -20,8 +19,8 @@ namespace {
 
 constexpr int LaterStartsPerVersionCheck = 5;
 
-std::int16_t ToTwips16(int LogicalPixels) {
-  return static_cast<std::int16_t>(std::clamp<int>(TwipsOf(LogicalPixels), INT16_MIN, INT16_MAX));
+std::int16_t To16Bits(int LogicalPixels) {
+  return static_cast<std::int16_t>(std::clamp<int>(LogicalPixels, INT16_MIN, INT16_MAX));
 }
 
 }  // namespace
@@ -114,11 +113,11 @@ void Application::Form_Resize() {
   if (State.ResizeBlocked || !State.ScorePadShown) return;
   frmScorePad& Pad = ScorePad();
   if (Form->isMinimized()) {
-    State.ScorePadLeft = ToTwips16(Pad.x());
-    State.ScorePadTop = ToTwips16(Pad.y());
+    State.ScorePadLeft = To16Bits(Pad.x());
+    State.ScorePadTop = To16Bits(Pad.y());
     Pad.hide();
   } else {
-    Pad.move(Pixels(State.ScorePadLeft), Pixels(State.ScorePadTop));
+    Pad.move(State.ScorePadLeft, State.ScorePadTop);
     Pad.show();
   }
 }
