@@ -118,7 +118,7 @@ void Application::Form_Resize() {
     Pad.hide();
   } else {
     Pad.move(State.ScorePadLeft, State.ScorePadTop);
-    Pad.show();
+    Pad.showNormal();  // the window manager has minimised it too, and would take the table along once more
   }
 }
 
