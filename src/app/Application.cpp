@@ -17,7 +17,6 @@
 #include "storage/DayNumber.h"
 #include "table/DiceSets.h"
 #include "table/SoundFiles.h"
-#include "table/Twips.h"
 
 namespace blunko {
 
@@ -25,8 +24,8 @@ namespace {
 
 constexpr int LaterStartsPerVersionCheck = 5;
 
-std::int16_t ToTwips16(int LogicalPixels) {
-  return static_cast<std::int16_t>(std::clamp<int>(TwipsOf(LogicalPixels), INT16_MIN, INT16_MAX));
+std::int16_t To16Bits(int LogicalPixels) {
+  return static_cast<std::int16_t>(std::clamp<int>(LogicalPixels, INT16_MIN, INT16_MAX));
 }
 
 }  // namespace
@@ -142,12 +141,12 @@ void Application::Form_Resize() {
   if (State.ResizeBlocked || !State.ScorePadShown) return;
   frmScorePad& Pad = ScorePad();
   if (Form->isMinimized()) {
-    State.ScorePadLeft = ToTwips16(Pad.x());
-    State.ScorePadTop = ToTwips16(Pad.y());
+    State.ScorePadLeft = To16Bits(Pad.x());
+    State.ScorePadTop = To16Bits(Pad.y());
     Pad.hide();
   } else {
-    Pad.move(Pixels(State.ScorePadLeft), Pixels(State.ScorePadTop));
-    Pad.show();
+    Pad.move(State.ScorePadLeft, State.ScorePadTop);
+    Pad.showNormal();  // the window manager has minimised it too, and would take the table along once more
   }
 }
 

@@ -4,6 +4,8 @@
 #include <QPalette>
 #include <QTimer>
 
+#include <utility>
+
 #include "table/Fonts.h"
 #include "table/Twips.h"
 #include "table/frmMain.h"
@@ -75,8 +77,13 @@ void frmCongrats::showEvent(QShowEvent* Event) {
 
 void frmCongrats::changeEvent(QEvent* Event) {
   QDialog::changeEvent(Event);
-  const bool Engraved = lblWinner != nullptr && lblWinner->text().startsWith(QLatin1Char('*'));
-  if (Event->type() == QEvent::ActivationChange && isActiveWindow() && Engraved) Form_Activate();
+  if (Event->type() != QEvent::ActivationChange) return;
+  // The first activation may come late: it's no return.
+  if (!isActiveWindow()) {
+    left = true;
+  } else if (std::exchange(left, false)) {
+    Form_Activate();
+  }
 }
 
 /// The engraving: the name stands on the plate when the sound starts.

@@ -21,7 +21,7 @@ class frmCongrats : public QDialog {
 
   SvgBox* Image2;  ///< the trophy
   SvgBox* Image1;  ///< the arched greeting
-  FitLabel* lblWinner = nullptr;
+  FitLabel* lblWinner;
   ButtonPlus* cmdSameGame;
   ButtonPlus* cmdDifferentGame;
   ButtonPlus* cmdQuit;
@@ -36,6 +36,7 @@ class frmCongrats : public QDialog {
   Game& game;
   frmMain& main;
   bool engraving = false;
+  bool left = false;  ///< for another window, since the engraving
 };
 
 }  // namespace blunko

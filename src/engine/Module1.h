@@ -64,7 +64,7 @@ struct Module1 {
 
   // The forms.
   bool ScorePadShown = false;
-  std::int16_t ScorePadLeft = 0;  ///< twips; where the pad stood when the table was minimised
+  std::int16_t ScorePadLeft = 0;  ///< logical pixels; where the pad stood when the table was minimised
   std::int16_t ScorePadTop = 0;
   bool FirstActivate = true;
   std::string FormMessage;  ///< a word that one form leaves for another, empty when none is pending

@@ -7,7 +7,7 @@ namespace blunko {
 
 namespace {
 
-constexpr int SmallestText = 7;  // px
+constexpr int SmallestText = 9;  // px
 
 }  // namespace
 
@@ -21,14 +21,18 @@ void FitLabel::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
   QFont Font = font();
   const int Flags = static_cast<int>(alignment());
-  while (Font.pixelSize() > SmallestText && QFontMetrics(Font).size(Flags, text()).width() > width()) {
-    Font.setPixelSize(Font.pixelSize() - 1);
-  }
+  const auto Needed = [&] { return QFontMetrics(Font).size(Flags, text()).width(); };
+  while (Font.pixelSize() > SmallestText && Needed() > width()) Font.setPixelSize(Font.pixelSize() - 1);
   Painter.setFont(Font);
+  QRect Room = rect();
+  if (Needed() > width()) {  // smaller letters couldn't be read: these are narrowed
+    Room.setWidth(Needed());
+    Painter.scale(static_cast<qreal>(width() - 1) / Room.width(), 1);
+  }
   QColor Ink = foreColor;
   if (testAttribute(Qt::WA_ForceDisabled)) Ink.setAlphaF(0.5F);  // not faded together with a table that stands still
   Painter.setPen(Ink);
-  Painter.drawText(rect(), Flags, text());
+  Painter.drawText(Room, Flags, text());
 }
 
 void FitLabel::mousePressEvent(QMouseEvent* Event) { Event->accept(); }

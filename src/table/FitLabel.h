@@ -4,7 +4,8 @@
 
 namespace blunko {
 
-/// A label on a picture: no background, and its text shrinks rather than being cut. Its colour is its own.
+/// A label on a picture: no background, and its text shrinks and narrows rather than being cut. Its colour is
+/// its own.
 class FitLabel : public QLabel {
   Q_OBJECT
 

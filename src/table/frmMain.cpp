@@ -222,8 +222,9 @@ void frmMain::ShowControls() {
 
 void frmMain::Show(ButtonPlus* Widget, const Button& Control) {
   const bool Usable = Control.Enabled && Control.Visible;
-  // A button that goes off hands the focus to the table, not to the button that happens to come next.
-  if (!Usable && Widget->hasFocus()) setFocus();
+  // A button that goes off hands the focus to the table, not to the button that happens to come next; also while a
+  // dialog is active.
+  if (!Usable && focusWidget() == Widget) setFocus();
   Widget->setEnabled(Control.Enabled);
   Widget->setVisible(Control.Visible);
 }

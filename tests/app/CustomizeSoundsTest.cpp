@@ -10,20 +10,12 @@
 
 #include "app/Application.h"
 #include "app/frmCustomizeSounds.h"
+#include "tests/app/Run.h"
 #include "tests/engine/Table.h"
 #include "tests/table/SoundRecorder.h"
 
 namespace blunko::test {
 namespace {
-
-Folders FoldersIn(const QTemporaryDir& Place) {
-  Folders All;
-  All.Program = All.State = Place.path();
-  All.BaseName = QStringLiteral("game");
-  All.Temp = Place.path() + QStringLiteral("/temp/");
-  QDir().mkpath(All.Temp);
-  return All;
-}
 
 struct Row {
   const char* Event;

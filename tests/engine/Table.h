@@ -29,21 +29,25 @@ class ScriptedDice : public NumberSource {
   int beyond = 0;
 };
 
-/// Writes down what happens on the desktop, a line an event; `OnEvents` runs whenever events are delivered.
+/// Writes down what happens on the desktop, a line an event; `OnEvents` runs whenever events are delivered, `OnSleep`
+/// in every wait.
 class RecordingDesktop : public Desktop {
  public:
   explicit RecordingDesktop(TableControls& Controls) : t(Controls) {}
 
   std::vector<std::string> Log;
   bool Answer = true;
-  std::function<void()> OnEvents;
+  std::function<void()> OnEvents, OnSleep;
 
   void Refresh() override {
     if (t.lblStatus.Caption == LastStatus) return;
     LastStatus = t.lblStatus.Caption;
     Log.push_back("status " + LastStatus);
   }
-  void Sleep(int Milliseconds) override { Log.push_back("sleep " + std::to_string(Milliseconds)); }
+  void Sleep(int Milliseconds) override {
+    Log.push_back("sleep " + std::to_string(Milliseconds));
+    if (OnSleep) OnSleep();
+  }
   void PumpEvents() override {
     if (OnEvents) OnEvents();
   }
@@ -133,12 +137,15 @@ struct Table {
     game.FreshGame(Setup);
   }
 
-  /// Rolls so that the given faces come up; a person's tumbling dice are fed as well.
-  void Roll(std::initializer_list<int> Faces) {
+  /// The next roll brings the given faces up; a person's tumbling dice are fed as well.
+  void Script(std::initializer_list<int> Faces) {
     static constexpr int Cycles[] = {0, 20, 15, 10, 8, 7, 5};
     const bool Tumbles = !(m.PlayerIsComputer[m.CurrentPlayer] && Options.Speed >= SpeedRidiculous);
     if (Tumbles) Numbers.Faces.assign(Faces.size() * static_cast<std::size_t>(Cycles[Faces.size()]), 6);
     Numbers.Faces.insert(Numbers.Faces.end(), Faces);
+  }
+  void Roll(std::initializer_list<int> Faces) {
+    Script(Faces);
     game.cmdRoll_Click();
   }
 
