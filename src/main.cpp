@@ -3,6 +3,8 @@
 #include <QLoggingCategory>
 #include <QTimer>
 
+#include <cstdlib>
+
 #include "app/Application.h"
 
 namespace {
@@ -26,6 +28,11 @@ int main(int argc, char** argv) {
   QTimer::singleShot(IconDelay, [] { QApplication::setWindowIcon(QIcon(QStringLiteral(":/art/icon.svg"))); });
   QApplication::setQuitOnLastWindowClosed(false);
 
-  blunko::Application Program(blunko::Folders::OfProgram());
-  return Program.Main() ? QApplication::exec() : 0;
+  int Result = 0;
+  {
+    blunko::Application Program(blunko::Folders::OfProgram());
+    if (Program.Main()) Result = QApplication::exec();
+  }
+  // Qt would wait for the answer of a name server that the version check has long given up.
+  std::_Exit(Result);
 }

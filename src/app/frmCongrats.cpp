@@ -6,6 +6,7 @@
 
 #include <utility>
 
+#include "table/Colours.h"
 #include "table/Fonts.h"
 #include "table/Twips.h"
 #include "table/frmMain.h"
@@ -16,7 +17,6 @@ namespace {
 
 constexpr int EngravingTime = 500;  // ms
 constexpr int GreetingTop = 8;      // px
-const QColor Background(2, 127, 255);
 const QColor PlateColour(0, 0, 128);
 
 }  // namespace
@@ -26,7 +26,7 @@ frmCongrats::frmCongrats(Game& Table, frmMain& Main) : QDialog(&Main), game(Tabl
   const QString Winner = QString::fromStdString(game.m.PlayerName[game.m.Winner]);
   setWindowTitle(QStringLiteral("Congratulations %1 !!!").arg(Winner));
   QPalette Colours = palette();
-  Colours.setColor(QPalette::Window, Background);
+  Colours.setColor(QPalette::Window, FormBlue);
   setPalette(Colours);
   setFixedSize(main.picGameTray->width(), main.height());
 

@@ -8,6 +8,7 @@
 
 #include "Links.h"
 #include "app/Texts.h"
+#include "table/Colours.h"
 #include "table/Fonts.h"
 #include "table/QtDesktop.h"
 
@@ -17,7 +18,6 @@ namespace {
 
 constexpr int StepTime = 41;  // ms: more than 40 pass between two steps
 constexpr QSize ScrollSize(320, 260);
-const QColor BackColour(2, 127, 255);
 const QColor TextColour(255, 255, 0);
 constexpr int TextFlags = Qt::AlignHCenter | Qt::TextWordWrap;
 
@@ -35,7 +35,7 @@ int ScrollBox::TextHeight() const {
 
 void ScrollBox::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
-  Painter.fillRect(rect(), BackColour);
+  Painter.fillRect(rect(), FormBlue);
   Painter.setPen(TextColour);
   Painter.drawText(QRect(0, Top, width(), TextHeight()), TextFlags, Text);
 }

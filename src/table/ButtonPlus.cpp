@@ -8,6 +8,7 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
+#include "table/Colours.h"
 #include "table/Fonts.h"
 
 namespace blunko {
@@ -16,7 +17,6 @@ namespace {
 
 constexpr qreal Radius = 6;      // px
 constexpr int CaptionSpace = 8;  // px at either side
-const QColor FocusColour(255, 178, 36);
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "table/Colours.h"
 #include "table/Fonts.h"
 
 namespace blunko {
@@ -9,7 +10,6 @@ namespace blunko {
 namespace {
 
 constexpr int Margin = 4;  // px, room for the focus
-const QColor FocusColour(255, 178, 36);
 
 }  // namespace
 

@@ -1,6 +1,5 @@
 #include "table/QtDesktop.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QEventLoop>
 #include <QFile>
@@ -8,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 
 #include "storage/NameRule.h"
@@ -18,6 +18,20 @@ namespace blunko {
 namespace {
 
 constexpr int PromptWidth = 340;  // px
+
+/// Whoever has switched to another program meanwhile finds the box over the game all the same.
+QWidget* OwnerOfBox() {
+  if (QWidget* Active = QApplication::activeModalWidget()) return Active;
+  if (QWidget* Active = QApplication::activeWindow()) return Active;
+  for (QWidget* Window : QApplication::topLevelWidgets()) {
+    if (Window->isVisible() && Window->objectName() == QLatin1String("frmMain")) return Window;
+  }
+  return nullptr;
+}
+
+void TakeIconsOff(const QDialog& Box) {  // the words say it
+  for (auto* Button : Box.findChildren<QPushButton*>()) Button->setIcon({});
+}
 
 }  // namespace
 
@@ -60,7 +74,7 @@ void QtDesktop::SetMousePointer(MousePointer Pointer) {
 }
 
 QString QtDesktop::InputBox(const QString& Prompt, const QString& Title, const QString& Preset) {
-  QInputDialog Box(QApplication::activeWindow());
+  QInputDialog Box(OwnerOfBox());
   Box.setWindowTitle(Title);
   Box.setLabelText(Prompt);
   Box.setTextValue(HeldToNameRule(Preset));
@@ -73,16 +87,17 @@ QString QtDesktop::InputBox(const QString& Prompt, const QString& Title, const Q
     Line->setMaxLength(LongestName);
     Line->setValidator(new NameValidator(Line));
   }
+  TakeIconsOff(Box);
   return Box.exec() == QDialog::Accepted ? Box.textValue() : QString();
 }
 
 namespace {
 
-/// Runs a box over the active window and returns the button pressed.
+/// Runs a box over the game's window and returns the button pressed.
 int RunBox(QMessageBox::Icon Icon, const QString& Title, const QString& Text, QMessageBox::StandardButtons Buttons) {
-  QMessageBox Box(Icon, Title, Text, Buttons, QApplication::activeWindow());
+  QMessageBox Box(Icon, Title, Text, Buttons, OwnerOfBox());
   Box.setTextFormat(Qt::PlainText);
-  for (QAbstractButton* Button : Box.buttons()) Button->setIcon({});  // the words say it
+  TakeIconsOff(Box);
   if (Buttons.testFlag(QMessageBox::No)) {
     Box.setDefaultButton(QMessageBox::No);
     Box.setEscapeButton(QMessageBox::No);

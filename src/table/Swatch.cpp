@@ -2,15 +2,10 @@
 
 #include <QPainter>
 
+#include "table/Colours.h"
 #include "table/TickBox.h"
 
 namespace blunko {
-
-namespace {
-
-const QColor FocusColour(255, 178, 36);
-
-}  // namespace
 
 Swatch::Swatch(const QColor& Colour, const QColor& Tick, QWidget* Parent)
     : QAbstractButton(Parent), colour(Colour), tick(Tick) {

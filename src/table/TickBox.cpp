@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include "table/Colours.h"
+
 namespace blunko {
 
 namespace {
@@ -10,7 +12,6 @@ constexpr int Side = 15;  // px, of the square
 constexpr int Ring = 2;   // px around it, for the focus
 const QColor Frame(40, 40, 60);
 const QColor Tick(0, 0, 128);
-const QColor FocusColour(255, 178, 36);
 
 }  // namespace
 

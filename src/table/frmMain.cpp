@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include "engine/ScoreDice.h"
+#include "storage/GameSettings.h"
 #include "table/Fonts.h"
 #include "table/KeyCodes.h"
 #include "table/Twips.h"
@@ -262,7 +263,7 @@ void frmMain::PaintTrays(const QColor& Tray1, const QColor& Tray2) {
   }
 }
 
-void frmMain::ShowBackground(const QString& Path) { Image1->Load(Path == QLatin1String("(None)") ? QString() : Path); }
+void frmMain::ShowBackground(const QString& Path) { Image1->Load(Path == NoBackground ? QString() : Path); }
 
 void frmMain::ColourLabels(std::uint32_t Colour) {
   for (FitLabel* Label : picGameTray->findChildren<FitLabel*>(Qt::FindDirectChildrenOnly)) {

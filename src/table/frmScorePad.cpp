@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <QScreen>
 
+#include "table/Colours.h"
 #include "table/Fonts.h"
 #include "table/Twips.h"
 
@@ -15,7 +16,6 @@ namespace {
 constexpr int Width = 2595;                                      // twips
 constexpr int GapToTable = 175;                                  // twips
 constexpr int FirstRow = 1380, RowPitch = 420, RowHeight = 375;  // twips
-const QColor Background(2, 127, 255);
 const QColor SeatOnTurn(0x30, 0xFF, 0x30);
 const QColor OtherSeat(Qt::black);
 const QColor Heading(Qt::yellow);
@@ -30,7 +30,7 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
   setWindowTitle(QStringLiteral(" Score Pad"));
   setAttribute(Qt::WA_ShowWithoutActivating);
   QPalette Colours = palette();
-  Colours.setColor(QPalette::Window, Background);
+  Colours.setColor(QPalette::Window, FormBlue);
   setPalette(Colours);
   setAutoFillBackground(true);
 
