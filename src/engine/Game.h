@@ -45,6 +45,8 @@ class Game {
   void CheckSelection();
   void SetStatus(std::string_view Text);
   std::int16_t PointsNeeded() const;
+  /// All dice take their pictures afresh from the dice set of the settings.
+  void RedrawDice();
 
   // Commands of a person. These look first whether a person may act at all.
   void PersonClicksDie(std::int16_t Index, std::int16_t Button);

@@ -24,7 +24,7 @@ ButtonPlus::ButtonPlus(const QString& Caption, QWidget* Parent)
     : QPushButton(Caption, Parent), backColor(palette().color(QPalette::Button)) {
   setFont(FontOf(Typeface::Verdana, 9.75));
   setAttribute(Qt::WA_Hover);
-  setAutoDefault(false);
+  setAutoDefault(true);  // Enter presses it, too
 }
 
 void ButtonPlus::setBackColor(const QColor& Colour) {

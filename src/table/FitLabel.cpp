@@ -7,7 +7,8 @@ namespace blunko {
 
 namespace {
 
-constexpr int SmallestText = 9;  // px
+constexpr int SmallestText = 9;    // px
+constexpr qreal Narrowest = 0.85;  // letters are narrowed so far before they get smaller; the smallest even further
 
 }  // namespace
 
@@ -21,13 +22,19 @@ void FitLabel::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
   QFont Font = font();
   const int Flags = static_cast<int>(alignment());
+  QRectF Room = contentsRect();
   const auto Needed = [&] { return QFontMetrics(Font).size(Flags, text()).width(); };
-  while (Font.pixelSize() > SmallestText && Needed() > width()) Font.setPixelSize(Font.pixelSize() - 1);
+  while (Font.pixelSize() > SmallestText && Needed() * Narrowest > Room.width()) {
+    Font.setPixelSize(Font.pixelSize() - 1);
+  }
   Painter.setFont(Font);
-  QRect Room = rect();
-  if (Needed() > width()) {  // smaller letters couldn't be read: these are narrowed
-    Room.setWidth(Needed());
-    Painter.scale(static_cast<qreal>(width() - 1) / Room.width(), 1);
+  // Smaller letters stand on the line of the others.
+  if (alignment() & Qt::AlignTop) Room.translate(0, fontMetrics().ascent() - QFontMetrics(Font).ascent());
+  const int Width = Needed();
+  if (Width > Room.width()) {
+    Painter.translate(Room.topLeft());
+    Painter.scale((Room.width() - 1) / Width, 1);
+    Room = QRectF(0, 0, Width, Room.height());
   }
   QColor Ink = foreColor;
   if (testAttribute(Qt::WA_ForceDisabled)) Ink.setAlphaF(0.5F);  // not faded together with a table that stands still

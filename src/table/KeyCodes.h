@@ -10,6 +10,10 @@ namespace blunko {
 inline std::int16_t KeyCodeOf(const QKeyEvent& Event) {
   const int Key = Event.key();
   const bool NumPad = Event.modifiers().testFlag(Qt::KeypadModifier);
+  // The row above the letters counts by its place: not every keyboard has the digits there without Shift.
+  constexpr quint32 FirstDigitKey = 10, LastDigitKey = 15;  // scan codes of 1 to 6, under X11 and Wayland alike
+  const quint32 Place = Event.nativeScanCode();
+  if (Place >= FirstDigitKey && Place <= LastDigitKey) return static_cast<std::int16_t>(49 + Place - FirstDigitKey);
   if (Key >= Qt::Key_0 && Key <= Qt::Key_9) return static_cast<std::int16_t>((NumPad ? 96 : 48) + (Key - Qt::Key_0));
   switch (Key) {
     case Qt::Key_Backspace: return 8;

@@ -19,7 +19,9 @@ namespace {
 
 constexpr int PanelWidth = 2385, PanelHeight = 7695;  // twips; the table covers the rest of the panel
 constexpr int StripWidth = 1890;                      // twips, of the panel on the screen
-const QColor ListText(0, 0, 128);
+const QColor ListText(0, 0, 128), ListGround(250, 250, 252);
+
+constexpr int CommandHeight = 27;  // px
 
 // A thin line all round, with the caption in it: the style's own group boxes take more height than the strip has.
 const QString FrameStyle = QStringLiteral(
@@ -87,7 +89,7 @@ void OptionsPanel::Build() {
   }
   Sound->addLayout(OnOff);
   cmdCustomizeSounds = Add(Sound, new ButtonPlus(tr("Customize")), QStringLiteral("cmdCustomizeSounds"));
-  cmdCustomizeSounds->setMinimumHeight(26);
+  cmdCustomizeSounds->setFixedHeight(CommandHeight);
   connect(cmdCustomizeSounds, &QPushButton::clicked, this, [this] {
     if (OnCustomizeSounds) OnCustomizeSounds();
   });
@@ -103,16 +105,14 @@ void OptionsPanel::Build() {
   lstSkin = Add(Skin, new QListWidget, QStringLiteral("lstSkin"));
   lstSkin->setAccessibleName(tr("Background"));
   lstSkin->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  lstSkin->setMinimumHeight(90);
+  lstSkin->setMinimumHeight(60);
   connect(lstSkin, &QListWidget::currentRowChanged, this, &OptionsPanel::lstSkin_Click);
   // A click on the picture that is shown already brings its text colour back.
-  connect(lstSkin, &QListWidget::itemClicked, this, [this] {
-    if (lstSkin->currentRow() == entryShown) lstSkin_Click(entryShown);
-  });
+  connect(lstSkin, &QListWidget::itemClicked, this, [this] { lstSkin_Click(lstSkin->currentRow()); });
   for (QWidget* List : std::initializer_list<QWidget*>{cboDiceColor, cboDiceColor->view(), lstSkin}) {
     QPalette Ink = List->palette();
-    Ink.setColor(QPalette::Text, ListText);
-    Ink.setColor(QPalette::ButtonText, ListText);
+    for (const QPalette::ColorRole Letters : {QPalette::Text, QPalette::ButtonText}) Ink.setColor(Letters, ListText);
+    for (const QPalette::ColorRole Ground : {QPalette::Base, QPalette::Button}) Ink.setColor(Ground, ListGround);
     List->setPalette(Ink);
   }
 
@@ -137,6 +137,7 @@ void OptionsPanel::Build() {
   const auto Command = [&](const char* Name, const QString& Caption) {
     auto* Made = new ButtonPlus(Caption, this);
     Made->setObjectName(QLatin1String(Name));
+    Made->setFixedHeight(CommandHeight);
     Outer->addWidget(Made);
     return Made;
   };
@@ -177,12 +178,15 @@ void OptionsPanel::SnapshotOptions() {
   const QSignalBlocker Filling(lstSkin);
   lstSkin->clear();
   lstSkin->addItem(NoBackground);
-  for (const QString& Name : backgrounds.BackgroundFiles) lstSkin->addItem(FileBaseName(Name));
-  entryShown = 0;
-  for (int i = 1; i < lstSkin->count() && entryShown == 0 && SavedBackground != NoBackground; ++i) {
-    if (lstSkin->item(i)->text() == FileBaseName(SavedBackground)) entryShown = i;
+  int Current = 0;
+  for (const QString& Name : backgrounds.BackgroundFiles) {
+    lstSkin->addItem(FileBaseName(Name));
+    lstSkin->item(lstSkin->count() - 1)->setToolTip(Name);
+    const bool IsShown = SavedBackground != NoBackground && FileBaseName(Name) == FileBaseName(SavedBackground);
+    if (IsShown && Current == 0) Current = lstSkin->count() - 1;
   }
-  lstSkin->setCurrentRow(entryShown);
+  lstSkin->setCurrentRow(Current);
+  backgroundChosen = false;
 
   SavedTray1Colour = form.picTray1->BackColor();
   SavedTray2Colour = form.picTray2->BackColor();
@@ -212,7 +216,7 @@ void OptionsPanel::ShowSet(const DiceSet& Set, const QColor& Colour) {
 
 void OptionsPanel::lstSkin_Click(int Entry) {
   if (Entry < 0) return;
-  entryShown = Entry;
+  backgroundChosen = true;
   if (Entry == 0) {
     form.ShowBackground(NoBackground);
     lblColor_Click(0);
@@ -253,8 +257,10 @@ void OptionsPanel::StoreOptionControls() {
 
 void OptionsPanel::ApplyOptions() {
   if (!settings.MarkScorers()) game.t.picMarker.fill(false);
-  const int Entry = lstSkin->currentRow();
-  settings.setBackground(Entry > 0 ? backgrounds.PathOf(backgrounds.BackgroundFiles[Entry - 1]) : NoBackground);
+  if (backgroundChosen) {  // else it stays as it is, also one that the list doesn't hold
+    const int Entry = lstSkin->currentRow();
+    settings.setBackground(Entry > 0 ? backgrounds.PathOf(backgrounds.BackgroundFiles[Entry - 1]) : NoBackground);
+  }
   form.ShowBackground(settings.Background());
   for (int i = 0; i < 8; ++i) {
     if (lblColor[i]->isChecked()) settings.setTextColourIndex(i);
@@ -263,7 +269,7 @@ void OptionsPanel::ApplyOptions() {
   if (const DiceSet* Set = FindDiceSet(cboDiceColor->currentText())) {
     settings.setDieColour(static_cast<std::int16_t>(Set->Base));
   }
-  RedrawDice();
+  game.RedrawDice();
 }
 
 void OptionsPanel::RevertOptions() {
@@ -272,17 +278,7 @@ void OptionsPanel::RevertOptions() {
   form.ColourLabels(settings.TextColour());
   settings.setDieColour(SavedDieColour);
   form.PaintTrays(SavedTray1Colour, SavedTray2Colour);
-  RedrawDice();
-}
-
-/// All dice take their pictures from the set of the settings.
-void OptionsPanel::RedrawDice() {
-  const Module1& m = game.m;
-  const auto PictureOf = [this](int Face) { return Face == 0 ? 0 : settings.DieColour() + Face; };
-  for (int i = 0; i < Dice; ++i) {
-    game.t.Picture1(i) = PictureOf(m.ShownFace[i]);
-    game.t.Picture1(10 + i) = PictureOf(m.TrayFace[i]);
-  }
+  game.RedrawDice();
 }
 
 /// The window shrinks again. What the buttons may do now is the game's record, not what they could at the opening.

@@ -65,14 +65,13 @@ class OptionsPanel : public QWidget {
   void lstSkin_Click(int Entry);
   void lblColor_Click(int Index);
   void ShowSet(const DiceSet& Set, const QColor& Colour);
-  void RedrawDice();
 
   frmMain& form;
   Game& game;
   GameSettings& settings;
   Backgrounds backgrounds;
   bool open = false;
-  int entryShown = 0;  ///< of `lstSkin`, as the last click handler showed it
+  bool backgroundChosen = false;  ///< a picture, or none, has been clicked since the opening
 
   // How things were at the opening.
   QString SavedBackground;

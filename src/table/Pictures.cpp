@@ -36,6 +36,7 @@ void SvgBox::paintEvent(QPaintEvent*) {
 }
 
 void StretchedPicture::Load(const QString& Path) {
+  if (Path == path && !drawn.isNull()) return;
   path = Path;
   drawn = {};
   Draw();
@@ -48,7 +49,9 @@ void StretchedPicture::Draw() {
   const qreal Scale = devicePixelRatioF();
   QImageReader Reader(path);
   Reader.setAutoTransform(true);
-  Reader.setScaledSize((QSizeF(size()) * Scale).toSize());
+  const QSize Wanted = (QSizeF(size()) * Scale).toSize();
+  const bool Turned = Reader.transformation() & QImageIOHandler::TransformationRotate90;  // comes after the scaling
+  Reader.setScaledSize(Turned ? Wanted.transposed() : Wanted);
   const QImage Picture = Reader.read();
   if (Picture.isNull()) return;
   drawn = QPixmap::fromImage(Picture);

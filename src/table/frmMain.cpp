@@ -199,7 +199,9 @@ void frmMain::ConnectControls() {
 
 void frmMain::ShowControls() {
   const TableControls& t = game.t;
-  picGameTray->setEnabled(t.picGameTray.Enabled);
+  for (QWidget* Panel : std::initializer_list<QWidget*>{picGameTray, lblMnuGame, lblMnuHelp}) {
+    Panel->setEnabled(t.picGameTray.Enabled);
+  }
   Show(ARCmdNewGame, t.ARCmdNewGame);
   Show(cmdRoll, t.cmdRoll);
   Show(cmdPassDice, t.cmdPassDice);
@@ -286,7 +288,8 @@ void frmMain::SetStripWidth(int Width) {
 
 void frmMain::CentreOnScreen() {
   const QRect Screen = screen()->availableGeometry();
-  move(Screen.center() - QPoint(width() / 2, height() / 2));
+  const QPoint Corner = Screen.center() - QPoint(width() / 2, height() / 2);
+  move(qMax(Corner.x(), Screen.left()), qMax(Corner.y(), Screen.top()));  // a small screen cuts the lower edge
 }
 
 void frmMain::showEvent(QShowEvent* Event) {

@@ -58,6 +58,7 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
     const int Top = FirstRow + RowPitch * i;
     lblPlayer[i] = Text(QStringLiteral("lblPlayer(%1)").arg(i), {}, TwipsRect(240, Top, 1560, RowHeight), Qt::AlignLeft,
                         OtherSeat);
+    lblPlayer[i]->setContentsMargins(0, 0, 4, 0);  // a long name keeps away from the score
     lblScore[i] =
         Text(QStringLiteral("lblScore(%1)").arg(i), {}, TwipsRect(1800, Top, 750, 255), Qt::AlignLeft, OtherSeat);
   }
