@@ -185,7 +185,9 @@ void HelpWindow::PlaceBeside(const QWidget* Table) {
   const int Room = Table->frameGeometry().left() - Screen.left() - 2 * Gap;
   resize(qBound(NarrowestWindow, Room, WidestWindow), qMin(Height, Screen.height() - 4 * Gap));
   const int Left = Table->frameGeometry().left() - Gap - width();
-  move(qMax(Screen.left(), Left), qBound(Screen.top(), Table->frameGeometry().top(), Screen.bottom() - height()));
+  const int Frame = Table->frameGeometry().height() - Table->height();
+  const int Lowest = qMax(Screen.top(), Screen.bottom() - height() - Frame);
+  move(qMax(Screen.left(), Left), qBound(Screen.top(), Table->frameGeometry().top(), Lowest));
 }
 
 QUrl HelpWindow::AddressOf(const QString& Topic) const {

@@ -21,7 +21,7 @@ const QColor PlateColour(0, 0, 128);
 
 }  // namespace
 
-frmCongrats::frmCongrats(Game& Table, frmMain& Main) : QDialog(&Main), game(Table), main(Main) {
+frmCongrats::frmCongrats(Game& Table, frmMain& Main) : PlacedDialog(&Main), game(Table), main(Main) {
   setObjectName(QStringLiteral("frmCongrats"));
   const QString Winner = QString::fromStdString(game.m.PlayerName[game.m.Winner]);
   setWindowTitle(QStringLiteral("Congratulations %1 !!!").arg(Winner));
@@ -52,7 +52,8 @@ frmCongrats::frmCongrats(Game& Table, frmMain& Main) : QDialog(&Main), game(Tabl
     auto* Made = new ButtonPlus(Caption, this);
     Made->setObjectName(QLatin1String(Name));
     Made->setGeometry(TwipsRect(Left, 6990, 1695, 495));
-    Made->setAutoDefault(true);
+    Made->setFont(FontOf(Typeface::Verdana, 8.25));  // the longest caption fits
+    Made->setEnabled(false);
     connect(Made, &QPushButton::clicked, this, [this, Word, Beeps] {
       if (Beeps) game.desktop.Beep();
       game.m.FormMessage = Word;
@@ -69,14 +70,15 @@ frmCongrats::frmCongrats(Game& Table, frmMain& Main) : QDialog(&Main), game(Tabl
   FixButtonColours(*this);
 }
 
+QPoint frmCongrats::Corner() const { return main.TableCorner(); }
+
 void frmCongrats::showEvent(QShowEvent* Event) {
-  move(main.TableCorner());
-  QDialog::showEvent(Event);
+  PlacedDialog::showEvent(Event);
   QTimer::singleShot(0, this, &frmCongrats::Form_Activate);
 }
 
 void frmCongrats::changeEvent(QEvent* Event) {
-  QDialog::changeEvent(Event);
+  PlacedDialog::changeEvent(Event);
   if (Event->type() != QEvent::ActivationChange) return;
   // The first activation may come late: it's no return.
   if (!isActiveWindow()) {
@@ -93,6 +95,10 @@ void frmCongrats::Form_Activate() {
   game.desktop.Sleep(EngravingTime);
   game.desktop.PlaySoundFile(game.Settings.GetSound("GameOver"), false);
   lblWinner->setText(QStringLiteral("* %1 *").arg(QString::fromStdString(game.m.PlayerName[game.m.Winner])));
+  // The last keys of the game, typed ahead, aren't meant for the buttons.
+  game.desktop.PumpEvents();
+  for (ButtonPlus* Button : {cmdSameGame, cmdDifferentGame, cmdQuit}) Button->setEnabled(true);
+  cmdSameGame->setFocus();
   engraving = false;
 }
 

@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QDialog>
-
 #include "engine/Game.h"
 #include "table/ButtonPlus.h"
 #include "table/FitLabel.h"
 #include "table/Pictures.h"
+#include "table/PlacedDialog.h"
 
 namespace blunko {
 
@@ -13,7 +12,7 @@ class frmMain;
 
 /// The game-over dialog: a trophy with the winner's name on its plate, and three buttons that leave a word in
 /// `FormMessage`.
-class frmCongrats : public QDialog {
+class frmCongrats : public PlacedDialog {
   Q_OBJECT
 
  public:
@@ -27,6 +26,7 @@ class frmCongrats : public QDialog {
   ButtonPlus* cmdQuit;
 
  protected:
+  QPoint Corner() const override;
   void showEvent(QShowEvent* Event) override;
   void changeEvent(QEvent* Event) override;
 

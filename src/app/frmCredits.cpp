@@ -89,8 +89,8 @@ void frmCredits::showEvent(QShowEvent* Event) {
 /// Starts the scrolling: the text stands just below the lower edge.
 void frmCredits::ScrollCredits() {
   if (!isVisible()) return;
-  height = picScroll->TextHeight();
-  if (height == 0) {
+  textHeight = picScroll->TextHeight();
+  if (textHeight == 0) {
     QMessageBox::warning(this, ProductName, tr("Error scrolling text"));
     reject();
     return;
@@ -101,7 +101,7 @@ void frmCredits::ScrollCredits() {
 }
 
 void frmCredits::Step() {
-  if (--picScroll->Top < -height) picScroll->Top = picScroll->height();  // gone at the upper edge: again from below
+  if (--picScroll->Top < -textHeight) picScroll->Top = picScroll->height();  // gone at the upper edge: again from below
   picScroll->update();
 }
 

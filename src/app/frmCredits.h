@@ -52,7 +52,7 @@ class frmCredits : public QDialog {
   void Step();
 
   QTimer steps;
-  int height = 0;  ///< of the text
+  int textHeight = 0;  ///< of the text
 };
 
 }  // namespace blunko

@@ -33,15 +33,16 @@ const QColor ButtonColour(137, 189, 255);
 }  // namespace
 
 frmCustomizeSounds::frmCustomizeSounds(Game& Table, GameSettings& Options, QWidget* Owner)
-    : QDialog(Owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                         Qt::WindowCloseButtonHint),
+    : PlacedDialog(Owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                              Qt::WindowCloseButtonHint),
       game(Table),
       settings(Options) {
   setObjectName(QStringLiteral("frmCustomizeSounds"));
   setWindowTitle(QStringLiteral("Customize Sounds"));
   setFont(FontOf(Typeface::Verdana, 8.25));
   PickFile = [this](const QString& Title) {
-    const QString Path = QFileDialog::getOpenFileName(this, Title, QString(), tr("Wav Files (*.wav)"));
+    const QString Path =
+        QFileDialog::getOpenFileName(this, Title, QFile::decodeName(ChosenFile().c_str()), tr("Wav Files (*.wav)"));
     return Path.isEmpty() ? NothingPicked : Path;
   };
   Build();
@@ -120,11 +121,11 @@ void frmCustomizeSounds::Form_Load() {
 }
 
 /// Centred on the owner. The window's frame isn't known yet; it will be like the owner's.
-void frmCustomizeSounds::showEvent(QShowEvent* Event) {
+/// In the middle of the owner, whose frame the dialog's own will be like.
+QPoint frmCustomizeSounds::Corner() const {
   const QRect Around = parentWidget()->frameGeometry();
   const QSize Frame = Around.size() - parentWidget()->size();
-  move(Around.center() - QRect(QPoint(), sizeHint() + Frame).center());
-  QDialog::showEvent(Event);
+  return Around.center() - QRect(QPoint(), sizeHint() + Frame).center();
 }
 
 std::string& frmCustomizeSounds::ChosenFile() { return EventFile[static_cast<std::size_t>(lstEvents->currentRow())]; }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QDialog>
-
 #include <array>
 #include <functional>
 #include <string>
@@ -9,6 +7,7 @@
 #include "engine/Game.h"
 #include "storage/GameSettings.h"
 #include "table/ButtonPlus.h"
+#include "table/PlacedDialog.h"
 
 class QLineEdit;
 class QListWidget;
@@ -17,7 +16,7 @@ namespace blunko {
 
 /// The dialog in which a player puts wave files of their own on the events of the game. Nothing reaches the settings
 /// before OK.
-class frmCustomizeSounds : public QDialog {
+class frmCustomizeSounds : public PlacedDialog {
   Q_OBJECT
 
  public:
@@ -35,7 +34,7 @@ class frmCustomizeSounds : public QDialog {
   ButtonPlus* cmdCancel;
 
  protected:
-  void showEvent(QShowEvent* Event) override;
+  QPoint Corner() const override;
   bool eventFilter(QObject* Watched, QEvent* Event) override;
 
  private:

@@ -21,6 +21,7 @@ namespace blunko {
 namespace {
 
 constexpr int InnerWidth = 6000;                       // twips
+constexpr int SeatGap = 2;                             // px, within the pitch
 constexpr int SmallestHeight = 3495, SeatPitch = 360;  // twips
 constexpr int OffsetLeft = 500, OffsetTop = 1550;      // twips, from the table's window
 
@@ -29,7 +30,7 @@ const char* const CountWords[] = {"One", "Two", "Three", "Four", "Five", "Six", 
 }  // namespace
 
 frmNewGame::frmNewGame(Game& Table, const IniInfo& Info, const GameSettings& Options, QWidget* Main)
-    : QDialog(Main), game(Table), info(Info), settings(Options), frmMain(Main) {
+    : PlacedDialog(Main), game(Table), info(Info), settings(Options), frmMain(Main) {
   setObjectName(QStringLiteral("frmNewGame"));
   setWindowTitle(QStringLiteral(" Start New Game - Tollmoor Blunko"));
   setFont(FontOf(Typeface::Verdana, 8.25));
@@ -66,7 +67,7 @@ void frmNewGame::Build() {
 
   auto* Seats = new QGridLayout;
   Seats->setHorizontalSpacing(10);
-  Seats->setVerticalSpacing(0);
+  Seats->setVerticalSpacing(SeatGap);
   Seats->setColumnStretch(0, 1);
   const auto Heading = [&](const QString& Caption, int Column) {
     auto* Made = new QLabel(Caption, this);
@@ -96,10 +97,7 @@ void frmNewGame::Build() {
     Seats->addWidget(cboStyle[i], i + 1, 2);
     for (QWidget* Cell : {static_cast<QWidget*>(TxtPlayerName[i]), static_cast<QWidget*>(chkComputer[i]),
                           static_cast<QWidget*>(cboStyle[i])}) {
-      Cell->setFixedHeight(Pixels(SeatPitch));
-      QSizePolicy KeepsPlace = Cell->sizePolicy();  // a hidden cell leaves the columns as they are
-      KeepsPlace.setRetainSizeWhenHidden(false);
-      Cell->setSizePolicy(KeepsPlace);
+      Cell->setFixedHeight(Pixels(SeatPitch) - SeatGap);
     }
     connect(chkComputer[i], &QCheckBox::toggled, this, [this, i] { chkComputer_Click(i); });
     connect(optNumPlayers[i], &QRadioButton::toggled, this, [this, i](bool On) {
@@ -115,7 +113,6 @@ void frmNewGame::Build() {
   cmdSetDefault = new ButtonPlus(tr("Save Game Setup as Default"), this);
   cmdSetDefault->setToolTip(QStringLiteral(
       " Click here to make Tollmoor Blunko always start with this game setup (same players and scoring options.) "));
-  cmdPlay->setAutoDefault(true);
   cmdPlay->setDefault(true);
   auto* Buttons = new QHBoxLayout;
   Buttons->addWidget(cmdPlay, 1);
@@ -186,11 +183,7 @@ void frmNewGame::Form_Activate() {
   cmdPlay->setFocus();
 }
 
-void frmNewGame::showEvent(QShowEvent* Event) {
-  const QPoint Corner = frmMain->pos();
-  move(Corner + QPoint(Pixels(OffsetLeft), Pixels(OffsetTop)));
-  QDialog::showEvent(Event);
-}
+QPoint frmNewGame::Corner() const { return frmMain->pos() + QPoint(Pixels(OffsetLeft), Pixels(OffsetTop)); }
 
 void frmNewGame::optNumPlayers_Click(int Index) {
   const SavedSetup Layout = SavedSetup::ForPlayers(Index + 1);
@@ -227,7 +220,7 @@ bool frmNewGame::eventFilter(QObject* Watched, QEvent* Event) {
     // After the click that brought the focus has placed its cursor.
     if (auto* Name = qobject_cast<QLineEdit*>(Watched)) QTimer::singleShot(0, Name, &QLineEdit::selectAll);
   }
-  return QDialog::eventFilter(Watched, Event);
+  return PlacedDialog::eventFilter(Watched, Event);
 }
 
 SavedSetup frmNewGame::ShownSetup() const {

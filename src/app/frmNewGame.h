@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QDialog>
-
 #include <array>
 #include <optional>
 
 #include "engine/Game.h"
 #include "storage/SavedSetup.h"
 #include "table/ButtonPlus.h"
+#include "table/PlacedDialog.h"
 
 class QCheckBox;
 class QComboBox;
@@ -18,7 +17,7 @@ namespace blunko {
 
 /// The dialog in which seats and scores of a game are chosen, and through which every game begins. It also saves the
 /// default game.
-class frmNewGame : public QDialog {
+class frmNewGame : public PlacedDialog {
   Q_OBJECT
 
  public:
@@ -42,7 +41,7 @@ class frmNewGame : public QDialog {
 
  protected:
   bool eventFilter(QObject* Watched, QEvent* Event) override;
-  void showEvent(QShowEvent* Event) override;
+  QPoint Corner() const override;
 
  private:
   void Build();

@@ -82,10 +82,13 @@ class Game {
   void FlashLastRoll();
   void HideMarkers();
   void ClearDice();
+  bool PumpBeforeNewGame();
   void GiveUpGame();
   bool IsComputerTurn() const { return m.CurrentPlayer != Absent && m.PlayerIsComputer[m.CurrentPlayer]; }
   bool PersonMayPlay() const;
   bool SomebodyIsAPerson() const;
+
+  bool newGameIsPending = false;
 };
 
 }  // namespace blunko

@@ -55,16 +55,23 @@ void Game::FreshGame(const GameSetup& Setup) {
   if (IsComputerTurn()) program.RunComputerTurn();
 }
 
-void Game::ARCmdNewGame_Click() {
+/// Delivers the waiting events. False: a command that came in with them has begun another game, or this is the second
+/// of two that were given in a hurry, and the first goes on by itself.
+bool Game::PumpBeforeNewGame() {
+  if (newGameIsPending) return false;
+  newGameIsPending = true;
   const auto Played = m.GameNumber;
   desktop.PumpEvents();
-  if (!m.Quitting && m.GameNumber == Played) program.ShowNewGame();
+  newGameIsPending = false;
+  return !m.Quitting && m.GameNumber == Played;
+}
+
+void Game::ARCmdNewGame_Click() {
+  if (PumpBeforeNewGame()) program.ShowNewGame();
 }
 
 void Game::mnuNewGame_Click() {
-  const auto Played = m.GameNumber;
-  desktop.PumpEvents();
-  if (m.Quitting || m.GameNumber != Played) return;  // a command that came in here has begun another game
+  if (!PumpBeforeNewGame()) return;
   if (m.CurrentPlayer != Absent) {
     desktop.Beep();
     if (m.FormMessage != "RestartGame" &&

@@ -1,7 +1,10 @@
 #include "table/FitLabel.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+
+#include "table/Colours.h"
 
 namespace blunko {
 
@@ -20,6 +23,10 @@ void FitLabel::setForeColor(const QColor& Colour) {
 
 void FitLabel::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
+  if (hasFocus()) {
+    Painter.setPen(QPen(FocusColour, 2));
+    Painter.drawRect(rect().adjusted(1, 1, -1, -1));
+  }
   QFont Font = font();
   const int Flags = static_cast<int>(alignment());
   QRectF Room = contentsRect();
@@ -40,6 +47,15 @@ void FitLabel::paintEvent(QPaintEvent*) {
   if (testAttribute(Qt::WA_ForceDisabled)) Ink.setAlphaF(0.5F);  // not faded together with a table that stands still
   Painter.setPen(Ink);
   Painter.drawText(Room, Flags, text());
+}
+
+void FitLabel::keyPressEvent(QKeyEvent* Event) {
+  const int Key = Event->key();
+  if (Key == Qt::Key_Space || Key == Qt::Key_Return || Key == Qt::Key_Enter) {
+    emit clicked();
+  } else {
+    QLabel::keyPressEvent(Event);
+  }
 }
 
 void FitLabel::mousePressEvent(QMouseEvent* Event) { Event->accept(); }

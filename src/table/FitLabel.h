@@ -23,6 +23,7 @@ class FitLabel : public QLabel {
   void paintEvent(QPaintEvent* Event) override;
   void mouseReleaseEvent(QMouseEvent* Event) override;
   void mousePressEvent(QMouseEvent* Event) override;
+  void keyPressEvent(QKeyEvent* Event) override;
 
  private:
   QColor foreColor = Qt::black;

@@ -15,6 +15,10 @@ inline std::int16_t KeyCodeOf(const QKeyEvent& Event) {
   const quint32 Place = Event.nativeScanCode();
   if (Place >= FirstDigitKey && Place <= LastDigitKey) return static_cast<std::int16_t>(49 + Place - FirstDigitKey);
   if (Key >= Qt::Key_0 && Key <= Qt::Key_9) return static_cast<std::int16_t>((NumPad ? 96 : 48) + (Key - Qt::Key_0));
+  if (Key > Qt::Key_AsciiTilde && Key < Qt::Key_Escape) {  // letters of another script: those of the places count
+    constexpr quint32 PlaceOfR = 27, PlaceOfP = 33;
+    return Place == PlaceOfR ? 82 : Place == PlaceOfP ? 80 : 0;
+  }
   switch (Key) {
     case Qt::Key_Backspace: return 8;
     case Qt::Key_Escape: return 27;

@@ -19,10 +19,9 @@ namespace {
 
 constexpr int PromptWidth = 340;  // px
 
-/// Whoever has switched to another program meanwhile finds the box over the game all the same.
+/// A box belongs over the dialog that is open, else over the table, whatever other window is active.
 QWidget* OwnerOfBox() {
-  if (QWidget* Active = QApplication::activeModalWidget()) return Active;
-  if (QWidget* Active = QApplication::activeWindow()) return Active;
+  if (QWidget* Dialog = QApplication::activeModalWidget()) return Dialog;
   for (QWidget* Window : QApplication::topLevelWidgets()) {
     if (Window->isVisible() && Window->objectName() == QLatin1String("frmMain")) return Window;
   }
@@ -107,7 +106,7 @@ int RunBox(QMessageBox::Icon Icon, const QString& Title, const QString& Text, QM
 
 }  // namespace
 
-void ShowMessage(const QString& Text) { RunBox(QMessageBox::Information, ProductName, Text, QMessageBox::Ok); }
+void ShowMessage(const QString& Text) { RunBox(QMessageBox::NoIcon, ProductName, Text, QMessageBox::Ok); }
 
 bool AskQuestion(const QString& Text, const QString& Title) {
   return RunBox(QMessageBox::Question, Title, Text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;

@@ -142,7 +142,10 @@ void frmMain::PlaceControls() {
   lblTurnScore = Text("lblTurnScore", {}, QRect(200, 330, 185, 26), 11.25, true, Qt::AlignLeft);
   lblMnuGame = Text("lblMnuGame", tr("Game"), QRect(12, 5, 38, 17), 8.25, false, Qt::AlignLeft);
   lblMnuHelp = Text("lblMnuHelp", tr("Help"), QRect(60, 5, 34, 17), 8.25, false, Qt::AlignLeft);
-  for (FitLabel* Menu : {lblMnuGame, lblMnuHelp}) Menu->setCursor(Qt::PointingHandCursor);
+  for (FitLabel* Menu : {lblMnuGame, lblMnuHelp}) {
+    Menu->setCursor(Qt::PointingHandCursor);
+    Menu->setFocusPolicy(Qt::TabFocus);
+  }
 }
 
 void frmMain::BuildMenus() {
@@ -318,18 +321,20 @@ void frmMain::changeEvent(QEvent* Event) {
 }
 
 void frmMain::keyPressEvent(QKeyEvent* Event) {
-  if (!Event->isAutoRepeat()) keysDown.insert(Event->key());
+  if (!Event->isAutoRepeat()) keysDown[Event->key()] = ShiftMaskOf(*Event);
   QWidget::keyPressEvent(Event);
 }
 
 void frmMain::keyReleaseEvent(QKeyEvent* Event) {
   // A key that was pressed in a dialog, now closed, is no command here; nor is a key held down.
-  if (Event->isAutoRepeat() || keysDown.erase(Event->key()) == 0) {
+  const auto Pressed = keysDown.find(Event->key());
+  if (Event->isAutoRepeat() || Pressed == keysDown.end()) {
     QWidget::keyReleaseEvent(Event);
     return;
   }
   const std::int16_t Code = KeyCodeOf(*Event);
-  const std::int16_t Shift = ShiftMaskOf(*Event);
+  const std::int16_t Shift = Pressed->second;  // also when Shift was let go first
+  keysDown.erase(Pressed);
   Handle([=, this] { game.Form_KeyUp(Code, Shift); });
 }
 

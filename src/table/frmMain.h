@@ -4,7 +4,7 @@
 
 #include <array>
 #include <functional>
-#include <set>
+#include <map>
 
 #include "engine/Game.h"
 #include "table/ButtonPlus.h"
@@ -108,7 +108,8 @@ class frmMain : public QWidget {
   void DescribeDice();
 
   Game& game;
-  std::set<int> keysDown;  ///< pressed in this window: only their release is a command
+  /// Keys pressed in this window, each with its Shift mask then: only their release is a command.
+  std::map<int, std::int16_t> keysDown;
   int sampleBase = 0;
   bool activatedBefore = false;
 };
