@@ -1,7 +1,6 @@
 // The game's start up to the first painted table, for start_up: table_window STATE_FOLDER
 
 #include <QApplication>
-#include <QIcon>
 
 #include "app/Application.h"
 #include "bench/FirstPaint.h"
@@ -18,7 +17,6 @@ struct NeverOne : blunko::NumberSource {
 int main(int argc, char** argv) {
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication app(argc, argv);
-  QApplication::setWindowIcon(QIcon(QStringLiteral(":/art/icon.svg")));
   blunko::Folders Where = blunko::Folders::OfProgram();
   if (argc > 1) Where.State = QString::fromLocal8Bit(argv[1]);
   blunko::Application Program(Where, std::make_unique<NeverOne>());

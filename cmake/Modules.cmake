@@ -6,6 +6,9 @@ if(TBK_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
+if(TBK_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
 
 # add_module(folder libraries...): the library blunko_<folder>, made of src/<folder>.
 function(add_module folder)

@@ -8,8 +8,13 @@
 
 #include "Links.h"
 #include "app/OpenInShell.h"
+#include "app/frmAbout.h"
 #include "app/frmCongrats.h"
 #include "app/frmCustomizeSounds.h"
+#include "app/frmHighRollers.h"
+#include "app/frmViewHRListYN.h"
+#include "app/frmWelcome.h"
+#include "storage/DayNumber.h"
 #include "table/DiceSets.h"
 #include "table/SoundFiles.h"
 
@@ -33,7 +38,10 @@ Application::Application(const Folders& Where, std::unique_ptr<NumberSource> Dic
       Uniform(0),
       Table(State, Controls, View, Screen, *this, *Numbers),
       Players(Table, Uniform),
-      Util(VersionAddress) {}
+      Util(VersionAddress),
+      Rollers(Where.State + QStringLiteral("/highscores.dat"),
+              [this](const QByteArray& Text) { Util.UtilStoreLists(Text); }),
+      RollersCheck(State, InfoFile, Rollers, *this) {}
 
 Application::~Application() = default;
 
@@ -60,11 +68,17 @@ bool Application::Main() {
   };
 
   Form = std::make_unique<frmMain>(Table);
+  Rollers.LoadHighRollers();
+  Form->OnCommand.HighRollers = [this] { ViewLists(); };
   Screen.ShowControls = [this] { Form->ShowControls(); };
   Screen.ShowPointer = [this](MousePointer Pointer) {
     Pointer == MousePointer::Hourglass ? Form->setCursor(Qt::WaitCursor) : Form->unsetCursor();
   };
   QObject::connect(Form.get(), &frmMain::minimised, Form.get(), [this] { Form_Resize(); });
+  Form->OnCommand.FirstShown = [this] { Form_Activate(); };
+  Form->OnCommand.HowToPlay = [this] { ShowHelpTopic(QStringLiteral("PlayingBlunko.htm")); };
+  Form->OnCommand.GoHelp = [this] { ShowHelpTopic(QStringLiteral("Overview.htm")); };
+  Form->OnCommand.About = [this] { frmAbout(folders, Settings, Screen, Form.get()).exec(); };
   Form->OnCommand.Options = [this] { Options().cmdOptions_Click(); };
   const QColor Trays = StartColour(Settings.DieColour());
   Form->PaintTrays(Trays, Trays);
@@ -106,6 +120,20 @@ bool Application::CheckForUpdate() {
       break;
   }
   return true;
+}
+
+/// The table has come up: a newcomer is greeted.
+void Application::Form_Activate() {
+  if (!Settings.ShowWelcome() || !State.FirstActivate) return;
+  State.FirstActivate = false;
+  frmWelcome(
+      InfoFile, Screen, [this](const QString& Topic) { ShowHelpTopic(Topic); }, Form.get())
+      .exec();
+}
+
+void Application::ShowHelpTopic(const QString& Topic) {
+  if (help == nullptr) help = std::make_unique<HelpWindow>(QString::fromStdString(State.HelpFile), Form.get());
+  help->ShowTopic(Topic);
 }
 
 /// The score pad leaves the screen with the table and comes back to where it stood.
@@ -153,8 +181,27 @@ void Application::ShowScorePad() {
 
 void Application::FocusTable() { Form->activateWindow(); }
 
-void Application::CheckHighTurn(const std::string&, std::int16_t) {}
-void Application::CheckWhoopin(const std::string&, std::int16_t) {}
+void Application::CheckHighTurn(const std::string& Name, std::int16_t Score) {
+  Form->ShowControls();
+  RollersCheck.CheckHighTurn(Name, Score);
+}
+
+void Application::CheckWhoopin(const std::string& Name, std::int16_t Margin) {
+  Form->ShowControls();
+  RollersCheck.CheckWhoopin(Name, Margin);
+}
+
+QString Application::AskName(const QString& Prompt, const QString& Title, const QString& Preset) {
+  return QtDesktop::InputBox(Prompt, Title, Preset);
+}
+
+void Application::AskToView() { frmViewHRListYN(State, Screen, InfoFile, Form.get()).exec(); }
+
+void Application::ViewLists() {
+  if (!State.Quitting) frmHighRollers(Rollers, Screen, Form.get()).exec();
+}
+
+QString Application::Today() const { return DayNumber(QDate::currentDate()); }
 
 void Application::ShowCongrats() {
   Form->ShowControls();
@@ -173,6 +220,7 @@ void Application::CancelOptions() { Options().ARCmdCancelOptions_Click(); }
 void Application::UnloadOtherForms() {
   if (newGame != nullptr) newGame->Unload();
   if (scorePad != nullptr) scorePad->hide();
+  if (help != nullptr) help->close();
 }
 
 void Application::ExitProgram() {

@@ -2,14 +2,18 @@
 
 #include <memory>
 
+#include "app/HelpWindow.h"
+#include "app/HighRollersCheck.h"
 #include "app/frmNewGame.h"
 #include "bots/ComputerPlayers.h"
 #include "engine/Game.h"
 #include "storage/Folders.h"
 #include "storage/GameSettings.h"
+#include "storage/HighRollers.h"
 #include "storage/IniInfo.h"
 #include "table/OptionsPanel.h"
 #include "table/QtDesktop.h"
+#include "table/SettingsView.h"
 #include "table/Sounds.h"
 #include "table/frmMain.h"
 #include "table/frmScorePad.h"
@@ -18,24 +22,9 @@
 
 namespace blunko {
 
-/// The settings, as the rules see them.
-class SettingsView : public GameOptions {
- public:
-  explicit SettingsView(const GameSettings& Settings) : settings(Settings) {}
-  int ComputerSpeed() const override { return settings.ComputerSpeed(); }
-  bool SortDice() const override { return settings.SortDice(); }
-  bool MarkScorers() const override { return settings.MarkScorers(); }
-  int DieColour() const override { return settings.DieColour(); }
-  bool SoundDisabled() const override { return settings.SoundDisabled(); }
-  const std::string& GetSound(std::string_view Name) const override { return settings.GetSound(Name); }
-
- private:
-  const GameSettings& settings;
-};
-
 /// The program: owns the objects of a run, puts its start-up questions, shows the table, and answers what the rules ask
 /// of the dialogs.
-class Application : public Program {
+class Application : public Program, private HighRollersScreen {
  public:
   /// `Numbers` replaces the dice and `Where` the folders, for tests.
   explicit Application(const Folders& Where, std::unique_ptr<NumberSource> Numbers = std::make_unique<FairDice>());
@@ -43,6 +32,9 @@ class Application : public Program {
 
   /// The start, up to the shown table. False: the program ends without having shown it.
   bool Main();
+
+  /// Opens the help at a page, "Name.htm" or "Name.htm#anchor".
+  void ShowHelpTopic(const QString& Topic);
 
   void UpdateActivePlayer() override;
   void ShowScorePad() override;
@@ -72,19 +64,27 @@ class Application : public Program {
   Game Table;
   ComputerPlayers Players;
   TbkUtil Util;
+  HighRollers Rollers;
+  HighRollersCheck RollersCheck;
   std::unique_ptr<frmMain> Form;
 
  private:
   void SurveyHardware();
   bool CheckForUpdate();
+  void Form_Activate();
   void Form_Resize();
   frmScorePad& ScorePad();
   frmNewGame& NewGame();
   OptionsPanel& Options();
+  QString AskName(const QString& Prompt, const QString& Title, const QString& Preset) override;
+  void AskToView() override;
+  void ViewLists() override;
+  QString Today() const override;
 
   OptionsPanel* options = nullptr;
   frmScorePad* scorePad = nullptr;
   frmNewGame* newGame = nullptr;
+  std::unique_ptr<HelpWindow> help;
 };
 
 }  // namespace blunko

@@ -57,7 +57,7 @@ bool ComputerPlayers::DecideToPass(const TableStyle& Style) {
     desktop.MessageBox("NumDiceUp = " + std::to_string(m.NumDiceUp) +
                        "\nError 529 - Bot Click - Please contact Tollmoor Games.");
     game.Form_Unload();
-    return true;
+    return MayGoOn();
   }
   return m.TurnScore >= Style.StopAt[m.NumDiceUp] ? BotPass() : BotRoll();
 }

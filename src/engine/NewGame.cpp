@@ -30,7 +30,7 @@ void Game::FreshGame(const GameSetup& Setup) {
     if (Word != StyleWords.end()) m.PlayerStyle[i] = static_cast<std::uint8_t>(Word - StyleWords.begin() + 1);
   }
   t.lblPlayer.Caption = m.PlayerName[0];
-  m.DieScoreCode.fill(NoScore);
+  ClearDice();
   m.NumPlayers = std::max<std::uint8_t>(Setup.NumPlayers, 2);
   SetStatus("Roll the dice.");
   m.ActionSet = "r";
@@ -43,7 +43,6 @@ void Game::FreshGame(const GameSetup& Setup) {
   m.BreakInScore = Setup.BreakInScore;
   HideMarkers();
   t.pctDivider.Visible = false;
-  ClearDice();
   m.OutPlayer = Absent;
   t.HideLastRoll();
   m.GameOver = false;

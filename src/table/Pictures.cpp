@@ -7,13 +7,6 @@
 
 namespace blunko {
 
-namespace {
-
-/// The widest picture that is kept in memory; larger ones are scaled down while they are read.
-constexpr int LargestSide = 2400;  // px
-
-}  // namespace
-
 QPixmap RenderSvg(const QString& Resource, qreal Scale, QSize Size) {
   QSvgRenderer Svg(Resource);
   if (!Svg.isValid()) return {};
@@ -43,29 +36,29 @@ void SvgBox::paintEvent(QPaintEvent*) {
 }
 
 void StretchedPicture::Load(const QString& Path) {
-  picture = {};
+  path = Path;
   drawn = {};
-  if (QFileInfo(Path).isFile()) {
-    QImageReader Reader(Path);
-    Reader.setAutoTransform(true);
-    const QSize Size = Reader.size();
-    if (Size.width() > LargestSide || Size.height() > LargestSide) {
-      Reader.setScaledSize(Size.scaled(LargestSide, LargestSide, Qt::KeepAspectRatio));
-    }
-    picture = Reader.read();
-  }
+  Draw();
   update();
 }
 
-void StretchedPicture::paintEvent(QPaintEvent*) {
-  if (picture.isNull()) return;
+/// The picture is decoded in the size in which it is shown: that is quick, and spares the memory of an enormous one.
+void StretchedPicture::Draw() {
+  if (!QFileInfo(path).isFile()) return;
   const qreal Scale = devicePixelRatioF();
-  const QSize Wanted = (QSizeF(size()) * Scale).toSize();
-  if (drawn.size() != Wanted) {
-    drawn = QPixmap::fromImage(picture.scaled(Wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    drawn.setDevicePixelRatio(Scale);
-  }
-  QPainter(this).drawPixmap(0, 0, drawn);
+  QImageReader Reader(path);
+  Reader.setAutoTransform(true);
+  Reader.setScaledSize((QSizeF(size()) * Scale).toSize());
+  const QImage Picture = Reader.read();
+  if (Picture.isNull()) return;
+  drawn = QPixmap::fromImage(Picture);
+  drawn.setDevicePixelRatio(Scale);
+}
+
+void StretchedPicture::paintEvent(QPaintEvent*) {
+  if (drawn.isNull()) return;
+  if (drawn.devicePixelRatio() != devicePixelRatioF()) Draw();
+  QPainter(this).drawPixmap(rect(), drawn);
 }
 
 }  // namespace blunko

@@ -52,13 +52,15 @@ class StretchedPicture : public QWidget {
 
   /// Shows the file at `Path`; an empty path, or a file that is no picture, shows nothing.
   void Load(const QString& Path);
-  bool IsEmpty() const { return picture.isNull(); }
+  bool IsEmpty() const { return drawn.isNull(); }
 
  protected:
   void paintEvent(QPaintEvent* Event) override;
 
  private:
-  QImage picture;
+  void Draw();
+
+  QString path;
   QPixmap drawn;
 };
 

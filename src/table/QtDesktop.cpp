@@ -1,9 +1,11 @@
 #include "table/QtDesktop.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QEventLoop>
 #include <QFile>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTimer>
@@ -12,6 +14,12 @@
 #include "table/NameValidator.h"
 
 namespace blunko {
+
+namespace {
+
+constexpr int PromptWidth = 340;  // px
+
+}  // namespace
 
 void QtDesktop::Sleep(int Milliseconds) {
   ShowControls();
@@ -56,22 +64,38 @@ QString QtDesktop::InputBox(const QString& Prompt, const QString& Title, const Q
   Box.setWindowTitle(Title);
   Box.setLabelText(Prompt);
   Box.setTextValue(HeldToNameRule(Preset));
-  if (auto* Line = Box.findChild<QLineEdit*>()) Line->setValidator(new NameValidator(Line));
+  if (auto* Label = Box.findChild<QLabel*>()) {
+    Label->setWordWrap(true);
+    Label->setMinimumWidth(PromptWidth);
+    Label->setMinimumHeight(Label->heightForWidth(PromptWidth));
+  }
+  if (auto* Line = Box.findChild<QLineEdit*>()) {
+    Line->setMaxLength(LongestName);
+    Line->setValidator(new NameValidator(Line));
+  }
   return Box.exec() == QDialog::Accepted ? Box.textValue() : QString();
 }
 
-void ShowMessage(const QString& Text) {
-  QMessageBox Box(QMessageBox::Information, ProductName, Text, QMessageBox::Ok, QApplication::activeWindow());
+namespace {
+
+/// Runs a box over the active window and returns the button pressed.
+int RunBox(QMessageBox::Icon Icon, const QString& Title, const QString& Text, QMessageBox::StandardButtons Buttons) {
+  QMessageBox Box(Icon, Title, Text, Buttons, QApplication::activeWindow());
   Box.setTextFormat(Qt::PlainText);
-  Box.exec();
+  for (QAbstractButton* Button : Box.buttons()) Button->setIcon({});  // the words say it
+  if (Buttons.testFlag(QMessageBox::No)) {
+    Box.setDefaultButton(QMessageBox::No);
+    Box.setEscapeButton(QMessageBox::No);
+  }
+  return Box.exec();
 }
 
+}  // namespace
+
+void ShowMessage(const QString& Text) { RunBox(QMessageBox::Information, ProductName, Text, QMessageBox::Ok); }
+
 bool AskQuestion(const QString& Text, const QString& Title) {
-  QMessageBox Box(QMessageBox::Question, Title, Text, QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
-  Box.setTextFormat(Qt::PlainText);
-  Box.setDefaultButton(QMessageBox::No);
-  Box.setEscapeButton(QMessageBox::No);
-  return Box.exec() == QMessageBox::Yes;
+  return RunBox(QMessageBox::Question, Title, Text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 }  // namespace blunko

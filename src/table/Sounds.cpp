@@ -4,14 +4,18 @@
 #include <QtEndian>
 
 #include <SDL_audio.h>
+#include <SDL_hints.h>
+#include <SDL_thread.h>
 #include <algorithm>
 #include <condition_variable>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <type_traits>
 #include <utility>
 
 #include "storage/FileAccess.h"
+#include "table/QtDesktop.h"
 
 namespace blunko {
 
@@ -20,15 +24,16 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr qint64 LargestFile = 32 << 20;                         // bytes
-constexpr auto LongestOpening = std::chrono::seconds(1);         // a sound that comes later than this no longer fits
+constexpr auto LongestOpening = std::chrono::seconds(2);         // a sound that comes later than this no longer fits
 constexpr auto LongestClosing = std::chrono::milliseconds(500);  // at the program's end
 constexpr int DeviceRate = 44100;                                // Hz
 constexpr int DeviceFrame = 4;                                   // bytes: two channels of 16 bits
 constexpr int DevicePeriod = 1024;                               // samples, 23 ms
-constexpr Uint32 Portion = 1024;                                 // frames of a wave that are converted at once
+constexpr int FirstPortion = 20;  // seconds of a wave that are converted before it begins; then one at a time
 
 /// The functions of the sound library. It is loaded with the first sound: it would make up a good part of the start.
 struct SoundLibrary {
+  decltype(&SDL_SetHint) SetHint;
   decltype(&SDL_AudioInit) AudioInit;
   decltype(&SDL_AudioQuit) AudioQuit;
   decltype(&SDL_OpenAudioDevice) OpenAudioDevice;
@@ -45,6 +50,7 @@ struct SoundLibrary {
   decltype(&SDL_AudioStreamPut) AudioStreamPut;
   decltype(&SDL_AudioStreamAvailable) AudioStreamAvailable;
   decltype(&SDL_AudioStreamGet) AudioStreamGet;
+  decltype(&SDL_TLSCleanup) TLSCleanup;
 
   bool Load() {
     QLibrary File(QStringLiteral("SDL2-2.0"), 0);
@@ -53,6 +59,7 @@ struct SoundLibrary {
       Function = reinterpret_cast<std::remove_reference_t<decltype(Function)>>(File.resolve(Name));
       Found = Found && Function != nullptr;
     };
+    Find(SetHint, "SDL_SetHint");
     Find(AudioInit, "SDL_AudioInit");
     Find(AudioQuit, "SDL_AudioQuit");
     Find(OpenAudioDevice, "SDL_OpenAudioDevice");
@@ -69,6 +76,7 @@ struct SoundLibrary {
     Find(AudioStreamPut, "SDL_AudioStreamPut");
     Find(AudioStreamAvailable, "SDL_AudioStreamAvailable");
     Find(AudioStreamGet, "SDL_AudioStreamGet");
+    Find(TLSCleanup, "SDL_TLSCleanup");
     SilenceDriver();
     return Found;
   }
@@ -117,7 +125,7 @@ class Sounds::Player {
 
   // Of the device's thread alone:
   SoundLibrary sdl{};
-  bool initialised = false;
+  bool loaded = false, initialised = false;
   SDL_AudioDeviceID device = 0;
 
   // Of the device's callback, set while it is locked out:
@@ -125,7 +133,7 @@ class Sounds::Player {
   Uint8* wave = nullptr;
   Uint32 waveLength = 0;
   Uint32 taken = 0;      ///< bytes of the wave that the converter has
-  QByteArray silence;    ///< a portion of it in the wave's form
+  QByteArray silence;    ///< a second of it in the wave's form
   qint64 remaining = 0;  ///< bytes that the device hasn't
 };
 
@@ -145,8 +153,12 @@ void Sounds::Player::Start(const std::shared_ptr<Player>& Shared, const QString&
   p.busy = true;
   p.changed.notify_all();
   if (p.running) return;
-  p.running = true;
-  std::thread([Shared] { Shared->Run(); }).detach();
+  try {
+    std::thread([Shared] { Shared->Run(); }).detach();
+    p.running = true;
+  } catch (const std::system_error&) {  // no room for another thread
+    p.busy = false;
+  }
 }
 
 bool Sounds::Player::IsBusy() {
@@ -202,7 +214,9 @@ void Sounds::Player::PlayAll(std::unique_lock<std::mutex>& Lock) {
 
 /// Only the sound part of the library is started: without its events it installs no handler for any signal.
 bool Sounds::Player::Open() {
-  if (!sdl.Load()) return false;
+  loaded = sdl.Load();
+  if (!loaded) return false;
+  sdl.SetHint(SDL_HINT_APP_NAME, ProductName.toUtf8().constData());  // the name in the system's volume control
   initialised = sdl.AudioInit(nullptr) == 0;
   if (!initialised) return false;
   SDL_AudioSpec Form{};
@@ -222,6 +236,7 @@ bool Sounds::Player::Open() {
 void Sounds::Player::Close() {
   if (device != 0) sdl.CloseAudioDevice(std::exchange(device, 0));
   if (std::exchange(initialised, false)) sdl.AudioQuit();
+  if (loaded) sdl.TLSCleanup();  // what the library keeps for this thread
 }
 
 bool Sounds::Player::Begin(const QByteArray& File) {
@@ -230,13 +245,14 @@ bool Sounds::Player::Begin(const QByteArray& File) {
   if (Source == nullptr || sdl.LoadWAV_RW(Source, 1, &Form, &wave, &waveLength) == nullptr) return false;
   SDL_AudioStream* Converter = sdl.NewAudioStream(Form.format, Form.channels, Form.freq, AUDIO_S16SYS, 2, DeviceRate);
   if (Converter == nullptr) return false;
-  sdl.LockAudioDevice(device);
+  const auto Rate = static_cast<Uint32>(Form.freq);
   const Uint32 Frame = Form.channels * SDL_AUDIO_BITSIZE(Form.format) / 8U;
   waveLength -= waveLength % Frame;
-  taken = 0;
-  silence.fill(static_cast<char>(Form.silence), static_cast<qsizetype>(Frame * Portion));
-  const qint64 Frames = qint64{waveLength / Frame} * DeviceRate / Form.freq + DeviceRate / 100;
-  remaining = Frames * DeviceFrame;
+  taken = static_cast<Uint32>(std::min(quint64{waveLength}, quint64{FirstPortion} * Rate * Frame));
+  const bool Fits = sdl.AudioStreamPut(Converter, wave, static_cast<int>(taken)) == 0;
+  silence.fill(static_cast<char>(Form.silence), static_cast<qsizetype>(Rate * Frame));
+  sdl.LockAudioDevice(device);
+  remaining = Fits ? (qint64{waveLength / Frame} * DeviceRate / Rate + DeviceRate / 100) * DeviceFrame : 0;
   stream = Converter;
   sdl.UnlockAudioDevice(device);
   return true;
@@ -250,20 +266,21 @@ void Sounds::Player::End() {
   sdl.FreeWAV(std::exchange(wave, nullptr));
 }
 
-/// The callback of the device. It converts the wave bit by bit: a long one is never held in the device's form as a
-/// whole. Silence follows it, which pushes its end out of the converter: the library's own flush makes a click there.
+/// The callback of the device. It converts a long wave bit by bit, so that it is never held as a whole in the device's
+/// form; each seam costs a little purity, and a short wave has none. Silence follows it, which pushes its end out of
+/// the converter: the library's own flush makes a click there.
 void Sounds::Player::Fill(void* User, Uint8* Out, int Length) {
   Player& p = *static_cast<Player*>(User);
   const bool Ended = p.remaining <= 0;
   int Got = 0;
   if (p.stream != nullptr && !Ended) {
+    const auto Second = static_cast<Uint32>(p.silence.size());
     bool Fits = true;
     while (Fits && p.sdl.AudioStreamAvailable(p.stream) < Length) {
-      const auto Full = static_cast<Uint32>(p.silence.size());
-      const Uint32 Size = p.taken < p.waveLength ? std::min(Full, p.waveLength - p.taken) : Full;
-      const void* From = p.taken < p.waveLength ? static_cast<const void*>(p.wave + p.taken) : p.silence.constData();
-      Fits = p.sdl.AudioStreamPut(p.stream, From, static_cast<int>(Size)) == 0;
-      p.taken += p.taken < p.waveLength ? Size : 0;
+      const Uint32 Left = std::min(Second, p.waveLength - p.taken);
+      const void* From = Left > 0 ? static_cast<const void*>(p.wave + p.taken) : p.silence.constData();
+      Fits = p.sdl.AudioStreamPut(p.stream, From, static_cast<int>(Left > 0 ? Left : Second)) == 0;
+      p.taken += Left;
     }
     Got = Fits ? std::max(p.sdl.AudioStreamGet(p.stream, Out, Length), 0) : 0;
     p.remaining = Got > 0 ? p.remaining - Got : 0;

@@ -139,8 +139,8 @@ void frmMain::PlaceControls() {
   lblTurnScoreLabel =
       Text("lblTurnScoreLabel", tr("Score This Turn:"), QRect(10, 330, 180, 26), 11.25, true, Qt::AlignRight);
   lblTurnScore = Text("lblTurnScore", {}, QRect(200, 330, 185, 26), 11.25, true, Qt::AlignLeft);
-  lblMnuGame = Text("lblMnuGame", tr("Game"), QRect(12, 5, 38, 20), 8.25, false, Qt::AlignLeft);
-  lblMnuHelp = Text("lblMnuHelp", tr("Help"), QRect(60, 5, 34, 20), 8.25, false, Qt::AlignLeft);
+  lblMnuGame = Text("lblMnuGame", tr("Game"), QRect(12, 5, 38, 17), 8.25, false, Qt::AlignLeft);
+  lblMnuHelp = Text("lblMnuHelp", tr("Help"), QRect(60, 5, 34, 17), 8.25, false, Qt::AlignLeft);
   for (FitLabel* Menu : {lblMnuGame, lblMnuHelp}) Menu->setCursor(Qt::PointingHandCursor);
 }
 

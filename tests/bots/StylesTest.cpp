@@ -211,6 +211,37 @@ TEST(Styles, WaitWhilePausedButForCautious) {
   }
 }
 
+TEST(Styles, ReportWhatTheyCannotPlayAndLeave) {
+  const struct {
+    Word Actions;
+    Word Code;  ///< of all six positions
+    std::vector<std::string> Log;
+  } Rows[] = {
+      {"rp",
+       "99",
+       {"box NumDiceUp = 0\nError 529 - Bot Click - Please contact Tollmoor Games.", "beep",
+        "ask Quit?: Are you sure you want to quit the current game?", "exit"}},
+      {"s", "0", {"box Msg 519 -- Please contact Tollmoor Games Tech Support.", "abort"}},
+  };
+  for (const auto& Row : Rows) {
+    SCOPED_TRACE(Row.Log.front());
+    PlayingTable table;
+    table.Starts = false;
+    table.Begin({"Normal", "Ann"});
+    table.m.PlayerScore[0] = 1000;
+    table.m.ActionSet = Row.Actions;
+    table.m.DieScoreCode.fill(Row.Code);
+    table.Screen.OnEvents = [&] {
+      if (table.Screen.Log.size() > 100) table.m.TurnOver = true;  // a turn that doesn't end
+    };
+    table.TakeLog();
+    table.Players.RunComputerTurn();
+    EXPECT_EQ(table.TakeLog(), Row.Log);
+    EXPECT_TRUE(table.m.Quitting);
+    EXPECT_FALSE(table.t.picTray1.Enabled);
+  }
+}
+
 TEST(HandOver, TenThousandGamesUseNoMoreStackThanOne) {
   PlayingTable table;
   int Games = 0;

@@ -25,7 +25,7 @@ qint64 TimeOf(const std::function<void()>& Call) {
   Call();
   return Clock.elapsed();
 }
-constexpr qint64 AtOnce = 400;  // generous, for a busy machine; what it tells apart are seconds and for ever
+constexpr qint64 AtOnce = 2500;  // for a very busy machine; a call that waits does so for ever
 
 bool HoldsOpen(const QString& Path) {
   const QDir Descriptors(QStringLiteral("/proc/self/fd"));
@@ -50,7 +50,7 @@ TEST(Sounds, TheSamplesReachTheDeviceUnchangedAndTheDeviceIsGivenBack) {
 
 TEST(Sounds, ASoundIsNeverCutAndTheNewRequestIsDropped) {
   const SoundRecorder Recorder;
-  const QString Low = WriteFile(Recorder.NameInFolder("low.wav"), Tone{.Frequency = 300, .Seconds = 0.5}.File());
+  const QString Low = WriteFile(Recorder.NameInFolder("low.wav"), Tone{.Frequency = 300, .Seconds = 1.2}.File());
   const QString High = WriteFile(Recorder.NameInFolder("high.wav"), Tone{.Frequency = 2000, .Seconds = 0.5}.File());
   {
     Sounds Player;
@@ -60,13 +60,13 @@ TEST(Sounds, ASoundIsNeverCutAndTheNewRequestIsDropped) {
     ASSERT_TRUE(Player.IsPlaying());
     Player.Play(High);  // in the midst of it
     ASSERT_TRUE(WaitFor([&] { return !Player.IsPlaying(); }));
-    EXPECT_NEAR(Recorder.Hear().Seconds, 0.5, 0.03);
+    EXPECT_NEAR(Recorder.Hear().Seconds, 1.2, 0.03);
     EXPECT_NEAR(Recorder.Hear().Frequency, 300, 10);
     Player.Play(High);  // the next one sounds again, on the same device
     ASSERT_TRUE(WaitFor([&] { return !Player.IsPlaying(); }));
   }
   const SoundRecorder::Heard Both = Recorder.Hear();
-  EXPECT_NEAR(Both.Frequency * Both.Seconds, 0.5 * 300 + 0.5 * 2000, 30);
+  EXPECT_NEAR(Both.Frequency * Both.Seconds, 1.2 * 300 + 0.5 * 2000, 30);
 }
 
 TEST(Sounds, UsualFormatsSoundAlike) {
@@ -108,6 +108,19 @@ TEST(Sounds, UsualFormatsSoundAlike) {
     EXPECT_NEAR(Found.Frequency, 440, 15);
     EXPECT_NEAR(Found.Peak, 0.4, 0.03);
   }
+}
+
+TEST(Sounds, ALongWaveIsPlayedToItsEnd) {
+  const SoundRecorder Recorder;
+  qputenv("SDL_DISKAUDIODELAY", "1");  // ms a period: the tape runs fast
+  {
+    Sounds Player;
+    Player.Play(WriteFile(Recorder.NameInFolder("long.wav"), Tone{.Rate = 8000, .Width = 8, .Seconds = 23}.File()));
+    ASSERT_TRUE(WaitFor([&] { return !Player.IsPlaying(); }, 20'000));
+  }
+  qunsetenv("SDL_DISKAUDIODELAY");
+  EXPECT_NEAR(Recorder.Hear().Seconds, 23, 0.05);
+  EXPECT_NEAR(Recorder.Hear().Frequency, 440, 2);
 }
 
 TEST(Sounds, WhatCannotBePlayedIsSilentAndInNobodysWay) {
@@ -168,7 +181,7 @@ TEST(Sounds, WithoutADeviceNothingWaitsAndLaterItIsTriedAgain) {
   const SoundRecorder Recorder;
   const QString File = WriteFile(Recorder.NameInFolder("tone.wav"), Tone{}.File());
   qputenv("SDL_AUDIODRIVER", "nosuch");
-  Sounds Player(Milliseconds(2000), Milliseconds(700));
+  Sounds Player(Milliseconds(2000), Milliseconds(1500));
   EXPECT_LT(TimeOf([&] { Player.Play(File); }), AtOnce);
   ASSERT_TRUE(WaitFor([&] { return !Player.IsPlaying(); }));
   qputenv("SDL_AUDIODRIVER", "disk");
@@ -179,7 +192,7 @@ TEST(Sounds, WithoutADeviceNothingWaitsAndLaterItIsTriedAgain) {
     return Player.IsPlaying();
   }));
   ASSERT_TRUE(WaitFor([&] { return !Player.IsPlaying(); }));
-  EXPECT_NEAR(Recorder.Hear().Seconds, 0.2, 0.02);
+  EXPECT_NEAR(Recorder.Hear().Peak, 0.4, 0.03);
 }
 
 TEST(Sounds, AHangingDeviceHoldsUpNeitherTheGameNorItsEnd) {

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QStringList>
+#include <QTextBrowser>
+#include <QWidget>
+
+#include "table/ButtonPlus.h"
+
+class QLabel;
+class QLineEdit;
+class QTreeWidget;
+
+namespace blunko {
+
+/// Shows the pages of a folder, their pictures sharp at every scale. A page that isn't there says so.
+class HelpPage : public QTextBrowser {
+  Q_OBJECT
+
+ public:
+  using QTextBrowser::QTextBrowser;
+
+  QVariant loadResource(int Type, const QUrl& Address) override;
+};
+
+/// The help: a window of its own beside the game, with a table of contents and a search. It can be used while a dialog
+/// of the game is open, and stays when that closes.
+class HelpWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// `Folder` holds the pages; the window first comes up beside `Beside`.
+  HelpWindow(const QString& Folder, const QWidget* Beside);
+
+  /// The pages, in the order of the table of contents.
+  static const QStringList Pages;
+
+  /// Brings the window up at a page, "Name.htm" or "Name.htm#anchor".
+  void ShowTopic(const QString& Topic);
+
+  QTreeWidget* Contents;
+  HelpPage* Page;
+  ButtonPlus* cmdBack;
+  ButtonPlus* cmdForward;
+  QLineEdit* txtFind;
+  ButtonPlus* cmdFindPrevious;
+  ButtonPlus* cmdFindNext;
+  QLabel* lblFound;
+
+ protected:
+  bool event(QEvent* Event) override;
+
+ private:
+  void Build();
+  void FillContents();
+  void PlaceBeside(const QWidget* Table);
+  QUrl AddressOf(const QString& Topic) const;
+  void Follow(const QUrl& Link);
+  void MarkInContents(const QUrl& Source);
+  void Find(bool Backward);
+  void JoinDialog();
+
+  QString folder;
+  QStringList pageTexts;  ///< what the search reads, in the order of `Pages`
+};
+
+}  // namespace blunko

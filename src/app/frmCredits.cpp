@@ -1,0 +1,113 @@
+#include "app/frmCredits.h"
+
+#include <QMessageBox>
+#include <QPainter>
+#include <QShowEvent>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include "Links.h"
+#include "app/Texts.h"
+#include "table/Fonts.h"
+#include "table/QtDesktop.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr int StepTime = 41;  // ms: more than 40 pass between two steps
+constexpr QSize ScrollSize(320, 260);
+const QColor BackColour(2, 127, 255);
+const QColor TextColour(255, 255, 0);
+constexpr int TextFlags = Qt::AlignHCenter | Qt::TextWordWrap;
+
+}  // namespace
+
+ScrollBox::ScrollBox(QWidget* Parent) : QWidget(Parent) {
+  setFont(FontOf(Typeface::ComicSans, 12));
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+int ScrollBox::TextHeight() const {
+  if (Text.isEmpty()) return 0;
+  return fontMetrics().boundingRect(QRect(0, 0, width(), 0), TextFlags, Text).height();
+}
+
+void ScrollBox::paintEvent(QPaintEvent*) {
+  QPainter Painter(this);
+  Painter.fillRect(rect(), BackColour);
+  Painter.setPen(TextColour);
+  Painter.drawText(QRect(0, Top, width(), TextHeight()), TextFlags, Text);
+}
+
+frmCredits::frmCredits(QWidget* Owner) : QDialog(Owner) {
+  setObjectName(QStringLiteral("frmCredits"));
+  setWindowTitle(QStringLiteral("Tollmoor Blunko Credits"));
+  Label1 = new QLabel(QStringLiteral("Credits & Stuff"), this);
+  Label1->setObjectName(QStringLiteral("Label1"));
+  Label1->setFont(FontOf(Typeface::ComicSans, 18, true));
+  Label1->setAlignment(Qt::AlignCenter);
+  picScroll = new ScrollBox(this);
+  picScroll->setObjectName(QStringLiteral("picScroll"));
+  picScroll->setFixedSize(ScrollSize);
+  picScroll->setAccessibleName(CreditsText());
+  picScroll->Text = CreditsText();
+  cmdOK = new ButtonPlus(tr("OK"), this);
+  cmdOK->setObjectName(QStringLiteral("cmdOK"));
+  cmdOK->setMinimumWidth(110);
+  cmdOK->setDefault(true);
+  connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+
+  auto* Column = new QVBoxLayout(this);
+  Column->setContentsMargins(16, 12, 16, 14);
+  Column->setSpacing(10);
+  Column->addWidget(Label1);
+  Column->addWidget(picScroll, 0, Qt::AlignCenter);
+  Column->addWidget(cmdOK, 0, Qt::AlignCenter);
+  Column->setSizeConstraint(QLayout::SetFixedSize);
+  FixButtonColours(*this);
+
+  steps.setTimerType(Qt::PreciseTimer);
+  steps.setInterval(StepTime);
+  connect(&steps, &QTimer::timeout, this, &frmCredits::Step);
+}
+
+QString frmCredits::CreditsText() {
+  QStringList Blocks;
+  for (const CreditsBlock& Block : Credits)
+    Blocks += Block.Heading + QLatin1Char('\n') + Block.Lines.join(QLatin1Char('\n'));
+  Blocks += QStringLiteral("Visit Tollmoor Games\non the web at\n") + QUrl(WebSite).host();
+  return Blocks.join(QStringLiteral("\n\n"));
+}
+
+void frmCredits::showEvent(QShowEvent* Event) {
+  QDialog::showEvent(Event);
+  // Once the dialog stands complete on the screen.
+  if (!Event->spontaneous()) QTimer::singleShot(0, this, &frmCredits::ScrollCredits);
+}
+
+/// Starts the scrolling: the text stands just below the lower edge.
+void frmCredits::ScrollCredits() {
+  if (!isVisible()) return;
+  height = picScroll->TextHeight();
+  if (height == 0) {
+    QMessageBox::warning(this, ProductName, tr("Error scrolling text"));
+    reject();
+    return;
+  }
+  picScroll->Top = picScroll->height();
+  picScroll->update();
+  steps.start();
+}
+
+void frmCredits::Step() {
+  if (--picScroll->Top < -height) picScroll->Top = picScroll->height();  // gone at the upper edge: again from below
+  picScroll->update();
+}
+
+void frmCredits::done(int Result) {
+  StopScrolling();
+  QDialog::done(Result);
+}
+
+}  // namespace blunko

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+#include <QTimer>
+
+#include "table/ButtonPlus.h"
+
+namespace blunko {
+
+/// Shows a text that moves: centred lines, their upper edge at `Top`.
+class ScrollBox : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit ScrollBox(QWidget* Parent);
+
+  QString Text;
+  int Top = 0;  ///< logical pixels below the upper edge of the box
+
+  /// Height of the text in logical pixels; 0 without a text.
+  int TextHeight() const;
+
+ protected:
+  void paintEvent(QPaintEvent* Event) override;
+};
+
+/// The credits: they scroll up without end, one logical pixel a step.
+class frmCredits : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmCredits(QWidget* Owner);
+
+  /// The credits as they scroll: blocks of lines with an empty line between them.
+  static QString CreditsText();
+
+  /// Stops for good.
+  void StopScrolling() { steps.stop(); }
+  bool IsScrolling() const { return steps.isActive(); }
+
+  QLabel* Label1;
+  ScrollBox* picScroll;
+  ButtonPlus* cmdOK;
+
+ protected:
+  void showEvent(QShowEvent* Event) override;
+  void done(int Result) override;
+
+ private:
+  void ScrollCredits();
+  void Step();
+
+  QTimer steps;
+  int height = 0;  ///< of the text
+};
+
+}  // namespace blunko

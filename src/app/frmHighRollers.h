@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QDialog>
+
+#include "engine/Desktop.h"
+#include "storage/HighRollers.h"
+#include "table/ButtonPlus.h"
+#include "table/LinkLabel.h"
+#include "table/Pictures.h"
+
+class QLabel;
+class QPlainTextEdit;
+
+namespace blunko {
+
+/// Shows the two high rollers lists, as they are in the file when it opens, and can reset them.
+class frmHighRollers : public QDialog {
+  Q_OBJECT
+
+ public:
+  frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Main);
+
+  /// Reads the file and fills both text boxes: names and scores with dots between, the scores in one column.
+  void ShowHighRollerLists();
+  /// `Count` full stops, none if it is below 1.
+  static QString DotString(int Count);
+
+  QLabel* lblHSTS;
+  QLabel* lblBMoV;
+  QPlainTextEdit* txtHSTSList;
+  QPlainTextEdit* txtBMoVList;
+  SvgBox* Image1;
+  SvgBox* Image2;
+  LinkLabel* lblReset;
+  ButtonPlus* cmdOK;
+
+ protected:
+  void showEvent(QShowEvent* Event) override;
+
+ private:
+  QLabel* NewHeading(const char* Name, const QString& Caption);
+  QPlainTextEdit* NewList(const char* Name, const QString& Description);
+  SvgBox* NewPicture(const char* Name, const QString& Resource);
+  static void FillList(QPlainTextEdit* Box, const RollerList& List);
+  void lblReset_Click();
+
+  HighRollers& rollers;
+  Desktop& desktop;
+  QWidget* frmMain;
+};
+
+}  // namespace blunko

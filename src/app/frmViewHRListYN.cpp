@@ -1,0 +1,109 @@
+#include "app/frmViewHRListYN.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "storage/DayNumber.h"
+#include "storage/NameRule.h"
+#include "table/Fonts.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr int SmallestWidth = 370;  // px
+const QColor Background(2, 127, 255);
+const QColor ButtonColour(159, 202, 255);
+
+}  // namespace
+
+frmViewHRListYN::frmViewHRListYN(Module1& State, Desktop& Screen, const IniInfo& Info, QWidget* Main)
+    : QDialog(Main), m(State), desktop(Screen), info(Info) {
+  setObjectName(QStringLiteral("frmViewHRListYN"));
+  setWindowTitle(tr("Way to go !!!"));
+  setWindowIcon(Main->windowIcon());
+  QPalette Colours = palette();
+  Colours.setColor(QPalette::Window, Background);
+  Colours.setColor(QPalette::WindowText, Qt::black);
+  setPalette(Colours);
+
+  const QStringList Fields = QString::fromStdString(m.FormMessage).split(FieldSeparator);
+  const QString Heading =
+      Fields.value(2) == QLatin1String("turn") ? tr("\"Highest Single Turn Score\"") : tr("\"Biggest Whoopin'\"");
+  const auto NewLabel = [this](const char* Name, const QString& Caption, const QFont& Font) {
+    auto* Made = new QLabel(this);
+    Made->setObjectName(QLatin1String(Name));
+    Made->setTextFormat(Qt::PlainText);
+    Made->setText(Caption);
+    Made->setFont(Font);
+    Made->setAlignment(Qt::AlignCenter);
+    return Made;
+  };
+  lblWayToGo =
+      NewLabel("lblWayToGo", tr("Great Job, ") + Fields.value(0) + tr("!!!"), FontOf(Typeface::ComicSans, 15.75, true));
+  QPalette Greeting = lblWayToGo->palette();
+  Greeting.setColor(QPalette::WindowText, Qt::yellow);
+  lblWayToGo->setPalette(Greeting);
+  lblMessage = NewLabel("lblMessage",
+                        tr("You just made number ") + Fields.value(1) + tr(" on the ") + Heading +
+                            tr(" top ten!  Would you like to view the high rollers list now?"),
+                        FontOf(Typeface::Verdana, 9.75));
+  lblMessage->setWordWrap(true);
+  cmdYes = NewButton("cmdYes", tr("Yes"), "Yes");
+  cmdNo = NewButton("cmdNo", tr("No"), "No");
+  cmdYes->setDefault(true);
+
+  lblCheck = new TickBox(this);
+  lblCheck->setObjectName(QStringLiteral("lblCheck"));
+  lblDontAsk = new FitLabel(tr("Don't ask me this again today."), this);
+  lblDontAsk->setObjectName(QStringLiteral("lblDontAsk"));
+  lblDontAsk->setFont(FontOf(Typeface::Verdana, 8.25));
+  lblCheck->setAccessibleName(lblDontAsk->text());
+  connect(lblCheck, &QAbstractButton::clicked, this, &frmViewHRListYN::lblCheck_Click);
+  connect(lblDontAsk, &FitLabel::clicked, lblCheck, &QAbstractButton::click);
+
+  auto* Buttons = new QHBoxLayout;
+  Buttons->setSpacing(16);
+  Buttons->addStretch(1);
+  Buttons->addWidget(cmdYes);
+  Buttons->addWidget(cmdNo);
+  Buttons->addStretch(1);
+  auto* Check = new QHBoxLayout;
+  Check->setSpacing(6);
+  Check->addStretch(1);
+  Check->addWidget(lblCheck);
+  Check->addWidget(lblDontAsk);
+  Check->addStretch(1);
+  auto* Outer = new QVBoxLayout(this);
+  Outer->setContentsMargins(18, 14, 18, 12);
+  Outer->setSpacing(12);
+  Outer->addWidget(lblWayToGo);
+  Outer->addWidget(lblMessage);
+  Outer->addLayout(Buttons);
+  Outer->addLayout(Check);
+  FixButtonColours(*this);
+
+  const int Width = qMax(SmallestWidth, Outer->minimumSize().width());
+  setFixedSize(Width, Outer->totalHeightForWidth(Width));
+  cmdYes->setFocus();
+}
+
+ButtonPlus* frmViewHRListYN::NewButton(const char* Name, const QString& Caption, const char* Word) {
+  auto* Made = new ButtonPlus(Caption, this);
+  Made->setObjectName(QLatin1String(Name));
+  Made->setBackColor(ButtonColour);
+  Made->setMinimumWidth(100);
+  Made->setAutoDefault(true);
+  connect(Made, &QPushButton::clicked, this, [this, Word] {
+    m.FormMessage = Word;
+    accept();
+  });
+  return Made;
+}
+
+void frmViewHRListYN::lblCheck_Click() {
+  desktop.Beep();
+  info.WriteInfoValue(NoQuestionKey, lblCheck->isChecked() ? DayNumber(QDate::currentDate()) : NoDay);
+}
+
+}  // namespace blunko

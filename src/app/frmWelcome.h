@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+
+#include <functional>
+
+#include "engine/Desktop.h"
+#include "storage/IniInfo.h"
+#include "table/ButtonPlus.h"
+#include "table/FitLabel.h"
+#include "table/TickBox.h"
+
+namespace blunko {
+
+/// Greets the player when the table first comes up: help topics, the maker's web site, and the box that switches the
+/// greeting off. The box writes to the info file at once; the settings of this run don't hear of it.
+class frmWelcome : public QDialog {
+  Q_OBJECT
+
+ public:
+  using HelpCommand = std::function<void(const QString& Topic)>;
+
+  frmWelcome(const IniInfo& Info, Desktop& Screen, HelpCommand ShowHelpTopic, QWidget* Main);
+
+  QLabel* Label1;
+  QLabel* Label2;
+  ButtonPlus* cmdLearn;
+  ButtonPlus* cmdPoints;
+  ButtonPlus* cmdTips;
+  ButtonPlus* cmdWebSite;
+  ButtonPlus* cmdExit;
+  TickBox* lblCheck;
+  FitLabel* lblShowWelcome;
+
+ protected:
+  void done(int Result) override;
+
+ private:
+  void lblCheck_Click();
+
+  const IniInfo& info;
+  Desktop& desktop;
+  bool WelcomeSwitchedOff = false;  ///< the box has been cleared while the dialog was open
+};
+
+}  // namespace blunko

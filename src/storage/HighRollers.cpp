@@ -1,0 +1,168 @@
+#include "storage/HighRollers.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+
+#include <algorithm>
+#include <cstdio>
+
+#include "storage/FileAccess.h"
+#include "storage/NameRule.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr qint64 LargestFile = 1 << 16;  // bytes; the lists have some hundreds
+constexpr int LongestScore = 5;          // digits
+constexpr int MostSetAside = 1000;       // files
+const QString LineEnd = QStringLiteral("\r\n");
+
+const char DefaultEntries[] =
+    "Tam¤1500|Irene¤1450|Marlo¤1400|Georgiana¤1350|Bea¤1300|"
+    "Rosa¤1250|Hugo¤1200|Philipa¤1150|Otis¤1100|Vivianne¤1050|"
+    "Irene¤1500|Tam¤1450|Marlo¤1400|Vivianne¤1350|Otis¤1300|"
+    "Philipa¤1250|Hugo¤1200|Rosa¤1150|Bea¤1100|Georgiana¤1050|";
+
+bool IsDigit(QChar Letter) { return Letter >= QLatin1Char('0') && Letter <= QLatin1Char('9'); }
+
+std::optional<HighRoller> EntryOf(const QString& Line) {
+  const QStringList Fields = Line.split(FieldSeparator);
+  if (Fields.size() != 2) return std::nullopt;
+  const QString& Digits = Fields[1];
+  if (Digits.size() > LongestScore || !std::all_of(Digits.begin(), Digits.end(), IsDigit)) return std::nullopt;
+  bool IsNumber = false;
+  const short Score = Digits.toShort(&IsNumber);
+  if (!IsNumber) return std::nullopt;
+  return HighRoller{Fields[0], Score};
+}
+
+void Insert(RollerList& List, const HighRoller& Entry) {
+  const auto Place = PlaceFor(List, Entry.Score);
+  if (!Place) return;
+  std::rotate(List.begin() + *Place, List.end() - 1, List.end());
+  List[static_cast<std::size_t>(*Place)] = Entry;
+}
+
+}  // namespace
+
+std::optional<int> PlaceFor(const RollerList& List, std::int16_t Score) {
+  const auto Beaten =
+      std::find_if(List.begin(), List.end(), [Score](const HighRoller& Entry) { return Score > Entry.Score; });
+  if (Beaten == List.end()) return std::nullopt;
+  return static_cast<int>(Beaten - List.begin());
+}
+
+RollerLists RollerLists::Default() {
+  return OfText(QString::fromUtf8(DefaultEntries).replace(QLatin1Char('|'), LineEnd).toLatin1()).value();
+}
+
+std::optional<RollerLists> RollerLists::OfText(const QByteArray& Text) {
+  const QStringList Lines = QString::fromLatin1(Text).split(LineEnd);
+  RollerLists Read;
+  // Behind the last line end stands an empty piece: without it the text has been cut.
+  const auto Entries = static_cast<qsizetype>(Read.lstHSTS.size() + Read.lstBMoV.size());
+  if (Lines.size() != Entries + 1 || !Lines.back().isEmpty()) return std::nullopt;
+  qsizetype Next = 0;
+  for (RollerList* List : {&Read.lstHSTS, &Read.lstBMoV}) {
+    for (HighRoller& Entry : *List) {
+      auto Found = EntryOf(Lines[Next++]);
+      if (!Found) return std::nullopt;
+      Entry = std::move(*Found);
+    }
+  }
+  return Read;
+}
+
+QByteArray RollerLists::Text() const {
+  QString Text;
+  for (const RollerList* List : {&lstHSTS, &lstBMoV}) {
+    for (const HighRoller& Entry : *List) Text += Entry.Name + FieldSeparator + QString::number(Entry.Score) + LineEnd;
+  }
+  return Text.toLatin1();
+}
+
+QByteArray ScrambleText(QByteArray Text) {
+  for (char& Byte : Text) {
+    const int Moved = static_cast<unsigned char>(Byte) + 128;
+    Byte = static_cast<char>(Moved > 255 ? Moved - 255 : Moved);
+  }
+  return Text;
+}
+
+QByteArray UnscrambleText(QByteArray Text) {
+  for (char& Byte : Text) {
+    const int Moved = static_cast<unsigned char>(Byte) - 128;
+    Byte = static_cast<char>(Moved < 0 ? Moved + 255 : Moved);
+  }
+  return Text;
+}
+
+void HighRollers::LoadHighRollers() {
+  if (CatchUp()) return;
+  const FileLock Lock(path);
+  if (CatchUp()) return;  // another copy was faster
+  saved = RollerLists::Default();
+  Merge();
+  if (SetAside()) SaveHighRollers();
+}
+
+void HighRollers::ResetHighRollers() {
+  const FileLock Lock(path);
+  if ((ReadFile() || SetAside()) && Store(RollerLists::Default())) unsaved.clear();
+}
+
+bool HighRollers::CatchUp() {
+  const auto Found = ReadFile();
+  if (Found) saved = *Found;
+  Merge();
+  return Found.has_value();
+}
+
+void HighRollers::Add(WhichList List, const HighRoller& Entry) {
+  const FileLock Lock(path);
+  unsaved.emplace_back(List, Entry);
+  if (CatchUp() || SetAside()) SaveHighRollers();
+}
+
+std::optional<RollerLists> HighRollers::ReadFile() const {
+  const auto Scrambled = ReadWholeFile(path, LargestFile);
+  if (!Scrambled) return std::nullopt;
+  return RollerLists::OfText(UnscrambleText(*Scrambled));
+}
+
+/// Moves what stands in the file's place, but can't be read as lists, out of the way; nothing is overwritten. False if
+/// it is still there.
+bool HighRollers::SetAside() const {
+  if (!QFileInfo::exists(path)) return true;
+  for (int i = 1; i <= MostSetAside; ++i) {
+    const QString Aside = path + QStringLiteral(".damaged%1").arg(i);
+    if (QFileInfo::exists(Aside)) continue;
+    if (!QFile::rename(path, Aside)) break;
+    std::fprintf(stderr, "%s holds no high rollers lists: moved to %s\n", qPrintable(path), qPrintable(Aside));
+    return true;
+  }
+  std::fprintf(stderr, "%s holds no high rollers lists, and can't be moved away\n", qPrintable(path));
+  return false;
+}
+
+/// Writes the lists. Only what is read back counts as written.
+bool HighRollers::Store(const RollerLists& Saved) const {
+  const QByteArray Scrambled = ScrambleText(Saved.Text());
+  utilStoreLists(Scrambled);
+  return ReadWholeFile(path, LargestFile) == Scrambled;
+}
+
+void HighRollers::SaveHighRollers() {
+  if (!Store(lists)) return;
+  saved = lists;
+  unsaved.clear();
+}
+
+void HighRollers::Merge() {
+  lists = saved;
+  for (const auto& [List, Entry] : unsaved) Insert(lists.*List, Entry);
+}
+
+}  // namespace blunko

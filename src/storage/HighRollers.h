@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace blunko {
+
+/// An entry of the lists.
+struct HighRoller {
+  QString Name;  ///< may be empty
+  std::int16_t Score = 0;
+  bool operator==(const HighRoller&) const = default;
+};
+
+/// The top ten, best first.
+using RollerList = std::array<HighRoller, 10>;
+
+/// Index of the entry that a score would push down: the first one that it beats, an equal one not. Nothing for a score
+/// that stays out.
+std::optional<int> PlaceFor(const RollerList& List, std::int16_t Score);
+
+/// What the file holds.
+struct RollerLists {
+  RollerList lstHSTS;  ///< "Highest Single Turn Score"
+  RollerList lstBMoV;  ///< "Biggest Whoopin'", margin of victory
+  bool operator==(const RollerLists&) const = default;
+
+  /// The lists that a reset brings back.
+  static RollerLists Default();
+  /// Reads the plain text of the file, 20 lines in Latin-1; nothing for a text that isn't whole.
+  static std::optional<RollerLists> OfText(const QByteArray& Text);
+  QByteArray Text() const;
+};
+
+/// Picks one of the two lists.
+using WhichList = RollerList RollerLists::*;
+
+/// The scrambling of the file, byte for byte. No byte of scrambled text is 0; the plain byte 255 doesn't survive.
+QByteArray ScrambleText(QByteArray Text);
+QByteArray UnscrambleText(QByteArray Text);
+
+/// The lists of a run and their file. What another running copy of the program saves is taken over, never lost.
+/// Failures are silent: an entry that couldn't be saved stays in the lists for the run, and the next save carries it.
+class HighRollers {
+ public:
+  /// Puts a scrambled text in place of the file.
+  using Writer = std::function<void(const QByteArray& Text)>;
+
+  HighRollers(QString Path, Writer UtilStoreLists) : path(std::move(Path)), utilStoreLists(std::move(UtilStoreLists)) {}
+
+  /// Reads the file. A missing one is written anew with the default lists; a damaged one is set aside under another
+  /// name, reported on standard error, and then counts as missing.
+  void LoadHighRollers();
+  /// Replaces the file by the default lists. `Lists` changes at the next load.
+  void ResetHighRollers();
+  /// Takes over what has been saved since. A missing or damaged file changes nothing; then false.
+  bool CatchUp();
+  /// Inserts the entry into the list as it is by now, where its score belongs, and saves.
+  void Add(WhichList List, const HighRoller& Entry);
+
+  const RollerLists& Lists() const { return lists; }
+
+ private:
+  std::optional<RollerLists> ReadFile() const;
+  bool SetAside() const;
+  bool Store(const RollerLists& Saved) const;
+  void SaveHighRollers();
+  void Merge();
+
+  QString path;
+  Writer utilStoreLists;
+  RollerLists saved = RollerLists::Default();               ///< as last seen in the file
+  std::vector<std::pair<WhichList, HighRoller>> unsaved{};  ///< entries that the file hasn't taken yet
+  RollerLists lists = saved;                                ///< both together
+};
+
+}  // namespace blunko

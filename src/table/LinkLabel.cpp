@@ -1,0 +1,39 @@
+#include "table/LinkLabel.h"
+
+#include <QPainter>
+
+#include "table/Fonts.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr int Margin = 4;  // px, room for the focus
+const QColor FocusColour(255, 178, 36);
+
+}  // namespace
+
+LinkLabel::LinkLabel(const QString& Caption, QWidget* Parent) : QPushButton(Caption, Parent) {
+  QFont Font = FontOf(Typeface::Verdana, 9.75);
+  Font.setUnderline(true);
+  setFont(Font);
+  setCursor(Qt::PointingHandCursor);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize LinkLabel::sizeHint() const {
+  return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2 * Margin, 2 * Margin);
+}
+
+void LinkLabel::paintEvent(QPaintEvent*) {
+  QPainter Painter(this);
+  const QColor Link = palette().color(QPalette::Link);
+  Painter.setPen(isDown() ? Link.darker(130) : Link);
+  Painter.drawText(rect(), Qt::AlignCenter, text());
+  if (!hasFocus()) return;
+  Painter.setRenderHint(QPainter::Antialiasing);
+  Painter.setPen(QPen(FocusColour, 2));
+  Painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), Margin, Margin);
+}
+
+}  // namespace blunko
