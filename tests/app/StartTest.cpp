@@ -6,6 +6,7 @@
 
 #include "app/Application.h"
 #include "app/frmCongrats.h"
+#include "storage/DayNumber.h"
 #include "tests/app/Run.h"
 #include "tests/engine/Table.h"
 
@@ -23,6 +24,11 @@ const std::string Version = "Tollmoor Blunko: Would you like to check for a new 
 const std::string Newer =
     "Tollmoor Blunko: A newer version is available, would you like to go to the web site to download it?";
 const std::string QuitGame = "Quit?: Are you sure you want to quit the current game?";
+
+const QByteArray TwoPersons =
+    "defNumPlayers=2\ndefPlayerNameString=Ann\xA4"
+    "Bob\xA4\ndefPlayerIsCompString=False\xA4"
+    "False\xA4\n";
 
 /// The whole program in a folder of its own, with scripted dice; its waits are instant.
 class TheProgram : public testing::Test {
@@ -44,9 +50,10 @@ class TheProgram : public testing::Test {
     Run = std::make_unique<Application>(FoldersIn(Place), std::move(Numbers));
     Run->Screen.WaitFactor = 0;
   }
-  /// A later start, with nothing asked.
+  /// A later start, with nothing asked; neither is a person who makes a list, unless the name is one of the dialog's.
   void Start(const QByteArray& Keys = {}) {
-    Put("Scanned=True\nShowWelcomeMessage=0\nComputerFast=2\n" + Keys);
+    Put("Scanned=True\nShowWelcomeMessage=0\nComputerFast=2\nNoHS=" + DayNumber(QDate::currentDate()).toLatin1() +
+        "\n" + Keys);
     Create();
     Dice->Faces = {2};
     ASSERT_TRUE(Run->Main());
@@ -75,16 +82,16 @@ class TheProgram : public testing::Test {
       ButtonPlus* frmCongrats::*Button, const std::function<void()>& Afterwards = [] {}) {
     frmMain& Form = *Run->Form;
     ASSERT_TRUE(Form.cmdRoll->isVisible() && Form.cmdRoll->isEnabled());
-    EXPECT_EQ(Form.lblPlayer->text(), QLatin1String("Player1"));
+    EXPECT_EQ(Form.lblPlayer->text(), QLatin1String("Ann"));
     EXPECT_EQ(Form.lblStatus->text(), QLatin1String("Roll the dice."));
     EXPECT_EQ(Pad()->findChild<FitLabel*>(QStringLiteral("lblScore(1)"))->text(), QLatin1String("0"));
     Roll({1, 1, 1, 1, 3, 2});
     Click(Form.Picture1[0]);
     EXPECT_EQ(Form.lblTurnScore->text(), QLatin1String("2000"));
     Click(Form.cmdPassDice);
-    EXPECT_EQ(Form.lblPlayer->text(), QLatin1String("Player2"));
+    EXPECT_EQ(Form.lblPlayer->text(), QLatin1String("Bob"));
     Roll({2, 3, 3, 4, 6, 6});  // a blunko
-    EXPECT_EQ(Form.lblPlayer->text(), QLatin1String("Player1"));
+    EXPECT_EQ(Form.lblPlayer->text(), QLatin1String("Ann"));
     Roll({1, 1, 1, 1, 1, 2});
     Click(Form.Picture1[2]);
     Next.Press(QMessageBox::Ok);
@@ -94,8 +101,8 @@ class TheProgram : public testing::Test {
     Roll({1, 1, 1, 1, 1, 2});
     Click(Form.Picture1[0]);
     Next.Expect<frmCongrats>([this, Button](frmCongrats& Dialog) {
-      EXPECT_EQ(Dialog.windowTitle(), QLatin1String("Congratulations Player1 !!!"));
-      EXPECT_TRUE(QTest::qWaitFor([&] { return Dialog.lblWinner->text() == QLatin1String("* Player1 *"); }, 2000));
+      EXPECT_EQ(Dialog.windowTitle(), QLatin1String("Congratulations Ann !!!"));
+      EXPECT_TRUE(QTest::qWaitFor([&] { return Dialog.lblWinner->text() == QLatin1String("* Ann *"); }, 2000));
       EXPECT_EQ(Pad()->findChild<FitLabel*>(QStringLiteral("lblScore(0)"))->text(), QLatin1String("6000"));
       EXPECT_EQ(Pad()->findChild<FitLabel*>(QStringLiteral("lblScore(1)"))->text(), QLatin1String("4000"));
       Click(Dialog.*Button);
@@ -242,9 +249,7 @@ TEST_F(TheProgram, TheScorePadGoesAndComesWithTheTable) {
 }
 
 TEST_F(TheProgram, TwoPersonsPlayToTheTrophyWithTheMouse) {
-  Start(
-      "defNumPlayers=2\ndefPlayerIsCompString=False\xA4"
-      "False\xA4\n");
+  Start(TwoPersons);
   frmMain& Form = *Run->Form;
   const auto NewGame = [&] {
     Next.Expect<frmNewGame>([](frmNewGame& Dialog) { Click(Dialog.cmdPlay); });
@@ -297,9 +302,7 @@ TEST_F(TheProgram, ClosesUnderADialog) {
     BeginLoops();
   }
   {
-    Start(
-        "defNumPlayers=2\ndefPlayerIsCompString=False\xA4"
-        "False\xA4\n");
+    Start(TwoPersons);
     Run->State.FormMessage = "RestartGame";
     Run->Form->Handle([&] { Run->Table.ARCmdNewGame_Click(); });
     Run->State.PlayerScore = {6000, 0};
