@@ -118,7 +118,10 @@ struct Table {
   RecordingDesktop Screen{t};
   RecordingProgram Others{Screen.Log};
   ScriptedDice Numbers;
-  Game game{m, t, Options, Screen, Others, Numbers};
+  Game game;
+
+  explicit Table(const GameOptions* Instead = nullptr)
+      : game{m, t, Instead != nullptr ? *Instead : Options, Screen, Others, Numbers} {}
 
   /// Begins a game; a seat with a style's word as its name is a computer.
   void Begin(std::initializer_list<const char*> Names, int PlayTo = 5000, int BreakIn = 500) {
