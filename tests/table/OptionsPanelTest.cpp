@@ -42,9 +42,9 @@ struct DressedTable : Home, TableForm {
     Form.PaintTrays(Start, Start);
   }
   /// With the given dice on the table; the first `Taken` of them lie in the tray.
-  void Play(std::initializer_list<int> Faces, int Taken) {
+  void Play(const char* Faces, int Taken) {
     Begin({"Ann", "Bob"});
-    PressRoll(Faces);
+    PressRoll(Digits(Faces));
     for (int i = 0; i < Taken; ++i) QTest::mouseClick(Box(i), Qt::LeftButton);
   }
   void ChooseSet(const char* Name) {
@@ -91,13 +91,8 @@ TEST(OptionsPanel, SaveKeepsEveryChoiceAndCancelTakesItBack) {
 }
 
 TEST(OptionsPanel, TrayColoursFollowTheMomentAtWhichASetIsPainted) {
-  const struct {
-    const char* Why;
-    int Base;
-    const char* Click;  ///< clicked in the list, null for none
-    bool Save;
-    QColor Start, Open, End;
-  } Rows[] = {
+  // The set in the settings, the one that is clicked, and the trays at the start, with the panel open and at the end.
+  const std::tuple<const char*, int, const char*, bool, QColor, QColor, QColor> Rows[] = {
       {"Clocks, saved", 124, nullptr, true, {192, 0, 0}, {28, 246, 164}, {28, 246, 164}},
       {"Clocks, cancelled", 124, nullptr, false, {192, 0, 0}, {28, 246, 164}, {192, 0, 0}},
       {"Pablo, saved", 118, nullptr, true, {0, 0, 128}, {236, 238, 228}, {236, 238, 228}},
@@ -105,37 +100,32 @@ TEST(OptionsPanel, TrayColoursFollowTheMomentAtWhichASetIsPainted) {
       {"a set that isn't offered", 166, nullptr, true, {0, 128, 0}, {0, 128, 0}, {0, 128, 0}},
       {"no set at all", 55, nullptr, true, {0, 0, 0}, {0, 0, 0}, {0, 0, 0}},
   };
-  for (const auto& Row : Rows) {
-    SCOPED_TRACE(Row.Why);
-    DressedTable Dressed("DieColor=" + QByteArray::number(Row.Base) + "\n");
-    EXPECT_EQ(Dressed.Form.picTray2->BackColor(), Row.Start);
+  for (const auto& [Why, Base, Click, Save, Start, Open, End] : Rows) {
+    SCOPED_TRACE(Why);
+    DressedTable Dressed("DieColor=" + QByteArray::number(Base) + "\n");
+    EXPECT_EQ(Dressed.Form.picTray2->BackColor(), Start);
     Dressed.Panel->cmdOptions_Click();
-    EXPECT_EQ(Dressed.Form.picTray2->BackColor(), Row.Open);
-    if (Row.Click != nullptr) Dressed.ChooseSet(Row.Click);
-    Dressed.Close(Row.Save);
-    EXPECT_EQ(Dressed.Form.picTray1->BackColor(), Row.End);
-    EXPECT_EQ(Dressed.Form.Picture1[0]->BackColor(), Row.End);
-    EXPECT_EQ(GameSettings(Dressed.Where).DieColour(), Row.Base) << "a set off the list stays in the settings";
+    EXPECT_EQ(Dressed.Form.picTray2->BackColor(), Open);
+    if (Click != nullptr) Dressed.ChooseSet(Click);
+    Dressed.Close(Save);
+    EXPECT_EQ(Dressed.Form.picTray1->BackColor(), End);
+    EXPECT_EQ(Dressed.Form.Picture1[0]->BackColor(), End);
+    EXPECT_EQ(GameSettings(Dressed.Where).DieColour(), Base) << "a set off the list stays in the settings";
   }
 }
 
 TEST(OptionsPanel, DiceOfARunningGameComeBackInTheChosenSetWithTheChosenMarks) {
-  const struct {
-    const char* Why;
-    std::initializer_list<int> Faces;
-    int Taken;
-    bool Save;
-  } Rows[] = {
-      {"none set aside", {1, 5, 2, 3, 4, 4}, 0, true},
-      {"one set aside, cancelled", {1, 5, 2, 3, 4, 4}, 1, false},
-      {"two set aside", {1, 5, 2, 3, 4, 4}, 2, true},
-      {"six in the tray", {1, 2, 3, 4, 5, 6}, 1, true},
+  const std::tuple<const char*, const char*, int, bool> Rows[] = {
+      {"none set aside", "152344", 0, true},
+      {"one set aside, cancelled", "152344", 1, false},
+      {"two set aside", "152344", 2, true},
+      {"six in the tray", "123456", 1, true},
   };
-  for (const auto& Row : Rows) {
-    SCOPED_TRACE(Row.Why);
+  for (const auto& [Why, Faces, Taken, Save] : Rows) {
+    SCOPED_TRACE(Why);
     DressedTable Dressed("SortDice=False\n");
     frmMain& Form = Dressed.Form;
-    Dressed.Play(Row.Faces, Row.Taken);
+    Dressed.Play(Faces, Taken);
     const TableControls Before = Dressed.t;
     EXPECT_EQ(Form.picMarker[1]->isVisible(), Before.picMarker[1]);
     Dressed.Panel->cmdOptions_Click();
@@ -143,14 +133,14 @@ TEST(OptionsPanel, DiceOfARunningGameComeBackInTheChosenSetWithTheChosenMarks) {
     Dressed.Panel->chkMarkScorers->click();
     EXPECT_EQ(Form.Picture1[0]->Picture(), 101);
     EXPECT_FALSE(Form.cmdRoll->isEnabled() || Form.picMarker[1]->isVisible());
-    Dressed.Close(Row.Save);
+    Dressed.Close(Save);
     for (const int First : {0, 10}) {
       for (int i = First; i < First + Dice; ++i) {
-        const int Was = Before.Picture1(i), Moved = Was != 0 && Row.Save ? 100 - 112 : 0;
+        const int Was = Before.Picture1(i), Moved = Was != 0 && Save ? 100 - 112 : 0;
         EXPECT_EQ(Dressed.t.Picture1(i), Was + Moved) << "box " << i;
       }
     }
-    EXPECT_EQ(Form.picMarker[1]->isVisible(), Before.picMarker[1] && !Row.Save);
+    EXPECT_EQ(Form.picMarker[1]->isVisible(), Before.picMarker[1] && !Save);
     EXPECT_EQ(Dressed.t.cmdRoll.Enabled, Before.cmdRoll.Enabled);
     EXPECT_EQ(Difference(Form, Dressed.t), "");
     EXPECT_EQ(Dressed.game.Fault(), "");
@@ -159,7 +149,7 @@ TEST(OptionsPanel, DiceOfARunningGameComeBackInTheChosenSetWithTheChosenMarks) {
 
 TEST(OptionsPanel, TheTableStandsStillAndKeepsItsPlace) {
   DressedTable Dressed("GameOverSound=/tmp/over.wav\n");
-  Dressed.Play({1, 5, 2, 3, 4, 4}, 1);
+  Dressed.Play("152344", 1);
   frmMain& Form = Dressed.Form;
   Form.move(300, 200);
   const QPoint Place = Form.picGameTray->mapToGlobal(QPoint(0, 0));

@@ -64,21 +64,19 @@ TEST_F(ScorePad, StandsAtTheSideWhereTheScreenHasRoomAndIsAsHighAsItsSeats) {
   const QRect Screen = Form.screen()->geometry();
   Pad.SetPosition();
   Pad.show();  // from now on its frame is known
-  const int Gap = 12, Table = Form.frameGeometry().width(), Own = Pad.frameGeometry().width();
-  const int Last = Screen.right() + 1 - Table - Gap;  // here the pad would begin where the screen ends
-  const struct {
-    int Table, Pad, Seats, LastRow;
-  } Rows[] = {{Screen.x() + 10, Screen.x() + 10 + Table + Gap, 1, 1800},
-              {Last - 1, Screen.right(), 2, 1800},
-              {Last, Last - Gap - Own, 3, 2220},
-              {Screen.right() - 50, Screen.right() - 50 - Gap - Own, 8, 4320}};
-  for (const auto& Row : Rows) {
-    m.NumPlayers = static_cast<std::uint8_t>(Row.Seats);
-    Form.move(Row.Table, Screen.y() + 40);
+  const int Gap = 12, Width = Form.frameGeometry().width(), Own = Pad.frameGeometry().width();
+  const int Last = Screen.right() + 1 - Width - Gap;  // here the pad would begin where the screen ends
+  const std::array<int, 4> Rows[] = {{Screen.x() + 10, Screen.x() + 10 + Width + Gap, 1, 1800},
+                                     {Last - 1, Screen.right(), 2, 1800},
+                                     {Last, Last - Gap - Own, 3, 2220},
+                                     {Screen.right() - 50, Screen.right() - 50 - Gap - Own, 8, 4320}};
+  for (const auto& [TableLeft, PadLeft, Seats, LastRow] : Rows) {
+    m.NumPlayers = static_cast<std::uint8_t>(Seats);
+    Form.move(TableLeft, Screen.y() + 40);
     Pad.SetPosition();
     Pad.show();
-    const QRect Expected(Row.Pad, Screen.y() + 40, 173, (Row.LastRow + 375) / 15);
-    EXPECT_EQ(QRect(Pad.pos(), Pad.size()), Expected) << Row.Seats << " seats";
+    const QRect Expected(PadLeft, Screen.y() + 40, 173, (LastRow + 375) / 15);
+    EXPECT_EQ(QRect(Pad.pos(), Pad.size()), Expected) << Seats << " seats";
     EXPECT_EQ(Pad.minimumSize(), Pad.maximumSize());
     Pad.hide();
   }

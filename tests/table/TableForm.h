@@ -23,11 +23,11 @@ struct TableForm : Table {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Form, 2000));
   }
 
-  void Begin(std::initializer_list<const char*> Names) {
+  void Begin(const std::vector<const char*>& Names) {
     Form.Handle([&] { Table::Begin(Names); });
   }
   /// Rolls with the button.
-  void PressRoll(std::initializer_list<int> Faces) {
+  void PressRoll(const std::vector<int>& Faces) {
     Script(Faces);
     QTest::mouseClick(Form.cmdRoll, Qt::LeftButton);
   }
@@ -43,21 +43,19 @@ inline std::string Difference(const frmMain& Form, const TableControls& t) {
   const auto CompareEnabled = [&](const QWidget* Shown, bool Recorded) {
     Compare(Shown, "enabled", Shown->isEnabled(), Recorded && t.picGameTray.Enabled);
   };
-  const auto CompareButton = [&](const ButtonPlus* Shown, const Button& Record) {
-    CompareEnabled(Shown, Record.Enabled);
-    Compare(Shown, "visible", Shown->isVisible(), Record.Visible);
-  };
-  const auto CompareLabel = [&](const FitLabel* Shown, const Label& Record) {
-    Compare(Shown, "caption", Shown->text().toStdString(), Record.Caption);
-    Compare(Shown, "visible", Shown->isVisible(), Record.Visible);
-  };
-  CompareButton(Form.ARCmdNewGame, t.ARCmdNewGame);
-  CompareButton(Form.cmdRoll, t.cmdRoll);
-  CompareButton(Form.cmdPassDice, t.cmdPassDice);
-  CompareLabel(Form.lblStatus, t.lblStatus);
-  CompareLabel(Form.lblLastRoll, t.lblLastRoll);
-  CompareLabel(Form.lblPlayer, t.lblPlayer);
-  CompareLabel(Form.lblTurnScore, t.lblTurnScore);
+  for (const auto& [Shown, Record] : {std::pair(Form.ARCmdNewGame, &t.ARCmdNewGame),
+                                      {Form.cmdRoll, &t.cmdRoll},
+                                      {Form.cmdPassDice, &t.cmdPassDice}}) {
+    CompareEnabled(Shown, Record->Enabled);
+    Compare(Shown, "visible", Shown->isVisible(), Record->Visible);
+  }
+  for (const auto& [Shown, Record] : {std::pair(Form.lblStatus, &t.lblStatus),
+                                      {Form.lblLastRoll, &t.lblLastRoll},
+                                      {Form.lblPlayer, &t.lblPlayer},
+                                      {Form.lblTurnScore, &t.lblTurnScore}}) {
+    Compare(Shown, "caption", Shown->text().toStdString(), Record->Caption);
+    Compare(Shown, "visible", Shown->isVisible(), Record->Visible);
+  }
   Compare(Form.lblStatus, "top", Form.lblStatus->y(), Pixels(t.lblStatus.Top));
   CompareEnabled(Form.picTray1, t.picTray1.Enabled);
   CompareEnabled(Form.picTray2, t.picTray2.Enabled);

@@ -79,30 +79,23 @@ TEST_F(TheTable, ClicksAndKeysReachTheGame) {
   const auto Key = [&Focus](Qt::Key Code, Qt::KeyboardModifiers With = {}) {
     return Input([=, &Focus] { QTest::keyClick(Focus, Code, With); });
   };
+  const auto All = [](const std::vector<Input>& Inputs) {
+    return Input([Inputs] { std::ranges::for_each(Inputs, [](const Input& Each) { Each(); }); });
+  };
   const std::string Quit = "ask Quit?: Are you sure you want to quit the current game?", Die = "sound MoveDie";
   const std::string Undone = "status Select Dice. (Undo)";
-  const struct {
-    const char* Rule;
-    Input Do;
-    const char* Score;
-    Names Log;
-  } Rows[] = {
-      {"left on the gap", Gap(Form.picTray1, Qt::LeftButton), "0", {}},
-      {"right on a die, Roll off", Right(0), "0", {}},
-      {"right on the gap, Roll off", Gap(Form.picTray1, Qt::RightButton), "0", {}},
-      {"left on a non-scorer", Left(1), "0", {"beep"}},
-      {"left on an empty slot", Left(12), "0", {}},
+  const std::tuple<const char*, Input, const char*, Names> Rows[] = {
+      // with the score and the log afterwards
+      {"what is off",
+       All({Right(0), Gap(Form.picTray1, Qt::RightButton), Key(Qt::Key_R), Key(Qt::Key_0, Qt::KeypadModifier),
+            Key(Qt::Key_P), Key(Qt::Key_Period, Qt::KeypadModifier), Key(Qt::Key_Backspace)}),
+       "0",
+       {}},
+      {"where no die is", All({Gap(Form.picTray1, Qt::LeftButton), Left(12), Key(Qt::Key_6), Key(Qt::Key_7)}), "0", {}},
+      {"a die that doesn't score", All({Left(1), Key(Qt::Key_4)}), "0", {"beep", "beep"}},
       {"left on a scorer", Left(0), "100", {Die, "status Select dice or roll."}},
       {"left on its empty place", Left(0), "100", {}},
       {"left on the tray die", Left(10), "0", {Undone, "sound Undo"}},
-      {"R, Roll off", Key(Qt::Key_R), "0", {}},
-      {"0 of the number pad, Roll off", Key(Qt::Key_0, Qt::KeypadModifier), "0", {}},
-      {"P, Pass off", Key(Qt::Key_P), "0", {}},
-      {"point of the number pad, Pass off", Key(Qt::Key_Period, Qt::KeypadModifier), "0", {}},
-      {"Backspace, nothing to undo", Key(Qt::Key_Backspace), "0", {}},
-      {"a face that doesn't score", Key(Qt::Key_4), "0", {"beep"}},
-      {"a face that isn't up", Key(Qt::Key_6), "0", {}},
-      {"no face", Key(Qt::Key_7), "0", {}},
       {"1", Key(Qt::Key_1), "100", {Die, "status Select dice or roll."}},
       {"1 again", Key(Qt::Key_1), "100", {}},
       {"5 of the number pad", Key(Qt::Key_5, Qt::KeypadModifier), "150", {Die, "status Roll the dice."}},
@@ -115,12 +108,12 @@ TEST_F(TheTable, ClicksAndKeysReachTheGame) {
   Screen.Answer = false;
   for (QWidget* Each : {static_cast<QWidget*>(&Form), static_cast<QWidget*>(Form.cmdHighRollers)}) {
     (Focus = Each)->setFocus();
-    for (const auto& Row : Rows) {
-      SCOPED_TRACE(Row.Rule);
+    for (const auto& [Rule, Do, Score, Log] : Rows) {
+      SCOPED_TRACE(Rule);
       TakeLog();
-      Row.Do();
-      EXPECT_EQ(Form.lblTurnScore->text().toStdString(), Row.Score);
-      EXPECT_EQ(TakeLog(), Row.Log);
+      Do();
+      EXPECT_EQ(Form.lblTurnScore->text().toStdString(), Score);
+      EXPECT_EQ(TakeLog(), Log);
       EXPECT_EQ(Difference(Form, t), "");
     }
   }
@@ -135,11 +128,8 @@ TEST_F(TheTable, ClicksAndKeysReachTheGame) {
   EXPECT_EQ(m.TurnScore, 150) << "a quick second click counts";
 
   const std::string Rolls = "status Rolling...", Passes = "sound Passem1";
-  const struct {
-    const char* Rule;
-    Input Do;
-    std::string First;  ///< line of the log
-  } Moves[] = {
+  const std::tuple<const char*, Input, std::string> Moves[] = {
+      // with the first line of the log
       {"right on an empty place", Right(0), Rolls},
       {"right on a die", Right(3), Rolls},
       {"right on a tray die", Right(10), Rolls},
@@ -151,20 +141,19 @@ TEST_F(TheTable, ClicksAndKeysReachTheGame) {
       {"P", Key(Qt::Key_P), Passes},
       {"point of the number pad", Key(Qt::Key_Period, Qt::KeypadModifier), Passes},
       {"comma of the number pad", Key(Qt::Key_Comma, Qt::KeypadModifier), Passes},
-      {"0", Key(Qt::Key_0), "none"},
-      {"point", Key(Qt::Key_Period), "none"},
+      {"plain 0 and point", All({Key(Qt::Key_0), Key(Qt::Key_Period)}), "none"},
   };
-  for (const auto& Row : Moves) {
-    SCOPED_TRACE(Row.Rule);
+  for (const auto& [Rule, Do, First] : Moves) {
+    SCOPED_TRACE(Rule);
     Begin({"Ann", "Bob"});
     PressRoll({1, 1, 1, 2, 3, 4});
     Left(0)();
     ASSERT_EQ(m.TurnScore, 1000);
     TakeLog();
     Script({1, 2, 3});
-    Row.Do();
+    Do();
     Screen.Log.push_back("none");
-    EXPECT_EQ(Screen.Log.front(), Row.First);
+    EXPECT_EQ(Screen.Log.front(), First);
     EXPECT_EQ(Difference(Form, t), "");
   }
 }
@@ -198,26 +187,17 @@ TEST_F(TheTable, AKeyIsACommandOnceAtItsReleaseAfterAPressHere) {
 TEST_F(TheTable, MenusAndButtonsCallTheProgram) {
   const auto Says = [this](const char* What) { return [=, this] { Screen.Log.push_back(What); }; };
   Form.OnCommand = {Says("Options"), Says("HighRollers"), Says("HowToPlay"), Says("GoHelp"), Says("About"), {}};
-  const struct {
-    FitLabel* Label;
-    const char* Text;
-    QMenu* Menu;
-    std::vector<std::array<const char*, 3>> Entries;  ///< name, caption, what it calls; a separator has only a name
-  } Menus[] = {{Form.lblMnuGame,
-                "Game",
-                Form.mnuGame,
-                {{"mnuNewGame", "&New Game  (F2)", "new game"},
-                 {"mnuOptions", "&Options...", "Options"},
-                 {"mnuSep1", "", ""},
-                 {"mnuExit", "&Exit", "exit"}}},
-               {Form.lblMnuHelp,
-                "Help",
-                Form.mnuHelpMe,
-                {{"mnuHowToPlay", "How to Play...", "HowToPlay"},
-                 {"mnuGoHelp", "&Show Tollmoor Blunko Help...", "GoHelp"},
-                 {"mnuSep99", "", ""},
-                 {"mnuAbout", "About Tollmoor Blunko...", "About"}}}};
-  for (const auto& [Label, Text, Menu, Entries] : Menus) {
+  // Names, captions, and what they call; a separator has only a name.
+  const std::vector<std::array<const char*, 3>> OfGame{{"mnuNewGame", "&New Game  (F2)", "new game"},
+                                                       {"mnuOptions", "&Options...", "Options"},
+                                                       {"mnuSep1", "", ""},
+                                                       {"mnuExit", "&Exit", "exit"}};
+  const std::vector<std::array<const char*, 3>> OfHelp{{"mnuHowToPlay", "How to Play...", "HowToPlay"},
+                                                       {"mnuGoHelp", "&Show Tollmoor Blunko Help...", "GoHelp"},
+                                                       {"mnuSep99", "", ""},
+                                                       {"mnuAbout", "About Tollmoor Blunko...", "About"}};
+  for (const auto& [Label, Text, Menu, Entries] : {std::tuple(Form.lblMnuGame, "Game", Form.mnuGame, &OfGame),
+                                                   std::tuple(Form.lblMnuHelp, "Help", Form.mnuHelpMe, &OfHelp)}) {
     EXPECT_EQ(Label->text(), Text);
     QTest::mouseClick(Label, Qt::RightButton);
     EXPECT_FALSE(Menu->isVisible());
@@ -225,16 +205,15 @@ TEST_F(TheTable, MenusAndButtonsCallTheProgram) {
     EXPECT_TRUE(Menu->isVisible());
     EXPECT_EQ(Menu->pos(), Label->mapToGlobal(QPoint(0, Label->height())));
     Menu->close();
-    ASSERT_EQ(Menu->actions().size(), Entries.size());
-    for (std::size_t i = 0; i < Entries.size(); ++i) {
-      const auto& [Name, Caption, Calls] = Entries[i];
-      SCOPED_TRACE(Name);
+    ASSERT_EQ(Menu->actions().size(), Entries->size());
+    for (std::size_t i = 0; i < Entries->size(); ++i) {
+      const auto& [Name, Caption, Calls] = (*Entries)[i];
       QAction* Action = Menu->actions().at(static_cast<int>(i));
       EXPECT_EQ(Action->objectName(), Name);
       EXPECT_EQ(Action->text(), Caption);
       EXPECT_EQ(Action->isSeparator(), *Calls == '\0');
       Action->trigger();
-      EXPECT_EQ(TakeLog(), *Calls == '\0' ? Names{} : Names{Calls});
+      EXPECT_EQ(TakeLog(), *Calls == '\0' ? Names{} : Names{Calls}) << Name;
     }
     m.Quitting = false;  // after mnuExit
     Form.show();
@@ -331,8 +310,7 @@ TEST_F(TheTable, NoTextIsCut) {
   EXPECT_LE(Form.lblStatus->geometry().bottom(), Form.lblLastRoll->y());
 }
 
-class PaintWatch : public QObject {
- public:
+struct PaintWatch : QObject {
   std::function<void()> OnPaint;
   bool eventFilter(QObject*, QEvent* Event) override {
     if (Event->type() == QEvent::Paint) OnPaint();
