@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <random>
 
 #include "bots/ComputerPlayers.h"
 #include "tests/engine/Table.h"
@@ -29,13 +28,6 @@ class Vandal {
   }
 
  private:
-  struct Dice : NumberSource {
-    std::minstd_rand& chance;
-    explicit Dice(std::minstd_rand& Chance) : chance(Chance) {}
-    std::int32_t UtilRandom(std::int32_t Bound) override {
-      return 1 + static_cast<std::int32_t>(chance() % static_cast<unsigned>(Bound));
-    }
-  };
   struct Uniform : UniformSource {
     std::minstd_rand& chance;
     explicit Uniform(std::minstd_rand& Chance) : chance(Chance) {}
@@ -123,7 +115,7 @@ class Vandal {
   Table table;
   RecordingDesktop& screen = table.Screen;
   RecordingProgram& others = table.Others;
-  Dice dice{chance};
+  RandomDice dice{chance};
   Uniform uniform{chance};
   Game game{table.m, table.t, table.Options, screen, others, dice};
   ComputerPlayers players{game, uniform};

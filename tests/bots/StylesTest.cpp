@@ -7,8 +7,6 @@
 namespace blunko::test {
 namespace {
 
-using testing::ElementsAre;
-
 class ScriptedUniform : public UniformSource {
  public:
   std::deque<double> Values;
@@ -31,8 +29,7 @@ struct PlayingTable : Table {
     };
   }
   /// Seat 0 plays one turn of the style with these scripted faces, against a person.
-  void PlayTurn(const char* Style, std::initializer_list<int> Faces, int Banked, int OpponentBanked = 0,
-                int Out = Absent) {
+  void PlayTurn(const char* Style, const char* Faces, int Banked, int OpponentBanked = 0, int Out = Absent) {
     Starts = false;
     Begin({Style, "Ann"});
     Starts = true;
@@ -40,7 +37,8 @@ struct PlayingTable : Table {
     m.PlayerScore[1] = static_cast<std::int16_t>(OpponentBanked);
     m.OutPlayer = static_cast<std::uint8_t>(Out);
     Options.Sort = false;
-    Numbers.Faces.assign(Faces);
+    const auto Script = Digits(Faces);
+    Numbers.Faces.assign(Script.begin(), Script.end());
     TakeLog();
     Players.RunComputerTurn();
   }
@@ -50,7 +48,7 @@ struct PlayingTable : Table {
 struct StyleRow {
   const char* Style;
   const char* Why;
-  std::initializer_list<int> Faces;
+  const char* Faces;
   int Banked;  ///< of the seat before the turn
   int Gain;    ///< what the turn adds
   int DiceDrawn;
@@ -60,51 +58,26 @@ struct StyleRow {
 
 TEST(Styles, PlayTheirTurnsByTheirNumbers) {
   const StyleRow Rows[] = {
-      {"Simple", "takes all, passes at 400", {1, 1, 5, 5, 5, 3}, 500, 700, 6},
-      {"Simple", "350 isn't enough: rolls the one die left and busts", {1, 1, 5, 1, 1, 3, 3}, 500, 2050, 6},
-      {"Simple", "350 rolls on", {3, 3, 3, 5, 4, 6, 2, 3}, 500, 0, 8},
-      {"Simple", "400 passes", {3, 3, 3, 1, 4, 6}, 500, 400, 6},
-      {"Simple", "six scoring dice must be rolled again", {1, 2, 3, 4, 5, 6, 2, 2, 3, 3, 4, 6}, 500, 0, 12},
-      {"Moron", "takes the first scorer and passes", {1, 3, 4, 6, 2, 2}, 500, 100, 6},
-      {"Moron", "takes the group that lies first, leaves the one", {3, 3, 3, 1, 4, 6}, 500, 300, 6},
-      {"Moron",
-       "not broken in: one scorer a roll until it may pass",
-       {1, 3, 4, 6, 2, 2, 2, 2, 2, 1, 3, 3, 3, 1},
-       0,
-       0,
-       13},
-      {"Moron",
-       "all score: takes one after the other, then rolls",
-       {1, 1, 1, 4, 4, 6, 1, 5, 5, 2, 3, 4, 6, 2, 3},
-       0,
-       1000,
-       6},
-      {"Normal",
-       "an early single one is taken alone, five dice are rolled",
-       {1, 1, 5, 3, 4, 6, 2, 2, 3, 4, 6},
-       500,
-       0,
-       11},
-      {"Normal", "three twos are left for a single one", {1, 2, 2, 2, 3, 4, 2, 3, 3, 4, 6}, 500, 0, 11},
-      {"Normal",
-       "a combination takes the single one along; 500 with two dice left is enough",
-       {1, 4, 4, 4, 3, 6},
-       500,
-       500,
-       6},
-      {"Cautious",
-       "five dice, a one and a five: both, then 250 with three left rolls",
-       {3, 3, 6, 4, 1, 6, 1, 5, 6, 4, 4},
-       500,
-       0,
-       14},
-      {"Fearless", "three dice left: takes the one only, rolls three", {2, 3, 1, 4, 6, 4, 2, 3, 3, 4, 6}, 500, 0, 11},
-      {"Normal", "nothing banked: passes as soon as it may", {1, 1, 1, 3, 4, 6}, 0, 1000, 6},
-      {"Normal", "hungry from 500 on: takes the rest too", {5, 5, 5, 1, 4, 6}, 0, 600, 6},
-      {"Normal", "last rolls: equal to the leader rolls on", {1, 1, 1, 3, 4, 6, 2, 3, 4}, 4000, 0, 9, 5000, 1},
-      {"Normal", "last rolls: ahead of the leader passes", {1, 1, 1, 5, 4, 6}, 4000, 1050, 6, 5000, 1},
-      {"Genius", "1000 behind plays Normal: 400 with two dice left passes", {3, 3, 3, 1, 4, 6}, 1000, 400, 6, 2000},
-      {"Genius", "1050 behind plays Fearless: it rolls them", {3, 3, 3, 1, 4, 6, 2, 3}, 1000, 0, 8, 2050},
+      {"Simple", "takes all, passes at 400", "115553", 500, 700, 6},
+      {"Simple", "350 isn't enough: rolls the one die left and busts", "1151133", 500, 2050, 6},
+      {"Simple", "350 rolls on", "33354623", 500, 0, 8},
+      {"Simple", "400 passes", "333146", 500, 400, 6},
+      {"Simple", "six scoring dice must be rolled again", "123456223346", 500, 0, 12},
+      {"Moron", "takes the first scorer and passes", "134622", 500, 100, 6},
+      {"Moron", "takes the group that lies first, leaves the one", "333146", 500, 300, 6},
+      {"Moron", "not broken in: one scorer a roll until it may pass", "13462222213331", 0, 0, 13},
+      {"Moron", "all score: takes one after the other, then rolls", "111446155234623", 0, 1000, 6},
+      {"Normal", "an early single one is taken alone, five dice are rolled", "11534622346", 500, 0, 11},
+      {"Normal", "three twos are left for a single one", "12223423346", 500, 0, 11},
+      {"Normal", "a combination takes the single one along; 500 with two dice left is enough", "144436", 500, 500, 6},
+      {"Cautious", "five dice, a one and a five: both, then 250 with three left rolls", "33641615644", 500, 0, 14},
+      {"Fearless", "three dice left: takes the one only, rolls three", "23146423346", 500, 0, 11},
+      {"Normal", "nothing banked: passes as soon as it may", "111346", 0, 1000, 6},
+      {"Normal", "hungry from 500 on: takes the rest too", "555146", 0, 600, 6},
+      {"Normal", "last rolls: equal to the leader rolls on", "111346234", 4000, 0, 9, 5000, 1},
+      {"Normal", "last rolls: ahead of the leader passes", "111546", 4000, 1050, 6, 5000, 1},
+      {"Genius", "1000 behind plays Normal: 400 with two dice left passes", "333146", 1000, 400, 6, 2000},
+      {"Genius", "1050 behind plays Fearless: it rolls them", "33314623", 1000, 0, 8, 2050},
   };
   for (const StyleRow& Row : Rows) {
     SCOPED_TRACE(std::string(Row.Style) + ": " + Row.Why);
@@ -154,8 +127,7 @@ TEST(Styles, RandomDrawsItsStyleForEachTurn) {
   } Rows[] = {{0.0, "Normal"},     {0.333, "Normal"},   {0.334, "Cautious"},
               {0.666, "Cautious"}, {0.667, "Fearless"}, {0.999, "Fearless"}};
   for (const auto& Row : Rows) {
-    const std::initializer_list<int> Faces{1, 1, 4, 4, 3, 6, 1, 3, 3, 4, 6, 1, 5, 3, 4,
-                                           1, 3, 5, 2, 1, 4, 1, 1, 3, 2, 2, 3, 3, 4, 6};
+    const char* Faces = "114436133461534135214113223346";
     PlayingTable random, plain;
     random.Uniform.Values = {Row.Uniform};
     random.PlayTurn("Random", Faces, 500);
@@ -167,33 +139,18 @@ TEST(Styles, RandomDrawsItsStyleForEachTurn) {
 }
 
 TEST(Styles, PauseAsTheSpeedSays) {
-  // Simple takes six positions a pass: a wait before each action, after the roll, and after each click.
-  const struct {
-    int Speed;
-    std::vector<std::string> Waits;
-  } Rows[] = {
-      {2, {}},
-      {1, {"sleep 100", "sleep 100", "sleep 100", "sleep 100", "sleep 100", "sleep 1000"}},
-  };
-  for (const auto& Row : Rows) {
+  const std::pair<int, int> Rows[] = {{0, 2}, {1, 1}, {2, 0}};  // speed, and how many pauses of a second
+  for (const auto& [Speed, Seconds] : Rows) {
+    SCOPED_TRACE(Speed);
     PlayingTable table;
-    table.Options.Speed = Row.Speed;
-    table.PlayTurn("Moron", {1, 3, 4, 6, 2, 2}, 500);
+    table.Options.Speed = Speed;
+    table.PlayTurn("Moron", std::string(Speed < 2 ? 30 : 0, '6').append("134622").c_str(), 500);
+    EXPECT_EQ(table.m.PlayerScore[0], 600);
     auto Log = table.TakeLog("sleep");
+    EXPECT_THAT(Log, testing::Contains("sleep 1000").Times(Seconds)) << "the pass waits, and the roll at Normal";
     std::erase(Log, "sleep 10");  // the tumbling dice
-    if (Row.Speed == 1) {
-      table.Numbers.Faces.clear();
-      EXPECT_EQ(std::count(Log.begin(), Log.end(), "sleep 1000"), 1) << "only the pass waits that long at Fast";
-      EXPECT_EQ(std::count(Log.begin(), Log.end(), "sleep 200"), 0);
-    } else {
-      EXPECT_EQ(Log, Row.Waits) << "no pause at all at Ridiculous";
-    }
+    EXPECT_EQ(Log.empty(), Speed == 2);
   }
-  PlayingTable table;
-  table.Options.Speed = 0;
-  table.PlayTurn("Moron", {}, 500);
-  const auto Log = table.TakeLog("sleep");
-  EXPECT_GE(std::count(Log.begin(), Log.end(), "sleep 1000"), 2) << "after a roll and at the pass";
 }
 
 TEST(Styles, WaitWhilePausedButForCautious) {
@@ -206,7 +163,7 @@ TEST(Styles, WaitWhilePausedButForCautious) {
       const bool MustStandStill = std::string(Style) != "Cautious" && table.m.PauseComputer;
       EXPECT_TRUE(!MustStandStill || table.Numbers.Draws == 0) << Style;
     };
-    table.PlayTurn(Style, {1, 1, 1, 3, 4, 6, 2, 2, 3}, 500);
+    table.PlayTurn(Style, "111346223", 500);
     EXPECT_GT(table.Numbers.Draws, 0) << Style;
   }
 }
@@ -252,16 +209,8 @@ TEST(HandOver, TenThousandGamesUseNoMoreStackThanOne) {
     if (Lowest == nullptr || &Here < Lowest) Lowest = &Here;
     table.Screen.Log.clear();
   };
-  std::uint32_t Word = 12345;
-  class Dice : public NumberSource {
-   public:
-    std::uint32_t& word;
-    explicit Dice(std::uint32_t& Seed) : word(Seed) {}
-    std::int32_t UtilRandom(std::int32_t Bound) override {
-      word = word * 1664525U + 1013904223U;
-      return static_cast<std::int32_t>((std::uint64_t{word} * static_cast<std::uint32_t>(Bound)) >> 32) + 1;
-    }
-  } Numbers(Word);
+  std::minstd_rand Chance(12345);
+  RandomDice Numbers(Chance);
   Game game(table.m, table.t, table.Options, table.Screen, table.Others, Numbers);
   ComputerPlayers Players(game, table.Uniform);
   GameSetup Setup;

@@ -9,6 +9,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+const std::string Question = "ask Quit?: Are you sure you want to quit the current game?";
+
 TEST(FreshGame, ReadsAllSeatsAndClearsTheTable) {
   Table table;
   table.m.PlayerStyle[1] = Moron;
@@ -40,31 +42,6 @@ TEST(FreshGame, ReadsAllSeatsAndClearsTheTable) {
   EXPECT_EQ(table.game.Fault(), "");
 }
 
-TEST(Keys, ReachTheHandlersOfTheClicks) {
-  Table table;
-  table.Options.Sort = false;
-  table.Begin({"Ann", "Bob"});
-  table.game.Form_KeyUp('P', 0);
-  EXPECT_EQ(table.m.CurrentPlayer, 0) << "P does nothing while passing is off";
-  table.Numbers.Faces.assign(30, 6);
-  for (const int Face : {4, 5, 2, 5, 5, 1}) table.Numbers.Faces.push_back(Face);
-  table.game.Form_KeyUp(96, 0);
-  table.TakeLog();
-  table.game.Form_KeyUp('4', 0);
-  EXPECT_THAT(table.TakeLog(), ElementsAre("beep")) << "a die that doesn't score";
-  table.game.Form_KeyUp('6', 0);
-  EXPECT_THAT(table.TakeLog(), IsEmpty()) << "no such face is up";
-  table.game.Form_KeyUp(101, 0);
-  EXPECT_THAT(table.Tray(), ElementsAre(5, 5, 5)) << "5 on the number pad takes the group";
-  table.game.Form_KeyUp(8, 0);
-  EXPECT_THAT(table.Tray(), IsEmpty());
-  table.game.Form_KeyUp('5', 0);
-  table.game.Form_KeyUp('1', 0);
-  table.game.Form_KeyUp(110, 0);
-  EXPECT_EQ(table.m.PlayerScore[0], 600);
-  EXPECT_EQ(table.m.CurrentPlayer, 1);
-}
-
 TEST(Keys, NobodyTouchesTheDiceOfAComputer) {
   Table table;
   table.Begin({"Normal", "Ann"});
@@ -88,12 +65,10 @@ TEST(NewGame, AsksBeforeAGameIsGivenUp) {
     bool Yes;
     std::vector<std::string> Log;
     bool GivenUp;
-  } Rows[] = {
-      {0, false, {"beep", "ask Quit?: Are you sure you want to quit the current game?"}, false},
-      {0, true, {"beep", "ask Quit?: Are you sure you want to quit the current game?", "new game"}, true},
-      {ShiftAlone, false, {"beep", "new game"}, true},
-      {3, false, {"beep", "ask Quit?: Are you sure you want to quit the current game?"}, false},
-  };
+  } Rows[] = {{0, false, {"beep", Question}, false},
+              {0, true, {"beep", Question, "new game"}, true},
+              {ShiftAlone, false, {"beep", "new game"}, true},
+              {3, false, {"beep", Question}, false}};
   for (const auto& Row : Rows) {
     Table table;
     table.Begin({"Ann", "Bob"});
@@ -124,8 +99,7 @@ TEST(Quit, IsAskedForWhileAGameRuns) {
   other.TakeLog();
   other.Screen.Answer = false;
   other.game.Form_KeyUp(27, 0);
-  EXPECT_THAT(other.TakeLog(),
-              ElementsAre("unload others", "beep", "ask Quit?: Are you sure you want to quit the current game?"));
+  EXPECT_THAT(other.TakeLog(), ElementsAre("unload others", "beep", Question));
   EXPECT_FALSE(other.m.Quitting);
   other.Screen.Answer = true;
   EXPECT_TRUE(other.game.Form_Unload());

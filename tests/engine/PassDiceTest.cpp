@@ -74,70 +74,39 @@ TEST(PassDice, TheFirstSeatToReachTheTargetGoesOut) {
   const struct {
     const char* Rule;
     std::vector<const char*> Seats;
-    std::vector<int> Before;
+    std::vector<std::int16_t> Before;
     int Out, Banks;
-    std::string Caption;
-    bool Box, Flash;
+    std::string Need;
+    bool Shown;  ///< a box and a flash
   } Rows[] = {
-      {"reaching the target exactly is enough",
-       {"Ann", "Bob"},
-       {4000, 0},
-       0,
-       1000,
-       "(Last Roll - Need 5050 To Win)",
-       true,
-       true},
-      {"two seats, far behind", {"Ann", "Bob"}, {0, 0}, 0, 10150, "(Last Roll - Need 10200 To Win)", true, true},
-      {"two seats, close behind", {"Ann", "Bob"}, {0, 9000}, 0, 10150, "(Last Roll - Need 1200 To Win)", true, true},
-      {"three seats, the last goes out",
-       {"Ann", "Bob", "Cid"},
-       {1000, 3000, 0},
-       2,
-       5300,
-       "(Last Roll - Need 4350 To Take The Lead)",
-       true,
-       true},
-      {"computers alone: no box, no flash",
-       {"Normal", "Simple"},
-       {0, 0},
-       0,
-       5000,
-       "(Last Roll - Need 5050 To Win)",
-       false,
-       false},
-      {"a computer goes out against a person",
-       {"Normal", "Ann"},
-       {0, 0},
-       0,
-       5000,
-       "(Last Roll - Need 5050 To Win)",
-       true,
-       true},
+      {"reaching the target exactly is enough", {"Ann", "Bob"}, {4000, 0}, 0, 1000, "5050 To Win", true},
+      {"two seats, far behind", {"Ann", "Bob"}, {0, 0}, 0, 10150, "10200 To Win", true},
+      {"two seats, close behind", {"Ann", "Bob"}, {0, 9000}, 0, 10150, "1200 To Win", true},
+      {"three seats", {"Ann", "Bob", "Cid"}, {1000, 3000, 0}, 2, 5300, "4350 To Take The Lead", true},
+      {"computers alone: no box, no flash", {"Normal", "Simple"}, {0, 0}, 0, 5000, "5050 To Win", false},
+      {"a computer against a person", {"Normal", "Ann"}, {0, 0}, 0, 5000, "5050 To Win", true},
   };
   for (const auto& Row : Rows) {
     SCOPED_TRACE(Row.Rule);
     Table table;
     table.m.TempFolder = "/tmp/x/";
-    GameSetup Setup;
-    table.Begin({Row.Seats[0], Row.Seats[1]});
-    if (Row.Seats.size() == 3) table.Begin({Row.Seats[0], Row.Seats[1], Row.Seats[2]});
-    for (std::size_t i = 0; i < Row.Before.size(); ++i)
-      table.m.PlayerScore[i] = static_cast<std::int16_t>(Row.Before[i]);
+    table.Begin(Row.Seats);
+    std::copy(Row.Before.begin(), Row.Before.end(), table.m.PlayerScore.begin());
     table.m.CurrentPlayer = static_cast<std::uint8_t>(Row.Out);
     table.TakeLog();
     Bank(table, Row.Banks);
     EXPECT_EQ(table.m.OutPlayer, Row.Out);
-    EXPECT_EQ(table.t.lblLastRoll.Caption, Row.Caption);
+    EXPECT_EQ(table.t.lblLastRoll.Caption, "(Last Roll - Need " + Row.Need + ")");
     EXPECT_TRUE(table.t.lblLastRoll.Visible);
+    const auto Seat = static_cast<std::size_t>(Row.Out);
+    const std::string Box = "box " + table.m.PlayerName[Seat] +
+                            " has gone out.  Everybody else gets one more roll to try and beat " +
+                            std::to_string(table.m.PlayerScore[Seat]) + " points.";
     const auto Log = table.TakeLog();
     EXPECT_THAT(Log, Contains("sound /tmp/x/overtop.wav"));
-    EXPECT_EQ(std::count(Log.begin(), Log.end(),
-                         "box " + std::string(Row.Seats[static_cast<std::size_t>(Row.Out)]) +
-                             " has gone out.  Everybody else gets one more roll to try and beat " +
-                             std::to_string(table.m.PlayerScore[static_cast<std::size_t>(Row.Out)]) + " points."),
-              Row.Box);
-    EXPECT_EQ(std::count(Log.begin(), Log.end(), "beep"), Row.Flash ? 3 : 0);
-    EXPECT_EQ(std::count(Log.begin(), Log.end(), "sleep 200"), Row.Flash ? 4 : 0);
+    EXPECT_THAT(Log, Contains(Box).Times(Row.Shown ? 1 : 0));
+    EXPECT_THAT(Log, Contains("beep").Times(Row.Shown ? 3 : 0));
+    EXPECT_THAT(Log, Contains("sleep 200").Times(Row.Shown ? 4 : 0));
   }
 }
 
@@ -163,7 +132,7 @@ TEST(PassDice, TheFlashCantBeInterruptedByARoll) {
 TEST(EndGame, TheHighestScoreWinsAndTiesGoInTurnOrder) {
   const struct {
     const char* Rule;
-    std::vector<int> Scores;
+    std::vector<std::int16_t> Scores;
     int Out, Winner, Margin;
   } Rows[] = {
       {"the seat that went out wins a tie", {0, 10100, 10100}, 1, 1, 0},
@@ -175,7 +144,7 @@ TEST(EndGame, TheHighestScoreWinsAndTiesGoInTurnOrder) {
     SCOPED_TRACE(Row.Rule);
     Table table;
     table.Begin({"Ann", "Bob", "Cid"});
-    for (std::size_t i = 0; i < 3; ++i) table.m.PlayerScore[i] = static_cast<std::int16_t>(Row.Scores[i]);
+    std::copy(Row.Scores.begin(), Row.Scores.end(), table.m.PlayerScore.begin());
     table.m.OutPlayer = static_cast<std::uint8_t>(Row.Out);
     table.t.ShowLastRoll();
     table.m.CurrentPlayer = static_cast<std::uint8_t>((Row.Out + 2) % 3);

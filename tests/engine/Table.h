@@ -2,7 +2,7 @@
 
 #include <deque>
 #include <functional>
-#include <initializer_list>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -28,6 +28,21 @@ class ScriptedDice : public NumberSource {
  private:
   int beyond = 0;
 };
+
+struct RandomDice : NumberSource {
+  std::minstd_rand& Chance;
+  explicit RandomDice(std::minstd_rand& Source) : Chance(Source) {}
+  std::int32_t UtilRandom(std::int32_t Bound) override {
+    return 1 + static_cast<std::int32_t>(Chance() % static_cast<unsigned>(Bound));
+  }
+};
+
+/// "125": the numbers 1, 2 and 5.
+inline std::vector<int> Digits(std::string_view Text) {
+  std::vector<int> All;
+  for (const char Digit : Text) All.push_back(Digit - '0');
+  return All;
+}
 
 /// Writes down what happens on the desktop, a line an event; `OnEvents` runs whenever events are delivered, `OnSleep`
 /// in every wait.
@@ -118,10 +133,13 @@ struct Table {
   RecordingDesktop Screen{t};
   RecordingProgram Others{Screen.Log};
   ScriptedDice Numbers;
-  Game game{m, t, Options, Screen, Others, Numbers};
+  Game game;
+
+  explicit Table(const GameOptions* Instead = nullptr)
+      : game{m, t, Instead != nullptr ? *Instead : Options, Screen, Others, Numbers} {}
 
   /// Begins a game; a seat with a style's word as its name is a computer.
-  void Begin(std::initializer_list<const char*> Names, int PlayTo = 5000, int BreakIn = 500) {
+  void Begin(const std::vector<const char*>& Names, int PlayTo = 5000, int BreakIn = 500) {
     GameSetup Setup;
     Setup.NumPlayers = static_cast<std::uint8_t>(Names.size());
     Setup.PlayToScore = static_cast<std::int16_t>(PlayTo);
@@ -138,13 +156,13 @@ struct Table {
   }
 
   /// The next roll brings the given faces up; a person's tumbling dice are fed as well.
-  void Script(std::initializer_list<int> Faces) {
-    static constexpr int Cycles[] = {0, 20, 15, 10, 8, 7, 5};
+  void Script(const std::vector<int>& Faces) {
+    static constexpr std::size_t Cycles[] = {0, 20, 15, 10, 8, 7, 5};
     const bool Tumbles = !(m.PlayerIsComputer[m.CurrentPlayer] && Options.Speed >= SpeedRidiculous);
-    if (Tumbles) Numbers.Faces.assign(Faces.size() * static_cast<std::size_t>(Cycles[Faces.size()]), 6);
-    Numbers.Faces.insert(Numbers.Faces.end(), Faces);
+    if (Tumbles) Numbers.Faces.assign(Faces.size() * Cycles[Faces.size()], 6);
+    Numbers.Faces.insert(Numbers.Faces.end(), Faces.begin(), Faces.end());
   }
-  void Roll(std::initializer_list<int> Faces) {
+  void Roll(const std::vector<int>& Faces) {
     Script(Faces);
     game.cmdRoll_Click();
   }

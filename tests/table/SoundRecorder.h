@@ -26,46 +26,53 @@ bool WaitFor(Condition&& Holds, int Limit = 5000) {
   return true;
 }
 
+inline QString WriteFile(const QString& Path, const QByteArray& Bytes) {
+  QFile File(Path);
+  if (File.open(QIODevice::WriteOnly)) File.write(Bytes);
+  return Path;
+}
+inline QByteArray ReadFile(const QString& Path) {
+  QFile File(Path);
+  return File.open(QIODevice::ReadOnly) ? File.readAll() : QByteArray();
+}
+
 /// From here on sound devices write to a file instead: 44100 Hz, two channels of 16 bits. A device that is opened anew
 /// begins the file anew.
 class SoundRecorder {
  public:
-  SoundRecorder() {
+  /// A period of the device, 23 ms of sound, takes so many ms.
+  explicit SoundRecorder(const char* Period = "23") {
     qputenv("SDL_AUDIODRIVER", "disk");
+    qputenv("SDL_DISKAUDIODELAY", Period);
     qputenv("SDL_DISKAUDIOFILE", QFile::encodeName(Path()));
   }
   ~SoundRecorder() { qputenv("SDL_AUDIODRIVER", "dummy"); }
 
-  QString Path() const { return Folder.filePath(QStringLiteral("recorded.raw")); }
+  QString Path() const { return NameInFolder("recorded.raw"); }
   QString NameInFolder(const char* Name) const { return Folder.filePath(QString::fromLatin1(Name)); }
-
-  QByteArray Bytes() const {
-    QFile File(Path());
-    return File.open(QIODevice::ReadOnly) ? File.readAll() : QByteArray();
-  }
 
   /// What the left channel sounded like, without the silence around it.
   struct Heard {
     double Seconds = 0, Peak = 0, Frequency = 0;
   };
   Heard Hear() const {
-    const QByteArray All = Bytes();
-    std::vector<double> Left;
-    for (qsizetype i = 0; i + 4 <= All.size(); i += 4) {
-      Left.push_back(qFromLittleEndian<qint16>(All.constData() + i) / 32768.0);
-    }
+    const QByteArray All = ReadFile(Path());
     Heard Found;
-    std::size_t First = Left.size(), Last = 0, Crossings = 0;
-    for (std::size_t i = 0; i < Left.size(); ++i) {
-      Found.Peak = std::max(Found.Peak, std::abs(Left[i]));
-      if (std::abs(Left[i]) < 0.02) continue;
-      First = std::min(First, i);
+    qsizetype First = -1, Last = 0, Crossings = 0, CrossingsAtLast = 0;
+    double Before = 0;
+    for (qsizetype i = 0; i < All.size() / 4; ++i) {
+      const double Value = qFromLittleEndian<qint16>(All.constData() + 4 * i) / 32768.0;
+      Found.Peak = std::max(Found.Peak, std::abs(Value));
+      if (First >= 0) Crossings += (Value < 0) != (Before < 0);
+      Before = Value;
+      if (std::abs(Value) < 0.02) continue;
+      if (First < 0) First = i;
       Last = i;
+      CrossingsAtLast = Crossings;
     }
-    for (std::size_t i = First; i < Last; ++i) Crossings += (Left[i] < 0) != (Left[i + 1] < 0);
     if (Last > First) {
       Found.Seconds = static_cast<double>(Last - First) / 44100;
-      Found.Frequency = static_cast<double>(Crossings) / 2 / Found.Seconds;
+      Found.Frequency = static_cast<double>(CrossingsAtLast) / 2 / Found.Seconds;
     }
     return Found;
   }
@@ -110,11 +117,5 @@ struct Tone {
     return QByteArray(Bytes, Size);
   }
 };
-
-inline QString WriteFile(const QString& Path, const QByteArray& Bytes) {
-  QFile File(Path);
-  if (File.open(QIODevice::WriteOnly)) File.write(Bytes);
-  return Path;
-}
 
 }  // namespace blunko::test

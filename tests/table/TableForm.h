@@ -2,8 +2,8 @@
 
 #include <QApplication>
 #include <QTest>
-#include <QTimer>
 
+#include <gtest/gtest.h>
 #include <string>
 
 #include "table/Twips.h"
@@ -16,18 +16,18 @@ namespace blunko::test {
 struct TableForm : Table {
   frmMain Form{game};
 
-  TableForm() {
+  explicit TableForm(const GameOptions* Instead = nullptr) : Table(Instead) {
     Form.PaintTrays(Qt::darkRed, Qt::darkRed);
     Form.show();
     Form.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Form, 2000));
   }
 
-  void Begin(std::initializer_list<const char*> Names) {
+  void Begin(const std::vector<const char*>& Names) {
     Form.Handle([&] { Table::Begin(Names); });
   }
   /// Rolls with the button.
-  void PressRoll(std::initializer_list<int> Faces) {
+  void PressRoll(const std::vector<int>& Faces) {
     Script(Faces);
     QTest::mouseClick(Form.cmdRoll, Qt::LeftButton);
   }
@@ -40,24 +40,25 @@ inline std::string Difference(const frmMain& Form, const TableControls& t) {
   const auto Compare = [&All](const QObject* Widget, const char* What, const auto& Shown, const auto& Recorded) {
     if (!(Shown == Recorded)) All += Widget->objectName().toStdString() + " " + What + "\n";
   };
-  const auto CompareButton = [&](const ButtonPlus* Shown, const Button& Record) {
-    Compare(Shown, "enabled", Shown->isEnabled(), Record.Enabled && t.picGameTray.Enabled);
-    Compare(Shown, "visible", Shown->isVisible(), Record.Visible);
+  const auto CompareEnabled = [&](const QWidget* Shown, bool Recorded) {
+    Compare(Shown, "enabled", Shown->isEnabled(), Recorded && t.picGameTray.Enabled);
   };
-  const auto CompareLabel = [&](const FitLabel* Shown, const Label& Record) {
-    Compare(Shown, "caption", Shown->text().toStdString(), Record.Caption);
-    Compare(Shown, "visible", Shown->isVisible(), Record.Visible);
-  };
-  CompareButton(Form.ARCmdNewGame, t.ARCmdNewGame);
-  CompareButton(Form.cmdRoll, t.cmdRoll);
-  CompareButton(Form.cmdPassDice, t.cmdPassDice);
-  CompareLabel(Form.lblStatus, t.lblStatus);
-  CompareLabel(Form.lblLastRoll, t.lblLastRoll);
-  CompareLabel(Form.lblPlayer, t.lblPlayer);
-  CompareLabel(Form.lblTurnScore, t.lblTurnScore);
+  for (const auto& [Shown, Record] : {std::pair(Form.ARCmdNewGame, &t.ARCmdNewGame),
+                                      {Form.cmdRoll, &t.cmdRoll},
+                                      {Form.cmdPassDice, &t.cmdPassDice}}) {
+    CompareEnabled(Shown, Record->Enabled);
+    Compare(Shown, "visible", Shown->isVisible(), Record->Visible);
+  }
+  for (const auto& [Shown, Record] : {std::pair(Form.lblStatus, &t.lblStatus),
+                                      {Form.lblLastRoll, &t.lblLastRoll},
+                                      {Form.lblPlayer, &t.lblPlayer},
+                                      {Form.lblTurnScore, &t.lblTurnScore}}) {
+    Compare(Shown, "caption", Shown->text().toStdString(), Record->Caption);
+    Compare(Shown, "visible", Shown->isVisible(), Record->Visible);
+  }
   Compare(Form.lblStatus, "top", Form.lblStatus->y(), Pixels(t.lblStatus.Top));
-  Compare(Form.picTray1, "enabled", Form.picTray1->isEnabled(), t.picTray1.Enabled && t.picGameTray.Enabled);
-  Compare(Form.picTray2, "enabled", Form.picTray2->isEnabled(), t.picTray2.Enabled && t.picGameTray.Enabled);
+  CompareEnabled(Form.picTray1, t.picTray1.Enabled);
+  CompareEnabled(Form.picTray2, t.picTray2.Enabled);
   for (int i = 0; i < 6; ++i) {
     Compare(Form.Picture1[i], "picture", Form.Picture1[i]->Picture(), t.Picture1(i));
     Compare(Form.Picture1[6 + i], "picture", Form.Picture1[6 + i]->Picture(), t.Picture1(10 + i));
@@ -66,6 +67,22 @@ inline std::string Difference(const frmMain& Form, const TableControls& t) {
   Compare(Form.pctDivider, "visible", Form.pctDivider->isVisible(), t.pctDivider.Visible);
   if (t.pctDivider.Visible) Compare(Form.pctDivider, "left", Form.pctDivider->x(), Pixels(t.pctDivider.Left));
   return All;
+}
+
+struct Geometry {
+  QString Name, Parent;
+  int Left, Top, Width, Height;  ///< twips
+};
+inline void ExpectPlaces(const QWidget& Form, const std::vector<Geometry>& Rows) {
+  const auto Edge = [](int Twips) { return qRound(Twips / 15.0); };
+  for (const Geometry& Each : Rows) {
+    SCOPED_TRACE(Each.Name.toStdString());
+    const auto* Control = Form.findChild<QWidget*>(Each.Name);
+    ASSERT_NE(Control, nullptr);
+    EXPECT_EQ(Control->parent()->objectName(), Each.Parent);
+    EXPECT_EQ(Control->geometry(), QRect(QPoint(Edge(Each.Left), Edge(Each.Top)),
+                                         QPoint(Edge(Each.Left + Each.Width) - 1, Edge(Each.Top + Each.Height) - 1)));
+  }
 }
 
 /// The part of a widget that is drawn in something like the colour.
@@ -83,21 +100,14 @@ inline QRect Inked(QWidget& Widget, const QColor& Colour) {
   return All;
 }
 
-/// Counts the paint events of a widget and calls `OnPaint` at each.
-class PaintCounter : public QObject {
- public:
-  explicit PaintCounter(QWidget* Watched) { Watched->installEventFilter(this); }
-
-  int Paints = 0;
-  std::function<void()> OnPaint;
-
-  bool eventFilter(QObject*, QEvent* Event) override {
-    if (Event->type() == QEvent::Paint) {
-      ++Paints;
-      if (OnPaint) OnPaint();
-    }
-    return false;
+/// Labels that hold a text, drawn in the colour, show all of it.
+inline void ExpectNoTextCut(const QWidget& Form, const QColor& Colour) {
+  for (FitLabel* Label : Form.findChildren<FitLabel*>()) {
+    if (Label->text().isEmpty()) continue;
+    const QRect Ink = Inked(*Label, Colour);
+    EXPECT_GT(Ink.width(), 4) << Label->objectName().toStdString();
+    EXPECT_TRUE(Label->rect().adjusted(0, 0, -1, 0).contains(Ink)) << Label->objectName().toStdString();
   }
-};
+}
 
 }  // namespace blunko::test
