@@ -20,7 +20,7 @@ const struct {
   const char* Label;
   QRect Where;
 } Places[] = {{"lblMnuGame", {12, 5, 38, 17}},      {"lblMnuHelp", {60, 5, 34, 17}},
-              {"lblStatus", {6, 207, 381, 30}},     {"lblStatus, risen", {6, 195, 381, 30}},
+              {"lblStatus", {6, 219, 381, 30}},     {"lblStatus, risen", {6, 207, 381, 30}},
               {"lblLastRoll", {6, 236, 381, 24}},   {"Label1", {10, 300, 180, 26}},
               {"lblPlayer", {200, 300, 185, 26}},   {"lblTurnScoreLabel", {10, 330, 180, 26}},
               {"lblTurnScore", {200, 330, 185, 26}}};
