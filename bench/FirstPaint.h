@@ -6,9 +6,8 @@
 #include <QTimer>
 #include <QWidget>
 
-#include <time.h>
-
 #include <cstdio>
+#include <time.h>
 
 /// When the window has painted itself for the first time: prints the monotonic clock in nanoseconds, and quits.
 class FirstPaint : public QObject {

@@ -7,11 +7,10 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <time.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <time.h>
 #include <vector>
 
 namespace {
