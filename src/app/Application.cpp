@@ -40,7 +40,7 @@ Application::Application(const Folders& Where, std::unique_ptr<NumberSource> Dic
       Players(Table, Uniform),
       Util(VersionAddress),
       Rollers(Where.State + QStringLiteral("/highscores.dat"),
-              [this](const QByteArray& Text) { Util.UtilStoreLists(Text); }),
+              [this](const QByteArray& Text) { return Util.UtilStoreLists(Text); }),
       RollersCheck(State, InfoFile, Rollers, *this) {}
 
 Application::~Application() = default;

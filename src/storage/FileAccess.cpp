@@ -4,7 +4,9 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace blunko {
@@ -16,13 +18,22 @@ constexpr int StaleAfter = 5000;   // ms
 
 }  // namespace
 
-std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit) {
-  const QFileInfo Info(Path);
-  if (!Info.isFile() || Info.size() > Limit) return std::nullopt;
+std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit, FileState* State) {
+  const auto Failed = [State](FileState Found) {
+    if (State != nullptr) *State = Found;
+    return std::nullopt;
+  };
+  struct stat Info {};
+  if (stat(QFile::encodeName(Path).constData(), &Info) != 0) {
+    return Failed(errno == ENOENT || errno == ENOTDIR ? FileState::Missing : FileState::Unreadable);
+  }
+  if (!S_ISREG(Info.st_mode) || Info.st_size > Limit) return Failed(FileState::Foreign);
   QFile File(Path);
-  if (!File.open(QIODevice::ReadOnly)) return std::nullopt;
+  if (!File.open(QIODevice::ReadOnly)) return Failed(FileState::Unreadable);
   QByteArray Bytes = File.readAll();
-  if (Bytes.size() > Limit || File.error() != QFileDevice::NoError) return std::nullopt;
+  if (File.error() != QFileDevice::NoError) return Failed(FileState::Unreadable);
+  if (Bytes.size() > Limit) return Failed(FileState::Foreign);
+  if (State != nullptr) *State = FileState::Whole;
   return Bytes;
 }
 

@@ -4,14 +4,16 @@
 #include <QLockFile>
 #include <QString>
 
-#include <memory>
 #include <optional>
 
 namespace blunko {
 
-/// All bytes of a plain file. Nothing for a missing file, for one larger than `Limit`, and for what is no plain file,
-/// such as a folder or a pipe.
-std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit);
+/// What stands under a path. `Foreign`: nothing of ours, such as a folder, a pipe or a file too large. `Unreadable`: it
+/// may well be good, but the system didn't hand it out.
+enum class FileState { Whole, Missing, Foreign, Unreadable };
+
+/// All bytes of a plain file of at most `Limit` bytes; nothing in every state but `Whole`.
+std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit, FileState* State = nullptr);
 
 /// Replaces the file by these bytes: afterwards it holds either the old or the new ones, whole. False on failure.
 bool ReplaceFile(const QString& Path, const QByteArray& Bytes);

@@ -1,6 +1,5 @@
 #include "storage/IniInfo.h"
 
-#include <QFile>
 #include <QList>
 
 #include "storage/FileAccess.h"
@@ -109,8 +108,9 @@ QString IniInfo::ReadInfoValue(const QString& Key, const QString& Default) const
 
 void IniInfo::WriteInfoValue(const QString& Key, const QString& Value) const {
   const FileLock Lock(InfoPath);
-  const auto Text = ReadWholeFile(InfoPath, LargestFile);
-  if (!Text && QFile::exists(InfoPath)) return;  // not ours to replace
+  FileState State = FileState::Whole;
+  const auto Text = ReadWholeFile(InfoPath, LargestFile, &State);
+  if (!Text && State != FileState::Missing) return;  // not ours to replace
   const QByteArray Changed = WithValue(Text.value_or(QByteArray()), Key, Value);
   if (Changed != Text) ReplaceFile(InfoPath, Changed);
 }

@@ -27,7 +27,7 @@ struct Place {
   QString File = Folder.filePath(QStringLiteral("highscores.dat"));
 
   HighRollers Copy() const {
-    return HighRollers(File, [File = File](const QByteArray& Text) { ReplaceFile(File, Text); });
+    return HighRollers(File, [File = File](const QByteArray& Text) { return ReplaceFile(File, Text); });
   }
   HighRollers LoadedCopy() const {
     HighRollers Made = Copy();
@@ -297,7 +297,7 @@ TEST(HighRollers, WhatCannotBeSavedStaysForTheRunAndGoesWithTheNextSave) {
   const Place place;
   bool Works = true;
   HighRollers Rollers(place.File, [&](const QByteArray& Text) {
-    if (Works) ReplaceFile(place.File, Text);
+    return Works && ReplaceFile(place.File, Text);
   });
   Rollers.LoadHighRollers();
   Rollers.Add(&RollerLists::lstHSTS, {QStringLiteral("Zero"), 1600});
