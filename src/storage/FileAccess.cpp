@@ -13,8 +13,8 @@ namespace blunko {
 
 namespace {
 
-constexpr int LongestWait = 1000;  // ms
-constexpr int StaleAfter = 5000;   // ms
+constexpr int LongestWait = 250;  // ms
+constexpr int StaleAfter = 5000;  // ms
 
 }  // namespace
 

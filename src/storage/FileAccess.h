@@ -18,8 +18,9 @@ std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit, FileS
 /// Replaces the file by these bytes: afterwards it holds either the old or the new ones, whole. False on failure.
 bool ReplaceFile(const QString& Path, const QByteArray& Bytes);
 
-/// Keeps a second copy of the program away from the file while it is read, changed and written. Waits a second at the
-/// most: in a folder that can't hold a lock the work goes on without one.
+/// Keeps a second copy of the program away from the file while it is read, changed and written. A lock that can't be
+/// had within a quarter of a second is done without: the window stands still meanwhile, and a dialog writes several
+/// keys.
 class FileLock {
  public:
   explicit FileLock(const QString& Path);
