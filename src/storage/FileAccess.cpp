@@ -16,6 +16,9 @@ namespace {
 constexpr int LongestWait = 250;  // ms
 constexpr int StaleAfter = 5000;  // ms
 
+/// Some file systems can't be told to write at once.
+bool SyncFile(int Handle) { return fsync(Handle) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP; }
+
 }  // namespace
 
 std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit, FileState* State) {
@@ -42,7 +45,7 @@ bool ReplaceFile(const QString& Path, const QByteArray& Bytes) {
   if (!File.open(QIODevice::WriteOnly)) return false;
   // The bytes must be on the disk before the new name is: after a power cut an empty file may stand there otherwise. On
   // a full disk the write is short, or the flush fails; the commit alone wouldn't mind and put the torso in place.
-  const bool Whole = File.write(Bytes) == Bytes.size() && File.flush() && fsync(File.handle()) == 0;
+  const bool Whole = File.write(Bytes) == Bytes.size() && File.flush() && SyncFile(File.handle());
   if (!Whole) File.cancelWriting();
   if (!File.commit()) return false;
   const int Folder = open(QFile::encodeName(QFileInfo(Path).absolutePath()).constData(), O_RDONLY | O_DIRECTORY);
