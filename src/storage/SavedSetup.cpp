@@ -64,7 +64,10 @@ SavedSetup SavedSetup::Load(const IniInfo& Info, const GameSettings& Settings) {
   for (int i = 0; i < Setup.NumPlayers; ++i) {
     if (i < Computers.size() && Computers[i] == UnusedSeat) continue;  // the number of players was raised by hand
     Seat& Player = Setup.Players[static_cast<std::size_t>(i)];
-    if (i < Names.size()) Player.Name = HeldToNameRule(Names[i]).left(LongestName);
+    if (i < Names.size()) {
+      const QString Held = HeldToNameRule(Names[i]).left(LongestName);
+      if (!Held.isEmpty() || Names[i].isEmpty()) Player.Name = Held;
+    }
     Player.IsComputer = i < Computers.size() && Computers[i] == QLatin1String("True");
     if (Player.IsComputer && i < Styles.size()) Player.Style = StyleOf(Styles[i]);
   }
