@@ -43,6 +43,9 @@ Folders Folders::Of(const QString& Path) {
   return Found;
 }
 
+QString Folders::InfoPath() const { return State + QLatin1Char('/') + BaseName + QStringLiteral(".ini"); }
+QString Folders::ListsPath() const { return State + QLatin1Char('/') + ListsName; }
+
 QString Folders::Shipped(const QString& Part) const {
   const QString Beside = Program + QLatin1Char('/') + Part;
   if (QFileInfo(Beside).isDir()) return Beside;

@@ -16,6 +16,7 @@
 #include <optional>
 
 #include "storage/FileAccess.h"
+#include "storage/Folders.h"
 
 namespace blunko {
 
@@ -94,7 +95,7 @@ TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revis
   return *Newest > QVersionNumber(Major, Minor, Revision) ? NewerExists : UpToDate;
 }
 
-bool TbkUtil::UtilStoreLists(const QByteArray& Text) const { return Store(QStringLiteral("highscores.dat"), Text); }
+bool TbkUtil::UtilStoreLists(const QByteArray& Text) const { return Store(ListsName, Text); }
 
 /// Before a folder is set there is no place for the file: the root of the file system isn't it.
 bool TbkUtil::Store(const QString& Name, const QByteArray& Bytes) const {
