@@ -73,7 +73,4 @@ QString FileNameOnly(const QString& Path) { return Path.mid(Path.lastIndexOf(QLa
 
 QString FileBaseName(const QString& Path) { return FileNameOnly(Path).section(QLatin1Char('.'), 0, 0); }
 
-QString TextOfPath(const QString& Path) { return QString::fromLatin1(QFile::encodeName(Path)); }
-QString PathOfText(const QString& Text) { return QFile::decodeName(Text.toLatin1()); }
-
 }  // namespace blunko

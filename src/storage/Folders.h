@@ -36,8 +36,4 @@ QString FileBaseName(const QString& Path);
 /// What stands behind the last separator.
 QString FileNameOnly(const QString& Path);
 
-/// Paths in a file of single-byte text: the bytes of the file system stand for themselves.
-QString TextOfPath(const QString& Path);
-QString PathOfText(const QString& Text);
-
 }  // namespace blunko

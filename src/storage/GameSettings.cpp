@@ -1,5 +1,7 @@
 #include "storage/GameSettings.h"
 
+#include <QFile>
+
 #include <algorithm>
 
 #include "storage/Numbers.h"
@@ -84,7 +86,7 @@ void GameSettings::setTextColour(std::uint32_t Colour) {
 
 void GameSettings::setBackground(const QString& Path) {
   background = Path;
-  OwnInfo.WriteInfoValue(BackgroundKey, TextOfPath(Path));
+  OwnInfo.WriteInfoPath(BackgroundKey, QFile::encodeName(Path));
 }
 
 void GameSettings::setSoundDisabled(bool Value) {
@@ -127,7 +129,7 @@ void GameSettings::SetSound(std::string_view p_sound_name, const std::string& p_
   if (const SoundEvent* Event = FindEvent(p_sound_name)) {
     SoundFile[static_cast<std::size_t>(Event - Events.data())] = p_sound_file;
   }
-  OwnInfo.WriteInfoValue(KeyOfSound(p_sound_name), QString::fromLatin1(QByteArray::fromStdString(p_sound_file)));
+  OwnInfo.WriteInfoPath(KeyOfSound(p_sound_name), QByteArray::fromStdString(p_sound_file));
 }
 
 QString GameSettings::DefaultBackground() const {
@@ -150,7 +152,7 @@ void GameSettings::LoadSettings() {
 void GameSettings::LoadSounds() {
   for (std::size_t i = 0; i < Events.size(); ++i) {
     const QString Default = folders.Temp + QString::fromLatin1(Events[i].File);
-    SoundFile[i] = OwnInfo.ReadInfoValue(KeyOfSound(Events[i].Name), TextOfPath(Default)).toLatin1().toStdString();
+    SoundFile[i] = OwnInfo.ReadInfoPath(KeyOfSound(Events[i].Name), QFile::encodeName(Default)).toStdString();
   }
   soundDisabled = ReadFlag(SoundFXOFFKey, false);
 }
@@ -159,7 +161,7 @@ void GameSettings::LoadAppearance() {
   dieColour = LeadingNumber(OwnInfo.ReadInfoValue(DieColorKey, QString::number(DefaultDice)));
   if (dieColour == 0) dieColour = DefaultDice;
 
-  background = PathOfText(OwnInfo.ReadInfoValue(BackgroundKey, TextOfPath(DefaultBackground())));
+  background = QFile::decodeName(OwnInfo.ReadInfoPath(BackgroundKey, QFile::encodeName(DefaultBackground())));
   if (background != NoBackground && !FileExists(background)) {
     const bool HaveDefault = FileExists(DefaultBackground());
     setBackground(HaveDefault ? DefaultBackground() : NoBackground);
