@@ -92,16 +92,6 @@ TEST_F(FoldersTest, StateLiesBesideTheProgramOrInTheUsersOwnFolder) {
   EXPECT_TRUE(QFileInfo(Away.State).isDir());
 }
 
-TEST_F(FoldersTest, ShippedFilesLieBesideTheProgramOrInShare) {
-  Folders Where;
-  Where.Program = place.Mkdir("usr/bin", 0755);
-  EXPECT_EQ(Where.Shipped("help"), place.Path("usr/bin/help")) << "nowhere: named all the same";
-  place.Mkdir("usr/share/tollmoor-blunko/help", 0755);
-  EXPECT_EQ(Where.Shipped("help"), place.Path("usr/share/tollmoor-blunko/help"));
-  place.Mkdir("usr/bin/help", 0755);
-  EXPECT_EQ(Where.Shipped("help"), place.Path("usr/bin/help"));
-}
-
 TEST_F(FoldersTest, Paths) {
   place.Put("file", "");
   EXPECT_TRUE(FileExists(place.Path("file")));
