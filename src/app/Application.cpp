@@ -32,15 +32,14 @@ std::int16_t To16Bits(int LogicalPixels) {
 
 Application::Application(const Folders& Where, std::unique_ptr<NumberSource> Dice)
     : folders(Where),
-      InfoFile(Where.State + QLatin1Char('/') + Where.BaseName + QStringLiteral(".ini")),
+      InfoFile(Where.InfoPath()),
       Settings(Where),
       Numbers(std::move(Dice)),
       Uniform(0),
       Table(State, Controls, View, Screen, *this, *Numbers),
       Players(Table, Uniform),
       Util(VersionAddress),
-      Rollers(Where.State + QStringLiteral("/highscores.dat"),
-              [this](const QByteArray& Text) { Util.UtilStoreLists(Text); }),
+      Rollers(Where.ListsPath(), [this](const QByteArray& Text) { return Util.UtilStoreLists(Text); }),
       RollersCheck(State, InfoFile, Rollers, *this) {}
 
 Application::~Application() = default;

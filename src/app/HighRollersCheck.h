@@ -11,6 +11,9 @@
 
 namespace blunko {
 
+/// "You just made number 3 on the ... top ten!  ", of the list that the word "turn" stands for, or any other word.
+QString PlaceMade(const QString& Number, const QString& Word);
+
 /// What the check asks of the screen and the calendar.
 class HighRollersScreen {
  public:
@@ -37,8 +40,7 @@ class HighRollersCheck {
   void CheckWhoopin(const std::string& Name, std::int16_t Score);
 
  private:
-  struct Kind;
-  void Check(const Kind& Of, QString Name, std::int16_t Score);
+  void Check(WhichList List, const QString& Word, QString Name, std::int16_t Score);
 
   Module1& m;
   const IniInfo& info;

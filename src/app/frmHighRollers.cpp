@@ -25,7 +25,7 @@ const QColor Navy(0, 0, 128);
 frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Main)
     : QDialog(Main), rollers(Lists), desktop(Screen), frmMain(Main) {
   setObjectName(QStringLiteral("frmHighRollers"));
-  setWindowTitle(tr("Tollmoor Blunko - High Rollers"));
+  setWindowTitle(QStringLiteral("Tollmoor Blunko - High Rollers"));
   setWindowIcon(frmMain->windowIcon());
   QPalette Colours = palette();
   Colours.setColor(QPalette::Window, Background);
@@ -35,13 +35,13 @@ frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Mai
 
   Image1 = NewPicture("Image1", QStringLiteral(":/art/rollers_top.svg"));
   Image2 = NewPicture("Image2", QStringLiteral(":/art/rollers_bottom.svg"));
-  lblHSTS = NewHeading("lblHSTS", tr("Highest Single\nTurn Score:"));
-  lblBMoV = NewHeading("lblBMoV", tr("Biggest Whoopin'\n(Margin of Victory)"));
-  txtHSTSList = NewList("txtHSTSList", tr("Highest Single Turn Score"));
-  txtBMoVList = NewList("txtBMoVList", tr("Biggest Whoopin' (Margin of Victory)"));
-  lblReset = new LinkLabel(tr("Reset List"), this);
+  lblHSTS = NewHeading("lblHSTS", QStringLiteral("Highest Single\nTurn Score:"));
+  lblBMoV = NewHeading("lblBMoV", QStringLiteral("Biggest Whoopin'\n(Margin of Victory)"));
+  txtHSTSList = NewList("txtHSTSList", QStringLiteral("Highest Single Turn Score"));
+  txtBMoVList = NewList("txtBMoVList", QStringLiteral("Biggest Whoopin' (Margin of Victory)"));
+  lblReset = new LinkLabel(QStringLiteral("Reset List"), this);
   lblReset->setObjectName(QStringLiteral("lblReset"));
-  cmdOK = new ButtonPlus(tr("OK"), this);
+  cmdOK = new ButtonPlus(QStringLiteral("OK"), this);
   cmdOK->setObjectName(QStringLiteral("cmdOK"));
   cmdOK->setMinimumWidth(110);
   cmdOK->setAutoDefault(true);

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "app/HighRollersCheck.h"
 #include "storage/DayNumber.h"
 #include "storage/NameRule.h"
 #include "table/Fonts.h"
@@ -20,7 +21,7 @@ const QColor ButtonColour(159, 202, 255);
 frmViewHRListYN::frmViewHRListYN(Module1& State, Desktop& Screen, const IniInfo& Info, QWidget* Main)
     : QDialog(Main), m(State), desktop(Screen), info(Info) {
   setObjectName(QStringLiteral("frmViewHRListYN"));
-  setWindowTitle(tr("Way to go !!!"));
+  setWindowTitle(QStringLiteral("Way to go !!!"));
   setWindowIcon(Main->windowIcon());
   QPalette Colours = palette();
   Colours.setColor(QPalette::Window, Background);
@@ -28,8 +29,6 @@ frmViewHRListYN::frmViewHRListYN(Module1& State, Desktop& Screen, const IniInfo&
   setPalette(Colours);
 
   const QStringList Fields = QString::fromStdString(m.FormMessage).split(FieldSeparator);
-  const QString Heading =
-      Fields.value(2) == QLatin1String("turn") ? tr("\"Highest Single Turn Score\"") : tr("\"Biggest Whoopin'\"");
   const auto NewLabel = [this](const char* Name, const QString& Caption, const QFont& Font) {
     auto* Made = new QLabel(this);
     Made->setObjectName(QLatin1String(Name));
@@ -39,23 +38,23 @@ frmViewHRListYN::frmViewHRListYN(Module1& State, Desktop& Screen, const IniInfo&
     Made->setAlignment(Qt::AlignCenter);
     return Made;
   };
-  lblWayToGo =
-      NewLabel("lblWayToGo", tr("Great Job, ") + Fields.value(0) + tr("!!!"), FontOf(Typeface::ComicSans, 15.75, true));
+  lblWayToGo = NewLabel("lblWayToGo", QStringLiteral("Great Job, ") + Fields.value(0) + QStringLiteral("!!!"),
+                        FontOf(Typeface::ComicSans, 15.75, true));
   QPalette Greeting = lblWayToGo->palette();
   Greeting.setColor(QPalette::WindowText, Qt::yellow);
   lblWayToGo->setPalette(Greeting);
-  lblMessage = NewLabel("lblMessage",
-                        tr("You just made number ") + Fields.value(1) + tr(" on the ") + Heading +
-                            tr(" top ten!  Would you like to view the high rollers list now?"),
-                        FontOf(Typeface::Verdana, 9.75));
+  lblMessage = NewLabel(
+      "lblMessage",
+      PlaceMade(Fields.value(1), Fields.value(2)) + QStringLiteral("Would you like to view the high rollers list now?"),
+      FontOf(Typeface::Verdana, 9.75));
   lblMessage->setWordWrap(true);
-  cmdYes = NewButton("cmdYes", tr("Yes"), "Yes");
-  cmdNo = NewButton("cmdNo", tr("No"), "No");
+  cmdYes = NewButton("cmdYes", QStringLiteral("Yes"), "Yes");
+  cmdNo = NewButton("cmdNo", QStringLiteral("No"), "No");
   cmdYes->setDefault(true);
 
   lblCheck = new TickBox(this);
   lblCheck->setObjectName(QStringLiteral("lblCheck"));
-  lblDontAsk = new FitLabel(tr("Don't ask me this again today."), this);
+  lblDontAsk = new FitLabel(QStringLiteral("Don't ask me this again today."), this);
   lblDontAsk->setObjectName(QStringLiteral("lblDontAsk"));
   lblDontAsk->setFont(FontOf(Typeface::Verdana, 8.25));
   lblCheck->setAccessibleName(lblDontAsk->text());

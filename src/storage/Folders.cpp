@@ -43,6 +43,9 @@ Folders Folders::Of(const QString& Path) {
   return Found;
 }
 
+QString Folders::InfoPath() const { return State + QLatin1Char('/') + BaseName + QStringLiteral(".ini"); }
+QString Folders::ListsPath() const { return State + QLatin1Char('/') + ListsName; }
+
 QString Folders::Shipped(const QString& Part) const {
   const QString Beside = Program + QLatin1Char('/') + Part;
   if (QFileInfo(Beside).isDir()) return Beside;
@@ -69,8 +72,5 @@ bool FileExists(const QString& Path) { return !Path.isEmpty() && QFileInfo(Path)
 QString FileNameOnly(const QString& Path) { return Path.mid(Path.lastIndexOf(QLatin1Char('/')) + 1); }
 
 QString FileBaseName(const QString& Path) { return FileNameOnly(Path).section(QLatin1Char('.'), 0, 0); }
-
-QString TextOfPath(const QString& Path) { return QString::fromLatin1(QFile::encodeName(Path)); }
-QString PathOfText(const QString& Text) { return QFile::decodeName(Text.toLatin1()); }
 
 }  // namespace blunko

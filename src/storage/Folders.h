@@ -15,9 +15,14 @@ struct Folders {
   static Folders OfProgram();
   /// Those of an executable with this path.
   static Folders Of(const QString& Path);
+  QString InfoPath() const;
+  QString ListsPath() const;
   /// A part of the shipped files ("Background", "help"...): beside the program, or where it was installed.
   QString Shipped(const QString& Part) const;
 };
+
+/// Name of the high rollers file.
+inline const QString ListsName = QStringLiteral("highscores.dat");
 
 /// The user's own folder for files that can be made again, with its trailing separator: mode 0700 and owned by the
 /// user, the same one at every start unless somebody tampered with it. Empty when none can be had.
@@ -30,9 +35,5 @@ bool FileExists(const QString& Path);
 QString FileBaseName(const QString& Path);
 /// What stands behind the last separator.
 QString FileNameOnly(const QString& Path);
-
-/// Paths in a file of single-byte text: the bytes of the file system stand for themselves.
-QString TextOfPath(const QString& Path);
-QString PathOfText(const QString& Text);
 
 }  // namespace blunko

@@ -1,5 +1,7 @@
 #include "storage/GameSettings.h"
 
+#include <QFile>
+
 #include <algorithm>
 
 #include "storage/Numbers.h"
@@ -7,6 +9,18 @@
 namespace blunko {
 
 namespace {
+
+const QString ScannedKey = QStringLiteral("Scanned");
+const QString ShowWelcomeMessageKey = QStringLiteral("ShowWelcomeMessage");
+const QString DieColorKey = QStringLiteral("DieColor");
+const QString TextColorKey = QStringLiteral("TextColor");
+const QString BackgroundKey = QStringLiteral("Background");
+const QString SoundFXOFFKey = QStringLiteral("SoundFXOFF");
+const QString PlayToScoreKey = QStringLiteral("defPlayToScore");
+const QString BreakInScoreKey = QStringLiteral("defBreakInScore");
+const QString ComputerFastKey = QStringLiteral("ComputerFast");
+const QString SortDiceKey = QStringLiteral("SortDice");
+const QString MarkScorersKey = QStringLiteral("MarkScorers");
 
 constexpr std::array<std::uint32_t, 8> TextColours{0x000000, 0x0000FF, 0x00FF00, 0x00FFFF,
                                                    0xFF0000, 0xFF00FF, 0xFFFF80, 0xFFFFFF};
@@ -41,77 +55,68 @@ std::uint32_t ColourOfIndex(int Index) {
   return Index >= 1 && Index <= 7 ? TextColours[static_cast<std::size_t>(Index)] : 0;
 }
 
-GameSettings::GameSettings(const Folders& Where)
-    : folders(Where), OwnInfo(Where.State + QLatin1Char('/') + Where.BaseName + QStringLiteral(".ini")) {
-  LoadSettings();
-}
+GameSettings::GameSettings(const Folders& Where) : folders(Where), OwnInfo(Where.InfoPath()) { LoadSettings(); }
 
 void GameSettings::setScanned(bool Value) {
   scanned = Value;
-  WriteFlag(QStringLiteral("Scanned"), Value);
+  WriteFlag(ScannedKey, Value);
 }
 
 void GameSettings::setShowWelcome(bool Value) {
   showWelcome = Value;
-  WriteFlag(QStringLiteral("ShowWelcomeMessage"), Value);
+  WriteFlag(ShowWelcomeMessageKey, Value);
 }
 
 void GameSettings::setDieColour(std::int16_t Base) {
   dieColour = Base;
-  OwnInfo.WriteInfoValue(QStringLiteral("DieColor"), QString::number(Base));
+  OwnInfo.WriteInfoValue(DieColorKey, QString::number(Base));
 }
 
 int GameSettings::TextColourIndex() const { return IndexOfColour(textColour); }
 
 void GameSettings::setTextColourIndex(int Index) {
   textColour = ColourOfIndex(Index);
-  OwnInfo.WriteInfoValue(QStringLiteral("TextColor"), QString::number(Index));
+  OwnInfo.WriteInfoValue(TextColorKey, QString::number(Index));
 }
 
 void GameSettings::setTextColour(std::uint32_t Colour) {
   textColour = Colour;
-  OwnInfo.WriteInfoValue(QStringLiteral("TextColor"), QString::number(IndexOfColour(Colour)));
+  OwnInfo.WriteInfoValue(TextColorKey, QString::number(IndexOfColour(Colour)));
 }
 
 void GameSettings::setBackground(const QString& Path) {
   background = Path;
-  OwnInfo.WriteInfoValue(QStringLiteral("Background"), TextOfPath(Path));
+  OwnInfo.WriteInfoPath(BackgroundKey, QFile::encodeName(Path));
 }
 
 void GameSettings::setSoundDisabled(bool Value) {
   soundDisabled = Value;
-  WriteFlag(QStringLiteral("SoundFXOFF"), Value);
+  WriteFlag(SoundFXOFFKey, Value);
 }
 
-int GameSettings::ReadPlayToScore() const {
-  return ReadNumber(QStringLiteral("defPlayToScore"), 5000) == 10000 ? 10000 : 5000;
-}
+int GameSettings::ReadPlayToScore() const { return ReadNumber(PlayToScoreKey, 5000) == 10000 ? 10000 : 5000; }
 
-void GameSettings::WritePlayToScore(int Value) const {
-  OwnInfo.WriteInfoValue(QStringLiteral("defPlayToScore"), QString::number(Value));
-}
+void GameSettings::WritePlayToScore(int Value) const { OwnInfo.WriteInfoValue(PlayToScoreKey, QString::number(Value)); }
 
-int GameSettings::ReadBreakInScore() const {
-  return ReadNumber(QStringLiteral("defBreakInScore"), 500) == 1000 ? 1000 : 500;
-}
+int GameSettings::ReadBreakInScore() const { return ReadNumber(BreakInScoreKey, 500) == 1000 ? 1000 : 500; }
 
 void GameSettings::WriteBreakInScore(int Value) const {
-  OwnInfo.WriteInfoValue(QStringLiteral("defBreakInScore"), QString::number(Value));
+  OwnInfo.WriteInfoValue(BreakInScoreKey, QString::number(Value));
 }
 
 void GameSettings::setComputerSpeed(int Speed) {
   computerSpeed = Speed;
-  OwnInfo.WriteInfoValue(QStringLiteral("ComputerFast"), QString::number(Speed));
+  OwnInfo.WriteInfoValue(ComputerFastKey, QString::number(Speed));
 }
 
 void GameSettings::setSortDice(bool Value) {
   sortDice = Value;
-  WriteFlag(QStringLiteral("SortDice"), Value);
+  WriteFlag(SortDiceKey, Value);
 }
 
 void GameSettings::setMarkScorers(bool Value) {
   markScorers = Value;
-  WriteFlag(QStringLiteral("MarkScorers"), Value);
+  WriteFlag(MarkScorersKey, Value);
 }
 
 const std::string& GameSettings::GetSound(std::string_view p_sound_name) const {
@@ -124,7 +129,7 @@ void GameSettings::SetSound(std::string_view p_sound_name, const std::string& p_
   if (const SoundEvent* Event = FindEvent(p_sound_name)) {
     SoundFile[static_cast<std::size_t>(Event - Events.data())] = p_sound_file;
   }
-  OwnInfo.WriteInfoValue(KeyOfSound(p_sound_name), QString::fromLatin1(QByteArray::fromStdString(p_sound_file)));
+  OwnInfo.WriteInfoPath(KeyOfSound(p_sound_name), QByteArray::fromStdString(p_sound_file));
 }
 
 QString GameSettings::DefaultBackground() const {
@@ -137,8 +142,8 @@ QString GameSettings::DefaultSoundFile(std::string_view p_sound_name) {
 }
 
 void GameSettings::LoadSettings() {
-  scanned = ReadFlag(QStringLiteral("Scanned"), false);
-  showWelcome = ReadFlag(QStringLiteral("ShowWelcomeMessage"), true);
+  scanned = ReadFlag(ScannedKey, false);
+  showWelcome = ReadFlag(ShowWelcomeMessageKey, true);
   LoadSounds();
   LoadAppearance();
   LoadGameOptions();
@@ -147,31 +152,31 @@ void GameSettings::LoadSettings() {
 void GameSettings::LoadSounds() {
   for (std::size_t i = 0; i < Events.size(); ++i) {
     const QString Default = folders.Temp + QString::fromLatin1(Events[i].File);
-    SoundFile[i] = OwnInfo.ReadInfoValue(KeyOfSound(Events[i].Name), TextOfPath(Default)).toLatin1().toStdString();
+    SoundFile[i] = OwnInfo.ReadInfoPath(KeyOfSound(Events[i].Name), QFile::encodeName(Default)).toStdString();
   }
-  soundDisabled = ReadFlag(QStringLiteral("SoundFXOFF"), false);
+  soundDisabled = ReadFlag(SoundFXOFFKey, false);
 }
 
 void GameSettings::LoadAppearance() {
-  dieColour = LeadingNumber(OwnInfo.ReadInfoValue(QStringLiteral("DieColor"), QString::number(DefaultDice)));
+  dieColour = LeadingNumber(OwnInfo.ReadInfoValue(DieColorKey, QString::number(DefaultDice)));
   if (dieColour == 0) dieColour = DefaultDice;
 
-  background = PathOfText(OwnInfo.ReadInfoValue(QStringLiteral("Background"), TextOfPath(DefaultBackground())));
+  background = QFile::decodeName(OwnInfo.ReadInfoPath(BackgroundKey, QFile::encodeName(DefaultBackground())));
   if (background != NoBackground && !FileExists(background)) {
     const bool HaveDefault = FileExists(DefaultBackground());
     setBackground(HaveDefault ? DefaultBackground() : NoBackground);
     setTextColourIndex(HaveDefault ? White : 0);
   }
   // A number beyond the list is a colour value, from an older file.
-  const int Stored = ReadNumber(QStringLiteral("TextColor"), 0);
+  const int Stored = ReadNumber(TextColorKey, 0);
   textColour = ColourOfIndex(Stored > 7 ? IndexOfColour(static_cast<std::uint32_t>(Stored)) : Stored);
 }
 
 void GameSettings::LoadGameOptions() {
-  const int Speed = ReadNumber(QStringLiteral("ComputerFast"), 0);
+  const int Speed = ReadNumber(ComputerFastKey, 0);
   computerSpeed = Speed >= 0 && Speed <= 2 ? Speed : 0;
-  sortDice = ReadFlag(QStringLiteral("SortDice"), true);
-  markScorers = ReadFlag(QStringLiteral("MarkScorers"), true);
+  sortDice = ReadFlag(SortDiceKey, true);
+  markScorers = ReadFlag(MarkScorersKey, true);
 }
 
 int GameSettings::IndexOfColour(std::uint32_t Colour) {

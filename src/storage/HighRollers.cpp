@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "storage/FileAccess.h"
 #include "storage/NameRule.h"
 
 namespace blunko {
@@ -100,42 +99,46 @@ QByteArray UnscrambleText(QByteArray Text) {
 }
 
 void HighRollers::LoadHighRollers() {
-  if (CatchUp()) return;
+  if (CatchUp() == FileState::Whole) return;
   const FileLock Lock(path);
-  if (CatchUp()) return;  // another copy was faster
-  saved = RollerLists::Default();
-  Merge();
-  if (SetAside()) SaveHighRollers();
+  const FileState State = CatchUp();  // another copy may have been faster
+  if (State == FileState::Whole || State == FileState::Unreadable) return;
+  Take(RollerLists::Default());
+  if (MakeRoom(State)) SaveHighRollers();
 }
 
 void HighRollers::ResetHighRollers() {
   const FileLock Lock(path);
-  if ((ReadFile() || SetAside()) && Store(RollerLists::Default())) unsaved.clear();
+  if (MakeRoom(CatchUp()) && utilStoreLists(ScrambleText(RollerLists::Default().Text()))) unsaved.clear();
 }
 
-bool HighRollers::CatchUp() {
-  const auto Found = ReadFile();
-  if (Found) saved = *Found;
-  Merge();
-  return Found.has_value();
+FileState HighRollers::CatchUp() {
+  FileState State = FileState::Whole;
+  const auto Scrambled = ReadWholeFile(path, LargestFile, &State);
+  if (!Scrambled) return State;
+  const auto Found = RollerLists::OfText(UnscrambleText(*Scrambled));
+  if (!Found) return FileState::Foreign;
+  Take(*Found);
+  return FileState::Whole;
 }
 
 void HighRollers::Add(WhichList List, const HighRoller& Entry) {
   const FileLock Lock(path);
+  const FileState State = CatchUp();
+  Insert(lists.*List, Entry);
   unsaved.emplace_back(List, Entry);
-  if (CatchUp() || SetAside()) SaveHighRollers();
+  if (MakeRoom(State)) SaveHighRollers();
 }
 
-std::optional<RollerLists> HighRollers::ReadFile() const {
-  const auto Scrambled = ReadWholeFile(path, LargestFile);
-  if (!Scrambled) return std::nullopt;
-  return RollerLists::OfText(UnscrambleText(*Scrambled));
+void HighRollers::Take(const RollerLists& Saved) {
+  lists = Saved;
+  for (const auto& [List, Entry] : unsaved) Insert(lists.*List, Entry);
 }
 
-/// Moves what stands in the file's place, but can't be read as lists, out of the way; nothing is overwritten. False if
-/// it is still there.
-bool HighRollers::SetAside() const {
-  if (!QFileInfo::exists(path)) return true;
+/// Whether a save may take the file's place. What stands there, but can't be lists, is moved out of the way: nothing is
+/// overwritten.
+bool HighRollers::MakeRoom(FileState State) const {
+  if (State != FileState::Foreign) return State != FileState::Unreadable;
   for (int i = 1; i <= MostSetAside; ++i) {
     const QString Aside = path + QStringLiteral(".damaged%1").arg(i);
     if (QFileInfo::exists(Aside)) continue;
@@ -147,22 +150,8 @@ bool HighRollers::SetAside() const {
   return false;
 }
 
-/// Writes the lists. Only what is read back counts as written.
-bool HighRollers::Store(const RollerLists& Saved) const {
-  const QByteArray Scrambled = ScrambleText(Saved.Text());
-  utilStoreLists(Scrambled);
-  return ReadWholeFile(path, LargestFile) == Scrambled;
-}
-
 void HighRollers::SaveHighRollers() {
-  if (!Store(lists)) return;
-  saved = lists;
-  unsaved.clear();
-}
-
-void HighRollers::Merge() {
-  lists = saved;
-  for (const auto& [List, Entry] : unsaved) Insert(lists.*List, Entry);
+  if (utilStoreLists(ScrambleText(lists.Text()))) unsaved.clear();
 }
 
 }  // namespace blunko

@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+#include "storage/FileAccess.h"
+
 namespace blunko {
 
 /// An entry of the lists.
@@ -50,35 +52,33 @@ QByteArray UnscrambleText(QByteArray Text);
 /// Failures are silent: an entry that couldn't be saved stays in the lists for the run, and the next save carries it.
 class HighRollers {
  public:
-  /// Puts a scrambled text in place of the file.
-  using Writer = std::function<void(const QByteArray& Text)>;
+  /// Puts a scrambled text in place of the file; false if the old one is still there.
+  using Writer = std::function<bool(const QByteArray& Text)>;
 
   HighRollers(QString Path, Writer UtilStoreLists) : path(std::move(Path)), utilStoreLists(std::move(UtilStoreLists)) {}
 
   /// Reads the file. A missing one is written anew with the default lists; a damaged one is set aside under another
-  /// name, reported on standard error, and then counts as missing.
+  /// name, reported on standard error, and then counts as missing. One that can't be read may be good: it stays, and
+  /// the lists stay as they are.
   void LoadHighRollers();
-  /// Replaces the file by the default lists. `Lists` changes at the next load.
+  /// Replaces the file by the default lists, unless it can't be read. `Lists` shows them after the next load.
   void ResetHighRollers();
-  /// Takes over what has been saved since. A missing or damaged file changes nothing; then false.
-  bool CatchUp();
+  /// Takes over what has been saved since, from a file that is `Whole`. A damaged one is `Foreign`.
+  FileState CatchUp();
   /// Inserts the entry into the list as it is by now, where its score belongs, and saves.
   void Add(WhichList List, const HighRoller& Entry);
 
   const RollerLists& Lists() const { return lists; }
 
  private:
-  std::optional<RollerLists> ReadFile() const;
-  bool SetAside() const;
-  bool Store(const RollerLists& Saved) const;
+  void Take(const RollerLists& Saved);
+  bool MakeRoom(FileState State) const;
   void SaveHighRollers();
-  void Merge();
 
   QString path;
   Writer utilStoreLists;
-  RollerLists saved = RollerLists::Default();               ///< as last seen in the file
-  std::vector<std::pair<WhichList, HighRoller>> unsaved{};  ///< entries that the file hasn't taken yet
-  RollerLists lists = saved;                                ///< both together
+  RollerLists lists = RollerLists::Default();
+  std::vector<std::pair<WhichList, HighRoller>> unsaved{};  ///< entries of `lists` that the file hasn't taken yet
 };
 
 }  // namespace blunko

@@ -1,6 +1,5 @@
 #include "storage/IniInfo.h"
 
-#include <QFile>
 #include <QList>
 
 #include "storage/FileAccess.h"
@@ -12,6 +11,8 @@ namespace {
 constexpr qint64 LargestFile = 1 << 20;  // bytes; an info file has some thousands
 const QByteArray Section = "Info";
 const QByteArray ByteOrderMark = "\xEF\xBB\xBF";
+
+bool IsUtf8(const QByteArray& Text) { return Text.startsWith(ByteOrderMark); }
 
 bool IsSection(const QByteArray& Line) { return Line.trimmed().startsWith('['); }
 
@@ -48,7 +49,7 @@ qsizetype FindLine(const QList<QByteArray>& Lines, const QByteArray& Key, qsizet
 /// The lines with their ends. A byte order mark is no part of the first one.
 QList<QByteArray> LinesOf(const QByteArray& Text) {
   QList<QByteArray> Lines;
-  for (qsizetype From = Text.startsWith(ByteOrderMark) ? ByteOrderMark.size() : 0; From < Text.size();) {
+  for (qsizetype From = IsUtf8(Text) ? ByteOrderMark.size() : 0; From < Text.size();) {
     const qsizetype Length = Text.indexOf('\n', From) + 1 - From;
     Lines << (Length > 0 ? Text.mid(From, Length) : Text.mid(From));
     From += Lines.back().size();
@@ -61,28 +62,25 @@ bool IsQuoted(const QByteArray& Value) {
 }
 
 /// A value whose ends a reader would strip is put into quotation marks.
-QByteArray Coded(const QString& Value) {
-  QByteArray Bytes = Value.toLatin1();
+QByteArray Coded(QByteArray Bytes) {
   for (char& Byte : Bytes) {
     if (Byte == '\n' || Byte == '\r' || Byte == '\0') Byte = ' ';
   }
   return Bytes != Bytes.trimmed() || IsQuoted(Bytes) ? '"' + Bytes + '"' : Bytes;
 }
 
-}  // namespace
-
-QString IniInfo::FindValue(const QByteArray& Text, const QString& Key) {
+QByteArray FindBytes(const QByteArray& Text, const QString& Key) {
   const QList<QByteArray> Lines = LinesOf(Text);
   const qsizetype Found = FindLine(Lines, Key.toLatin1());
   if (Found < 0) return {};
   QByteArray Value = Lines[Found].mid(Lines[Found].indexOf('=') + 1).trimmed();
   if (IsQuoted(Value)) Value = Value.mid(1, Value.size() - 2);
-  return QString::fromLatin1(Value.left(LongestValue));
+  return Value;
 }
 
-QByteArray IniInfo::WithValue(const QByteArray& Text, const QString& Key, const QString& Value) {
+QByteArray WithBytes(const QByteArray& Text, const QString& Key, const QByteArray& Value) {
   QList<QByteArray> Lines = LinesOf(Text);
-  const QByteArray Mark = Text.startsWith(ByteOrderMark) ? ByteOrderMark : QByteArray();
+  const QByteArray Mark = IsUtf8(Text) ? ByteOrderMark : QByteArray();
   const QByteArray LineEnd = Text.contains("\r\n") ? "\r\n" : "\n";
   const QByteArray Name = Key.toLatin1();
   qsizetype End = -1;
@@ -102,17 +100,44 @@ QByteArray IniInfo::WithValue(const QByteArray& Text, const QString& Key, const 
   return Mark + Lines.join();
 }
 
+}  // namespace
+
+QString IniInfo::FindValue(const QByteArray& Text, const QString& Key) {
+  const QByteArray Bytes = FindBytes(Text, Key);
+  return (IsUtf8(Text) ? QString::fromUtf8(Bytes) : QString::fromLatin1(Bytes)).left(LongestValue);
+}
+
+QByteArray IniInfo::WithValue(const QByteArray& Text, const QString& Key, const QString& Value) {
+  return WithBytes(Text, Key, IsUtf8(Text) ? Value.toUtf8() : Value.toLatin1());
+}
+
 QString IniInfo::ReadInfoValue(const QString& Key, const QString& Default) const {
   const QString Value = FindValue(ReadWholeFile(InfoPath, LargestFile).value_or(QByteArray()), Key);
   return Value.isEmpty() ? Default : Value;
 }
 
 void IniInfo::WriteInfoValue(const QString& Key, const QString& Value) const {
+  WriteFile([&](const QByteArray& Text) { return WithValue(Text, Key, Value); });
+}
+
+QByteArray IniInfo::ReadInfoPath(const QString& Key, const QByteArray& Default) const {
+  const QByteArray Path =
+      FindBytes(ReadWholeFile(InfoPath, LargestFile).value_or(QByteArray()), Key).left(LongestValue);
+  return Path.isEmpty() ? Default : Path;
+}
+
+void IniInfo::WriteInfoPath(const QString& Key, const QByteArray& Path) const {
+  if (Path.size() > LongestValue) return;
+  WriteFile([&](const QByteArray& Text) { return WithBytes(Text, Key, Path); });
+}
+
+void IniInfo::WriteFile(const std::function<Change>& Changed) const {
   const FileLock Lock(InfoPath);
-  const auto Text = ReadWholeFile(InfoPath, LargestFile);
-  if (!Text && QFile::exists(InfoPath)) return;  // not ours to replace
-  const QByteArray Changed = WithValue(Text.value_or(QByteArray()), Key, Value);
-  if (Changed != Text) ReplaceFile(InfoPath, Changed);
+  FileState State = FileState::Whole;
+  const auto Text = ReadWholeFile(InfoPath, LargestFile, &State);
+  if (!Text && State != FileState::Missing) return;  // not ours to replace
+  const QByteArray New = Changed(Text.value_or(QByteArray()));
+  if (New != Text) ReplaceFile(InfoPath, New);
 }
 
 }  // namespace blunko

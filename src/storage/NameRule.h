@@ -11,10 +11,11 @@ inline constexpr int LongestName = 14;
 inline constexpr QChar FieldSeparator(0xA4);
 
 /// Whether a name may hold the letter: the game's files carry the letters of Latin-1, but for the separator, control
-/// characters, and the last one, which doesn't survive the scrambling of the lists.
+/// characters, the soft hyphen, which nobody sees, and the last one, which doesn't survive the scrambling of the lists.
 constexpr bool IsNameLetter(QChar Letter) {
   const char16_t Code = Letter.unicode();
-  return (Code >= 0x20 && Code < 0x7F) || (Code >= 0xA0 && Code < 0xFF && Letter != FieldSeparator);
+  return (Code >= 0x20 && Code < 0x7F) ||
+         (Code >= 0xA0 && Code < 0xFF && Letter != FieldSeparator && Letter != QChar::SoftHyphen);
 }
 
 /// The text without the letters that a name can't hold.

@@ -64,7 +64,10 @@ SavedSetup SavedSetup::Load(const IniInfo& Info, const GameSettings& Settings) {
   for (int i = 0; i < Setup.NumPlayers; ++i) {
     if (i < Computers.size() && Computers[i] == UnusedSeat) continue;  // the number of players was raised by hand
     Seat& Player = Setup.Players[static_cast<std::size_t>(i)];
-    if (i < Names.size()) Player.Name = HeldToNameRule(Names[i]).left(LongestName);
+    if (i < Names.size()) {
+      const QString Held = HeldToNameRule(Names[i]).left(LongestName);
+      if (!Held.isEmpty() || Names[i].isEmpty()) Player.Name = Held;
+    }
     Player.IsComputer = i < Computers.size() && Computers[i] == QLatin1String("True");
     if (Player.IsComputer && i < Styles.size()) Player.Style = StyleOf(Styles[i]);
   }
@@ -77,13 +80,13 @@ void SavedSetup::Save(const IniInfo& Info, const GameSettings& Settings) const {
   for (int i = 0; i < Seats; ++i) {
     const Seat& Player = Players[static_cast<std::size_t>(i)];
     const bool Used = i < NumPlayers;
+    // The one player's opponent sits on no seat that counts, but has a style.
+    const bool HasStyle = Used ? Player.IsComputer : NumPlayers == 1 && i == 1;
     Names += (Used ? Player.Name : UnusedSeat) + FieldSeparator;
     Computers +=
         (Used ? (Player.IsComputer ? QStringLiteral("True") : QStringLiteral("False")) : UnusedSeat) + FieldSeparator;
-    StyleFields +=
-        (Used && Player.IsComputer ? QString::number(Player.Style) : QStringLiteral("%1%1").arg(i)) + FieldSeparator;
+    StyleFields += (HasStyle ? QString::number(Player.Style) : QStringLiteral("%1%1").arg(i)) + FieldSeparator;
   }
-  if (NumPlayers == 1) StyleFields.replace(QStringLiteral("11"), QString::number(Players[1].Style));
   Settings.WritePlayToScore(PlayToScore);
   Settings.WriteBreakInScore(BreakInScore);
   Info.WriteInfoValue(CountKey, QString::number(NumPlayers));

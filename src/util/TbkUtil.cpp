@@ -16,6 +16,7 @@
 #include <optional>
 
 #include "storage/FileAccess.h"
+#include "storage/Folders.h"
 
 namespace blunko {
 
@@ -94,11 +95,11 @@ TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revis
   return *Newest > QVersionNumber(Major, Minor, Revision) ? NewerExists : UpToDate;
 }
 
-void TbkUtil::UtilStoreLists(const QByteArray& Text) const { Store(QStringLiteral("highscores.dat"), Text); }
+bool TbkUtil::UtilStoreLists(const QByteArray& Text) const { return Store(ListsName, Text); }
 
 /// Before a folder is set there is no place for the file: the root of the file system isn't it.
-void TbkUtil::Store(const QString& Name, const QByteArray& Bytes) const {
-  if (!folder.isEmpty()) ReplaceFile(folder + QLatin1Char('/') + Name, Bytes);
+bool TbkUtil::Store(const QString& Name, const QByteArray& Bytes) const {
+  return !folder.isEmpty() && ReplaceFile(folder + QLatin1Char('/') + Name, Bytes);
 }
 
 }  // namespace blunko

@@ -23,11 +23,11 @@ class TbkUtil {
   VersionAnswer UtilCheckVersion(int Major, int Minor, int Revision) const;
 
   /// Puts exactly these bytes in place of "highscores.dat": at any moment it holds the old or the new ones, whole.
-  /// Failure is silent and leaves the old ones.
-  void UtilStoreLists(const QByteArray& Text) const;
+  /// False if the old ones are still there.
+  bool UtilStoreLists(const QByteArray& Text) const;
 
  private:
-  void Store(const QString& Name, const QByteArray& Bytes) const;
+  bool Store(const QString& Name, const QByteArray& Bytes) const;
 
   QString folder;
   QString versionAddress;

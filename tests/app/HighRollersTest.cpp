@@ -41,7 +41,7 @@ struct Files {
 
   Files() { Util.UtilSetFolder(Folder.path()); }
   HighRollers Copy() {
-    HighRollers Made(File, [this](const QByteArray& Text) { Util.UtilStoreLists(Text); });
+    HighRollers Made(File, [this](const QByteArray& Text) { return Util.UtilStoreLists(Text); });
     Made.LoadHighRollers();
     return Made;
   }
