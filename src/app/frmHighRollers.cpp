@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "storage/NameRule.h"
+#include "table/Colours.h"
 #include "table/Fonts.h"
 
 namespace blunko {
@@ -17,18 +18,17 @@ constexpr int ScoreColumn = 5;        // digits
 constexpr qsizetype LongestRow = 60;  // letters
 constexpr int Spare = 4;              // px in the text boxes
 constexpr double ListPoints = 9.75;
-const QColor Background(2, 127, 255);
 const QColor Navy(0, 0, 128);
 
 }  // namespace
 
 frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Main)
-    : QDialog(Main), rollers(Lists), desktop(Screen), frmMain(Main) {
+    : PlacedDialog(Main), rollers(Lists), desktop(Screen), frmMain(Main) {
   setObjectName(QStringLiteral("frmHighRollers"));
   setWindowTitle(QStringLiteral("Tollmoor Blunko - High Rollers"));
   setWindowIcon(frmMain->windowIcon());
   QPalette Colours = palette();
-  Colours.setColor(QPalette::Window, Background);
+  Colours.setColor(QPalette::Window, FormBlue);
   Colours.setColor(QPalette::WindowText, Qt::yellow);
   Colours.setColor(QPalette::Link, Qt::yellow);
   setPalette(Colours);
@@ -105,10 +105,7 @@ SvgBox* frmHighRollers::NewPicture(const char* Name, const QString& Resource) {
   return Made;
 }
 
-void frmHighRollers::showEvent(QShowEvent* Event) {
-  move(frmMain->pos());
-  QDialog::showEvent(Event);
-}
+QPoint frmHighRollers::Corner() const { return frmMain->pos(); }
 
 void frmHighRollers::ShowHighRollerLists() {
   rollers.LoadHighRollers();

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QDialog>
-
 #include "engine/Desktop.h"
 #include "storage/HighRollers.h"
 #include "table/ButtonPlus.h"
 #include "table/LinkLabel.h"
 #include "table/Pictures.h"
+#include "table/PlacedDialog.h"
 
 class QLabel;
 class QPlainTextEdit;
@@ -14,7 +13,7 @@ class QPlainTextEdit;
 namespace blunko {
 
 /// Shows the two high rollers lists, as they are in the file when it opens, and can reset them.
-class frmHighRollers : public QDialog {
+class frmHighRollers : public PlacedDialog {
   Q_OBJECT
 
  public:
@@ -35,7 +34,7 @@ class frmHighRollers : public QDialog {
   ButtonPlus* cmdOK;
 
  protected:
-  void showEvent(QShowEvent* Event) override;
+  QPoint Corner() const override;
 
  private:
   QLabel* NewHeading(const char* Name, const QString& Caption);

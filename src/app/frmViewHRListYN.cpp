@@ -6,6 +6,7 @@
 #include "app/HighRollersCheck.h"
 #include "storage/DayNumber.h"
 #include "storage/NameRule.h"
+#include "table/Colours.h"
 #include "table/Fonts.h"
 
 namespace blunko {
@@ -13,7 +14,6 @@ namespace blunko {
 namespace {
 
 constexpr int SmallestWidth = 370;  // px
-const QColor Background(2, 127, 255);
 const QColor ButtonColour(159, 202, 255);
 
 }  // namespace
@@ -24,7 +24,7 @@ frmViewHRListYN::frmViewHRListYN(Module1& State, Desktop& Screen, const IniInfo&
   setWindowTitle(QStringLiteral("Way to go !!!"));
   setWindowIcon(Main->windowIcon());
   QPalette Colours = palette();
-  Colours.setColor(QPalette::Window, Background);
+  Colours.setColor(QPalette::Window, FormBlue);
   Colours.setColor(QPalette::WindowText, Qt::black);
   setPalette(Colours);
 

@@ -159,7 +159,7 @@ void GameSettings::LoadSounds() {
 
 void GameSettings::LoadAppearance() {
   dieColour = LeadingNumber(OwnInfo.ReadInfoValue(DieColorKey, QString::number(DefaultDice)));
-  if (dieColour == 0) dieColour = DefaultDice;
+  if (dieColour <= 0) dieColour = DefaultDice;  // below 0 a die could have the picture of none
 
   background = QFile::decodeName(OwnInfo.ReadInfoPath(BackgroundKey, QFile::encodeName(DefaultBackground())));
   if (background != NoBackground && !FileExists(background)) {
