@@ -43,19 +43,6 @@ TEST(About, DiceSoundLinksOpenAndTheCreditsCome) {
   EXPECT_TRUE(frmAbout(Where, Settings, Game.Screen, nullptr).Picture1->IsEmpty()) << "not there: no error";
 }
 
-TEST(Credits, BlocksHoldTheirLines) {
-  const std::pair<const char*, int> Rows[] = {{"Game Design:", 2}, {"Programming:", 4}, {"Dice Design:", 2},
-                                              {"Copy Edit:", 3},   {"Q&A:", 15},        {"Visit Tollmoor Games", 3}};
-  const QStringList Blocks = frmCredits::CreditsText().split(QStringLiteral("\n\n"));
-  ASSERT_EQ(Blocks.size(), static_cast<qsizetype>(std::size(Rows)));
-  for (qsizetype i = 0; i < Blocks.size(); ++i) {
-    const QStringList Block = Blocks[i].split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    EXPECT_EQ(Block.first(), QLatin1String(Rows[i].first));
-    EXPECT_EQ(Block.size(), Rows[i].second) << Rows[i].first;
-  }
-  EXPECT_EQ(Blocks.last().section(QLatin1Char('\n'), 1, 1), QStringLiteral("on the web at"));
-}
-
 TEST(Credits, ScrollAtTheirPaceComeAgainAndStopHoweverTheyClose) {
   for (const int Way : {0, 1, 2}) {
     SCOPED_TRACE(Way);

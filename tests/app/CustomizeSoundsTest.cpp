@@ -3,7 +3,6 @@
 
 #include "app/frmCustomizeSounds.h"
 #include "tests/app/Run.h"
-#include "tests/table/SoundRecorder.h"
 
 namespace blunko::test {
 namespace {
@@ -78,8 +77,6 @@ TEST_F(CustomizeSounds, ADoubleClickBrowsesAndACancelledChoiceChangesNothing) {
   QTest::mouseDClick(Form.lstEvents->viewport(), Qt::LeftButton, {}, Row);
   EXPECT_EQ(Title, QLatin1String("Select \"Undo\" sound"));
   EXPECT_EQ(Form.txtSound->text(), QLatin1String("undo.wav"));
-  Click(Form.cmdTest);
-  EXPECT_EQ(Game.TakeLog("sound"), Lines{"sound " + Original(Undo)});
 }
 
 TEST_F(CustomizeSounds, BackspaceRestoresWhereverTheCursorIsAndOKAloneStoresIt) {
@@ -102,29 +99,22 @@ TEST_F(CustomizeSounds, BackspaceRestoresWhereverTheCursorIsAndOKAloneStoresIt) 
   EXPECT_EQ(Stored(Undo), Original(Undo));
 }
 
-/// With the device recorded.
 TEST_F(TheProgram, SwitchedOffNothingSoundsButTheTestDoes) {
-  const SoundRecorder Recorder;
   Start();
-  const auto Silent = [&] { return WaitFor([&] { return !Run->Player.IsPlaying(); }); };
+  const auto Play = [&] { Run->Screen.PlaySoundFile(Run->State.TempFolder + "undo.wav", false); };
   Run->Settings.setSoundDisabled(true);
-  for (const auto& Row : Rows) Run->Screen.PlaySoundFile(Run->View.GetSound(Row.Event), false);
-  EXPECT_TRUE(Silent());
-  EXPECT_FALSE(QFile::exists(Recorder.Path()));
-
+  Play();
+  EXPECT_FALSE(Run->Player.IsPlaying());
   Next.Expect<frmCustomizeSounds>([&](frmCustomizeSounds& Dialog) {
     Click(Dialog.cmdTest);
-    EXPECT_TRUE(Silent());
+    EXPECT_TRUE(Run->Player.IsPlaying());
     Click(Dialog.cmdCancel);
   });
   Run->CustomizeSounds();
-  const double Once = Recorder.Hear().Seconds;
-  EXPECT_NEAR(Once, 0.5, 0.1);  // the fall of the blunko
-
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !Run->Player.IsPlaying(); }, 5000));
   Run->Settings.setSoundDisabled(false);
-  Run->Screen.PlaySoundFile(Run->State.TempFolder + "overtop.wav", false);
-  EXPECT_TRUE(Silent());
-  EXPECT_GT(Recorder.Hear().Seconds, Once + 0.7);
+  Play();
+  EXPECT_TRUE(Run->Player.IsPlaying());
 }
 
 }  // namespace

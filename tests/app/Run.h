@@ -4,6 +4,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
@@ -47,9 +48,17 @@ inline void Put(const QString& Path, const QByteArray& Bytes) {
 
 inline void Click(QWidget* Control) { QTest::mouseClick(Control, Qt::LeftButton); }
 
-/// By the window system, which holds back what a modal dialog blocks.
-inline void ClickThrough(QWidget& Window, const QPoint& Place) {
-  QTest::mouseClick(Window.windowHandle(), Qt::LeftButton, {}, Place);
+/// Every text of a window has the room that it asks for.
+inline void ExpectNothingCut(const QWidget& Form) {
+  for (const QWidget* Part : Form.findChildren<QWidget*>()) {
+    const bool Text =
+        qobject_cast<const QLabel*>(Part) != nullptr || qobject_cast<const QAbstractButton*>(Part) != nullptr;
+    if (!Text || !Part->isVisible()) continue;
+    const QSize Needed =
+        Part->hasHeightForWidth() ? QSize(0, Part->heightForWidth(Part->width())) : Part->minimumSizeHint();
+    EXPECT_EQ(Part->size().expandedTo(Needed), Part->size()) << Part->objectName().toStdString();
+    EXPECT_TRUE(Form.rect().contains(QRect(Part->mapTo(&Form, QPoint()), Part->size())));
+  }
 }
 
 /// Lets event loops run again after a program has ended.
