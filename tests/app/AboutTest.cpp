@@ -1,151 +1,87 @@
 #include <QElapsedTimer>
-#include <QRegularExpression>
-#include <QTemporaryDir>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "app/frmAbout.h"
 #include "app/frmCredits.h"
-#include "tests/app/Screen.h"
+#include "tests/app/Run.h"
 
 namespace blunko::test {
 namespace {
 
-struct AboutBox {
-  QTemporaryDir Folder;
-  Folders Where = [this] {
-    Folders Found;
-    Found.Program = QStringLiteral(TBK_ASSETS);
-    Found.State = Folder.path();
-    Found.BaseName = QStringLiteral("Game");
-    Found.Temp = QStringLiteral("/t/");
-    return Found;
-  }();
-  GameSettings Settings{Where};
-  LoggingDesktop Desktop;
-};
+using testing::ElementsAre;
+using testing::MatchesRegex;
+using testing::StartsWith;
 
-TEST(About, DiceSoundAndTellTheJoke) {
-  AboutBox Box;
-  frmAbout Form(Box.Where, Box.Settings, Box.Desktop, nullptr);
-  Form.show();
-  EXPECT_FALSE(Form.Picture1->IsEmpty());
-  EXPECT_FALSE(Form.Picture2->IsEmpty());
-  QTest::mouseClick(Form.Picture2, Qt::LeftButton);
-  EXPECT_EQ(Box.Desktop.Log, QStringList{QStringLiteral("/t/11d.wav")});
-  Box.Desktop.Log.clear();
-  QTest::mouseClick(Form.Picture1, Qt::RightButton);
-  EXPECT_TRUE(Box.Desktop.Log.isEmpty());
-  QTest::mouseClick(Form.Picture1, Qt::LeftButton);
-  ASSERT_EQ(Box.Desktop.Log.size(), 5);
-  EXPECT_EQ(Box.Desktop.Log[0], QStringLiteral("/t/33d.wav"));
-  Box.Desktop.Log.removeDuplicates();
-  EXPECT_EQ(Box.Desktop.Log.size(), 5) << "four boxes, each its own";
+TEST(About, DiceSoundLinksOpenAndTheCreditsCome) {
+  const QTemporaryDir Place;
+  Folders Where = FoldersIn(Place);
+  Where.Program = QStringLiteral(TBK_ASSETS);
+  Where.Temp = QStringLiteral("/t/");
+  const GameSettings Settings(Where);
+  Table Game;
+  Answers Next;
+  const Shell Browser;
+  frmAbout Form(Where, Settings, Game.Screen, nullptr);
+  Next.Expect<frmAbout>([&](frmAbout&) {
+    EXPECT_FALSE(Form.Picture1->IsEmpty() || Form.Picture2->IsEmpty());
+    Click(Form.Picture2);
+    QTest::mouseClick(Form.Picture1, Qt::RightButton);
+    EXPECT_EQ(Game.TakeLog(), Lines{"sound /t/11d.wav"});
+    Click(Form.Picture1);
+    const Lines Joke = Game.TakeLog();
+    EXPECT_EQ(Joke.front(), "sound /t/33d.wav");
+    EXPECT_EQ(std::set(Joke.begin(), Joke.end()).size(), 5U) << "four boxes, each its own";
+    for (QLabel* Link : {Form.lblURL, Form.lblMail}) Click(Link);
+    EXPECT_THAT(Browser.Opened, ElementsAre(StartsWith("http"), StartsWith("mailto:")));
+    EXPECT_THAT(Form.Label_Version->text().toStdString(), MatchesRegex("v[0-9]+\\.[0-9]+\\.[0-9]+"));
+    Next.Press(&frmCredits::cmdOK);
+    Click(Form.cmdCredits);
+    EXPECT_EQ(Next.Seen.back(), "Tollmoor Blunko Credits");
+    Click(Form.cmdOK);
+  });
+  Form.exec();
+  Where.Program = Place.path();
+  EXPECT_TRUE(frmAbout(Where, Settings, Game.Screen, nullptr).Picture1->IsEmpty()) << "not there: no error";
 }
 
-TEST(About, LinksLeaveTheProgramAndTheVersionIsShown) {
-  AboutBox Box;
-  Box.Where.Program = Box.Folder.path();  // no picture there: nothing to see, and no error
-  frmAbout Form(Box.Where, Box.Settings, Box.Desktop, nullptr);
-  Shell Browser;
-  Form.show();
-  EXPECT_TRUE(Form.Picture1->IsEmpty());
-  for (QLabel* Link : {Form.lblURL, Form.lblMail}) QTest::mouseClick(Link, Qt::LeftButton, {}, Link->rect().center());
-  EXPECT_THAT(Browser.Opened, testing::SizeIs(2));
-  EXPECT_TRUE(Browser.Opened.value(0).startsWith(QLatin1String("http")));
-  EXPECT_TRUE(Browser.Opened.value(1).startsWith(QLatin1String("mailto:")));
-  EXPECT_TRUE(QRegularExpression(QStringLiteral("^v\\d+\\.\\d+\\.\\d+$")).match(Form.Label_Version->text()).hasMatch());
-  QTest::mouseClick(Form.cmdOK, Qt::LeftButton);
-  EXPECT_FALSE(Form.isVisible());
-}
-
-TEST(Credits, BlocksHoldTheirLines) {
-  const struct {
-    const char* First;
-    int Lines;
-  } Rows[] = {{"Game Design:", 2}, {"Programming:", 4}, {"Dice Design:", 2},
-              {"Copy Edit:", 3},   {"Q&A:", 15},        {"Visit Tollmoor Games", 3}};
-  const QStringList Blocks = frmCredits::CreditsText().split(QStringLiteral("\n\n"));
-  ASSERT_EQ(Blocks.size(), static_cast<qsizetype>(std::size(Rows)));
-  QStringList All;
-  for (qsizetype i = 0; i < Blocks.size(); ++i) {
-    const QStringList Lines = Blocks[i].split(QLatin1Char('\n'));
-    EXPECT_EQ(Lines.first(), QLatin1String(Rows[i].First));
-    EXPECT_EQ(Lines.size(), Rows[i].Lines) << Rows[i].First;
-    EXPECT_FALSE(Lines.contains(QString())) << Rows[i].First;
-    All += Lines;
-  }
-  const qsizetype Count = All.size();
-  EXPECT_EQ(All.removeDuplicates(), 0) << "of " << Count;
-  EXPECT_EQ(Blocks.last().section(QLatin1Char('\n'), 1, 1), QStringLiteral("on the web at"));
-}
-
-/// Lets the credits come up from the lower edge.
-void WaitForScrolling(frmCredits& Form) {
-  Form.show();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Form.IsScrolling(); }, 5000));
-}
-
-TEST(Credits, ScrollAtTheirPaceAndComeUpAgainFromBelow) {
-  frmCredits Form(nullptr);
-  WaitForScrolling(Form);
-  const int Bottom = Form.picScroll->height();
-  EXPECT_GE(Form.picScroll->Top, Bottom - 1);
-  const int Before = Form.picScroll->Top;
-  QElapsedTimer Clock;
-  Clock.start();
-  QTest::qWait(500);
-  const int Steps = Before - Form.picScroll->Top;
-  EXPECT_LE(Steps, Clock.elapsed() / 40 + 1);
-  EXPECT_GE(Steps, 3);  // however busy the machine is
-
-  const int Height = Form.picScroll->TextHeight();
-  EXPECT_GT(Height, Bottom) << "taller than the box";
-  Form.picScroll->Top = -Height;
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Form.picScroll->Top != -Height; }, 5000));
-  EXPECT_NEAR(Form.picScroll->Top, Bottom, 2) << "the last line has gone past the upper edge";
-}
-
-TEST(Credits, StopForGoodHoweverTheyClose) {
+TEST(Credits, ScrollAtTheirPaceComeAgainAndStopHoweverTheyClose) {
   for (const int Way : {0, 1, 2}) {
     SCOPED_TRACE(Way);
     frmCredits Form(nullptr);
-    WaitForScrolling(Form);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return Form.picScroll->Top < Form.picScroll->height() - 1; }, 5000));
-    if (Way == 0) QTest::mouseClick(Form.cmdOK, Qt::LeftButton);
+    int& Top = Form.picScroll->Top;
+    const int Bottom = Form.picScroll->height(), Height = Form.picScroll->TextHeight();
+    Form.show();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Form.IsScrolling(); }, 5000));
+    EXPECT_GE(Top, Bottom - 1);
+    const int Before = Top;
+    QElapsedTimer Clock;
+    Clock.start();
+    QTest::qWait(400);
+    EXPECT_LE(Before - Top, Clock.elapsed() / 40 + 1);
+    EXPECT_GE(Before - Top, 3);  // however busy the machine is
+
+    EXPECT_GT(Height, Bottom);
+    Top = -Height;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Top != -Height; }, 5000));
+    EXPECT_NEAR(Top, Bottom, 2) << "the last line has gone past the upper edge";
+
+    if (Way == 0) Click(Form.cmdOK);
     if (Way == 1) QTest::keyClick(&Form, Qt::Key_Escape);
     if (Way == 2) Form.close();
     EXPECT_FALSE(Form.isVisible());
-    const int Top = Form.picScroll->Top;
+    const int Last = Top;
     QTest::qWait(120);
-    EXPECT_EQ(Form.picScroll->Top, Top);
+    EXPECT_EQ(Top, Last);
   }
 }
 
 TEST(Credits, WithoutATextTheySaySoAndClose) {
   frmCredits Form(nullptr);
   Form.picScroll->Text.clear();
-  QString Said;
-  WhileModal Answers({[&](QWidget& Window) {
-    Said = dynamic_cast<QMessageBox&>(Window).text();
-    Window.close();
-  }});
-  Form.show();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !Form.isVisible(); }, 5000));
-  EXPECT_EQ(Said, QStringLiteral("Error scrolling text"));
-}
-
-TEST(Credits, OpenFromTheAboutBox) {
-  AboutBox Box;
-  frmAbout Form(Box.Where, Box.Settings, Box.Desktop, nullptr);
-  Form.show();
-  WhileModal Answers({[](QWidget& Window) {
-    EXPECT_EQ(Window.windowTitle(), QStringLiteral("Tollmoor Blunko Credits"));
-    Window.close();
-  }});
-  QTest::mouseClick(Form.cmdCredits, Qt::LeftButton);
-  EXPECT_TRUE(Form.isVisible());
+  Answers Next;
+  Next.Expect<frmCredits>([](frmCredits&) {});
+  Next.Press(QMessageBox::Ok);
+  Form.exec();
+  EXPECT_THAT(Next.Seen.back(), testing::EndsWith(": Error scrolling text"));
 }
 
 }  // namespace

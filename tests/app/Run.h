@@ -1,22 +1,29 @@
 #pragma once
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 
 #include <deque>
 #include <functional>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
-#include "storage/Folders.h"
+#include "app/Application.h"
+#include "tests/engine/Table.h"
 
 namespace blunko::test {
+
+using Lines = std::vector<std::string>;
 
 /// The folders of a program that lives in a temporary one.
 inline Folders FoldersIn(const QTemporaryDir& Place) {
@@ -33,9 +40,29 @@ inline QByteArray BytesOf(const QString& Path) {
   return File.open(QIODevice::ReadOnly) ? File.readAll() : QByteArray();
 }
 
-/// Lets the event loops of a test run again after a program in it has ended, and has that end only by itself.
+inline void Put(const QString& Path, const QByteArray& Bytes) {
+  QFile File(Path);
+  ASSERT_TRUE(File.open(QIODevice::WriteOnly));
+  File.write(Bytes);
+}
+
+inline void Click(QWidget* Control) { QTest::mouseClick(Control, Qt::LeftButton); }
+
+/// Every text of a window has the room that it asks for.
+inline void ExpectNothingCut(const QWidget& Form) {
+  for (const QWidget* Part : Form.findChildren<QWidget*>()) {
+    const bool Text =
+        qobject_cast<const QLabel*>(Part) != nullptr || qobject_cast<const QAbstractButton*>(Part) != nullptr;
+    if (!Text || !Part->isVisible()) continue;
+    const QSize Needed =
+        Part->hasHeightForWidth() ? QSize(0, Part->heightForWidth(Part->width())) : Part->minimumSizeHint();
+    EXPECT_EQ(Part->size().expandedTo(Needed), Part->size()) << Part->objectName().toStdString();
+    EXPECT_TRUE(Form.rect().contains(QRect(Part->mapTo(&Form, QPoint()), Part->size())));
+  }
+}
+
+/// Lets event loops run again after a program has ended.
 inline void BeginLoops() {
-  QApplication::setQuitOnLastWindowClosed(false);
   QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
   QCoreApplication::exec();
 }
@@ -44,20 +71,17 @@ inline void BeginLoops() {
 /// does a wait beyond the limit, which ends all event loops.
 class Answers : public QObject {
  public:
-  using Step = std::function<void(QWidget*)>;
-
-  explicit Answers(int Limit = 20000) {
-    BeginLoops();
+  Answers() {
     qApp->installEventFilter(this);
-    QTimer::singleShot(Limit, this, [this] {
-      ADD_FAILURE() << "the time limit is reached with " << steps.size() << " windows to come";
+    QTimer::singleShot(60000, this, [this] {
+      ADD_FAILURE() << "the time is up with " << steps.size() << " windows to come";
       QCoreApplication::exit();
     });
   }
   ~Answers() override { EXPECT_EQ(steps.size(), 0U) << "windows didn't come up"; }
 
-  /// "Title: text" of every message box.
-  std::vector<std::string> Boxes;
+  /// What has come up: a title, and for a message box ": " and its text.
+  Lines Seen;
 
   /// The next window is of this class and dealt with so.
   template <typename Dialog>
@@ -67,6 +91,11 @@ class Answers : public QObject {
       EXPECT_NE(Expected, nullptr) << "another window: " << Shown->metaObject()->className();
       Expected != nullptr ? Do(*Expected) : static_cast<void>(Shown->close());
     });
+  }
+  /// The next window is a dialog of this class and left by this button.
+  template <typename Dialog>
+  void Press(ButtonPlus* Dialog::*Button) {
+    Expect<Dialog>([Button](Dialog& Shown) { Click(Shown.*Button); });
   }
   /// The next window is a message box and answered with this button.
   void Press(QMessageBox::StandardButton Button) {
@@ -79,9 +108,9 @@ class Answers : public QObject {
   bool eventFilter(QObject* Object, QEvent* Event) override {
     auto* Shown = Event->type() == QEvent::Show ? qobject_cast<QWidget*>(Object) : nullptr;
     if (Shown != nullptr && Shown->isModal()) {
-      if (const auto* Box = qobject_cast<QMessageBox*>(Shown)) {
-        Boxes.push_back((Box->windowTitle() + QStringLiteral(": ") + Box->text()).toStdString());
-      }
+      const auto* Box = qobject_cast<QMessageBox*>(Shown);
+      const QString Text = Box != nullptr ? QStringLiteral(": ") + Box->text() : QString();
+      Seen.push_back((Shown->windowTitle() + Text).toStdString());
       QTimer::singleShot(0, Shown, [this, Shown] { Next(Shown); });
     }
     return false;
@@ -90,16 +119,67 @@ class Answers : public QObject {
  private:
   void Next(QWidget* Shown) {
     if (steps.empty()) {
-      ADD_FAILURE() << "unexpected window: " << Shown->windowTitle().toStdString();
+      ADD_FAILURE() << "unexpected window: " << Seen.back();
       Shown->close();
       return;
     }
-    const Step Do = steps.front();
+    const auto Do = std::exchange(steps.front(), {});
     steps.pop_front();
     Do(Shown);
   }
 
-  std::deque<Step> steps;
+  std::deque<std::function<void(QWidget*)>> steps;
+};
+
+/// Takes the addresses that would be opened in the system's programs.
+class Shell : public QObject {
+  Q_OBJECT
+
+ public:
+  Shell() {
+    for (const char* Scheme : Schemes) QDesktopServices::setUrlHandler(QLatin1String(Scheme), this, "Open");
+  }
+  ~Shell() override {
+    for (const char* Scheme : Schemes) QDesktopServices::unsetUrlHandler(QLatin1String(Scheme));
+  }
+  Lines Opened;
+
+ public slots:
+  void Open(const QUrl& Address) { Opened.push_back(Address.toString().toStdString()); }
+
+ private:
+  static constexpr const char* Schemes[] = {"http", "https", "mailto"};
+};
+
+/// The whole program in a folder of its own, with scripted dice and instant waits.
+class TheProgram : public testing::Test {
+ protected:
+  QTemporaryDir Place;
+  ScriptedDice* Dice = nullptr;
+  std::unique_ptr<Application> Run;
+  Answers Next;
+
+  QString Path(const char* Name) const { return Place.filePath(QLatin1String(Name)); }
+  void Create() {
+    Run.reset();
+    BeginLoops();
+    auto Numbers = std::make_unique<ScriptedDice>();
+    Dice = Numbers.get();
+    Run = std::make_unique<Application>(FoldersIn(Place), std::move(Numbers));
+    Run->Screen.WaitFactor = 0;
+  }
+  /// A later start, with nothing asked and lists that nobody gets into.
+  void Start(const QByteArray& Keys = "ShowWelcomeMessage=0\n") {
+    Put(Path("game.ini"), "[Info]\nScanned=True\nComputerFast=2\n" + Keys);
+    QFile::link(QStringLiteral(TBK_ASSETS "/help"), Path("help"));
+    RollerLists Full;
+    Full.lstHSTS.fill({QStringLiteral("Top"), INT16_MAX});
+    Full.lstBMoV = Full.lstHSTS;
+    Put(Path("highscores.dat"), ScrambleText(Full.Text()));
+    Create();
+    Dice->Faces = {2};
+    ASSERT_TRUE(Run->Main());
+  }
 };
 
 }  // namespace blunko::test

@@ -1,16 +1,10 @@
-#include <QApplication>
-#include <QTimer>
-
-#include <gtest/gtest.h>
+#include "tests/app/Run.h"
 
 namespace {
 
 /// A program that has quit in one test doesn't keep the dialogs of the next from waiting.
 class FreshEventLoop : public testing::EmptyTestEventListener {
-  void OnTestStart(const testing::TestInfo&) override {
-    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
-    QApplication::exec();
-  }
+  void OnTestStart(const testing::TestInfo&) override { blunko::test::BeginLoops(); }
 };
 
 }  // namespace

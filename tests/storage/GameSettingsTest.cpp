@@ -68,7 +68,7 @@ TEST_F(GameSettingsTest, TakesWhateverStandsInTheFile) {
                       {"DieColor=blue 240", Dice, 112},
                       {"DieColor=0", Dice, 112},
                       {"DieColor=+240", Dice, 240},
-                      {"DieColor=-5", Dice, -5},
+                      {"DieColor=-5", Dice, 112},
                       {"DieColor=113.5", Dice, 114},
                       {"DieColor=114.5", Dice, 114},  // half goes to the even number
                       {"DieColor=1e3", Dice, 1000},
