@@ -58,35 +58,44 @@ bool Application::Main() {
   Uniform = UniformGenerator(static_cast<std::uint64_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000));
   State.PauseComputer = false;
   State.TempFolder = folders.Temp.toStdString();
-  // What can't be written stays silent.
+  ExtractSounds();
+  LoadForm();
+  Table.ClearAtStart();
+  Form->show();
+  return true;
+}
+
+/// What can't be written stays silent.
+void Application::ExtractSounds() {
   for (int Id = FirstSound; Id <= LastSound; ++Id) {
     ExtractResource(Id, QStringLiteral("CUSTOM"), folders.Temp + FileOfSound(Id));
   }
   Screen.PlayFile = [this](const QString& File, bool Always) {
     if (Always || !Settings.SoundDisabled()) Player.Play(File);
   };
+}
 
+/// Makes the table's window, dresses it as the settings say, and connects it with the rest.
+void Application::LoadForm() {
   Form = std::make_unique<frmMain>(Table);
-  Rollers.LoadHighRollers();
-  Form->OnCommand.HighRollers = [this] { ViewLists(); };
-  Screen.ShowControls = [this] { Form->ShowControls(); };
-  Screen.ShowPointer = [this](MousePointer Pointer) {
-    Pointer == MousePointer::Hourglass ? Form->setCursor(Qt::WaitCursor) : Form->unsetCursor();
-  };
-  QObject::connect(Form.get(), &frmMain::minimised, Form.get(), [this] { Form_Resize(); });
-  Form->OnCommand.FirstShown = [this] { Form_Activate(); };
-  Form->OnCommand.HowToPlay = [this] { ShowHelpTopic(QStringLiteral("PlayingBlunko.htm")); };
-  Form->OnCommand.GoHelp = [this] { ShowHelpTopic(QStringLiteral("Overview.htm")); };
-  Form->OnCommand.About = [this] { frmAbout(folders, Settings, Screen, Form.get()).exec(); };
-  Form->OnCommand.Options = [this] { Options().cmdOptions_Click(); };
   const QColor Trays = StartColour(Settings.DieColour());
   Form->PaintTrays(Trays, Trays);
   Form->ShowBackground(Settings.Background());
   Form->ColourLabels(Settings.TextColour());
   Form->CentreOnScreen();
-  Table.ClearAtStart();
-  Form->show();
-  return true;
+  Rollers.LoadHighRollers();
+
+  Form->OnCommand.FirstShown = [this] { Form_Activate(); };
+  Form->OnCommand.Options = [this] { Options().cmdOptions_Click(); };
+  Form->OnCommand.HighRollers = [this] { ViewLists(); };
+  Form->OnCommand.HowToPlay = [this] { ShowHelpTopic(QStringLiteral("PlayingBlunko.htm")); };
+  Form->OnCommand.GoHelp = [this] { ShowHelpTopic(QStringLiteral("Overview.htm")); };
+  Form->OnCommand.About = [this] { frmAbout(folders, Settings, Screen, Form.get()).exec(); };
+  QObject::connect(Form.get(), &frmMain::minimised, Form.get(), [this] { Form_Resize(); });
+  Screen.ShowControls = [this] { Form->ShowControls(); };
+  Screen.ShowPointer = [this](MousePointer Pointer) {
+    Pointer == MousePointer::Hourglass ? Form->setCursor(Qt::WaitCursor) : Form->unsetCursor();
+  };
 }
 
 /// Asked once in the life of an installation, whatever the answer.
