@@ -38,7 +38,6 @@ const DiceSet* Find(Test Fits) {
 
 }  // namespace
 
-std::span<const DiceSet> DiceSets() { return Sets; }
 std::span<const char* const> OfferedDiceSets() { return Offered; }
 
 const DiceSet* FindDiceSet(int Base) {

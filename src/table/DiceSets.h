@@ -17,9 +17,6 @@ struct DiceSet {
   QRgb Pick;   ///< when the set is clicked in the list
 };
 
-/// All sixteen sets, by their base numbers.
-std::span<const DiceSet> DiceSets();
-
 /// The sets that the options panel offers, in the order of its list.
 std::span<const char* const> OfferedDiceSets();
 
