@@ -2,6 +2,7 @@
 """Draws the pictures of the dialogs and the icon beside this file; only the greeting is a drawing of its own."""
 import math
 import pathlib
+import subprocess
 import sys
 
 HERE = pathlib.Path(__file__).parent
@@ -259,7 +260,7 @@ def welcome():
 
 
 def icon():
-    """The front die lies on a grid of four units, so that its edges and pips are whole pixels at 16, 32 and 48."""
+    """The front die lies on a grid of four units, so that its edges and pips are whole pixels at 48."""
     front = [(12 + 12 * c, 28 + 12 * r) for c, r in ((0, 0), (2, 0), (1, 1), (0, 2), (2, 2))]
     write(HERE / "icon.svg", 64, 64,
           defs(linear("p", *BLACK_PIP, x1=0.2, x2=0.8), linear("q", *RED_PIP, x1=0.2, x2=0.8)),
@@ -271,6 +272,38 @@ def icon():
           *[hollow(x, y, 4.3, "p", "#15130f", ("#ffffff", 0.9)) for x, y in front])
 
 
+def small_icon(size, side, margin, pip, gap, r):
+    """The icon drawn anew for one size: both dice upright, each edge and pip on whole pixels."""
+    def die(x, y, name, side, rim, lit, shaded):
+        return (defs(linear(name, (0, lit), (1, shaded), x2=0.6)) + rect(x, y, side, side, r, fill=rim) +
+                rect(x + 1, y + 1, side - 2, side - 2, r - 1, fill=f"url(#{name})"))
+
+    def pips(x, y, places, colour):
+        step = pip + gap
+        return "".join(rect(x + column * step, y + row * step, pip, pip, pip - 2, fill=colour)
+                       for column, row in places)
+
+    back, corner = side - 1, size - margin - pip  # the red die's side and its upper right pip
+    write(HERE / f"icon-{size}.svg", size, size,
+          die(size - back, 0, "b", back, RED[3], "#e8434b", "#a00f1a"),
+          pips(corner, margin, ((0, 0), (-2, 0), (0, 2)), "#fff4ee"),
+          die(0, size - side, "f", side, "#3c3830", "#ffffff", "#cfcabc"),
+          pips(margin, size - side + margin, ((0, 0), (2, 0), (1, 1), (0, 2), (2, 2)), "#16130f"))
+
+
+def icons():
+    """The icon's pictures, from 48 pixels on drawn from the large one."""
+    icon()
+    for grid in ((16, 12, 2, 2, 1, 2), (24, 19, 3, 3, 2, 3.5), (32, 24, 4, 4, 2, 5)):
+        small_icon(*grid)
+    folder = HERE.parent / "icons"
+    folder.mkdir(exist_ok=True)
+    for size in (16, 24, 32, 48, 64, 128, 256):
+        drawing = HERE / (f"icon-{size}.svg" if size < 48 else "icon.svg")
+        subprocess.run(["rsvg-convert", "-w", f"{size}", "-h", f"{size}", drawing, "-o", folder / f"{size}.png"],
+                       check=True)
+
+
 if __name__ == "__main__":
-    for draw in (trophy, rollers_top, rollers_bottom, tick, welcome, icon):
+    for draw in (trophy, rollers_top, rollers_bottom, tick, welcome, icons):
         draw()
