@@ -140,11 +140,14 @@ def shadow(x, y, w, h, r, depth, strength):
                    for i in range(steps, 0, -1))
 
 
-def write(file, width, height, *parts, left=0):
-    """Writes a picture; all its parts are moved to the right by `left`."""
-    file.write_text(
-        f'<svg xmlns="http://www.w3.org/2000/svg" version="1.2" baseProfile="tiny" width="{width}" height="{height}" '
-        f'viewBox="{-left} 0 {width} {height}">\n' + "\n".join(parts) + "\n</svg>\n", encoding="ascii")
+def picture(width, height, *parts, left=0):
+    """The text of a picture; all its parts are moved to the right by `left`."""
+    return (f'<svg xmlns="http://www.w3.org/2000/svg" version="1.2" baseProfile="tiny" width="{width}" '
+            f'height="{height}" viewBox="{-left} 0 {width} {height}">\n' + "\n".join(parts) + "\n</svg>\n")
+
+
+def write(file, *what, **where):
+    file.write_text(picture(*what, **where), encoding="ascii")
 
 
 def pip_places(face, middle, spread):

@@ -13,32 +13,37 @@ sys.path[:0] = [str(HERE.parent), str(HERE)]
 
 import scenes
 from scenes import FACES, MARGIN
-from svg import (BLACK_PIP, BLUE, BLUE_PIP, IVORY, RED, RED_PIP, circle, defs, die_body, hollow, line, linear, path,
-                 pip_places, radial, rect, shadow, smooth, star, write)
+from svg import (BLACK_PIP, BLUE, BLUE_PIP, IVORY, RED, RED_PIP, around, circle, defs, die_body, hollow, linear, path,
+                 picture, pip_places, radial, rect, shadow, smooth, star, write)
 
 
 # --- turned and moulded dice ---------------------------------------------------------------------------------------
 
-def moulded(base, colours, pip, edge, glint, **shape):
-    die = shadow(0, 0, 44, 44, shape.get("r", 10), 4, 0.1), *die_body("d", *colours, **shape)
+def moulded(colours, pip, edge, glint, face, **shape):
+    r = 5.6 if face == 1 else 4.4
+    return (*die_body("d", *colours, **shape), defs(linear("pip", *pip, x1=0.2, y1=0.1, x2=0.8, y2=0.95)),
+            *[hollow(x, y, r, "pip", edge, glint) for x, y in pip_places(face, (22, 22), (11, 11))])
+
+
+def moulded_set(base, *look, **shape):
     for face in FACES:
-        r = 5.6 if face == 1 else 4.4
-        write(HERE / f"{base + face}.svg", 48, 48, *die,
-              defs(linear("pip", *pip, x1=0.2, y1=0.1, x2=0.8, y2=0.95)),
-              *[hollow(x, y, r, "pip", edge, glint) for x, y in pip_places(face, (22, 22), (11, 11))],
-              left=MARGIN)
+        write(HERE / f"{base + face}.svg", 48, 48, shadow(0, 0, 44, 44, shape.get("r", 10), 4, 0.1),
+              *moulded(*look, face, **shape), left=MARGIN)
+
+
+BLUE_LOOK = BLUE, BLUE_PIP, "#0c1850", ("#6f8eea", 0.55)
 
 
 def blue():
-    moulded(100, BLUE, BLUE_PIP, "#0c1850", ("#6f8eea", 0.55))
+    moulded_set(100, *BLUE_LOOK)
 
 
 def red():
-    moulded(106, RED, RED_PIP, "#4c060d", ("#ee7a78", 0.55))
+    moulded_set(106, RED, RED_PIP, "#4c060d", ("#ee7a78", 0.55))
 
 
 def antique():
-    moulded(112, IVORY, BLACK_PIP, "#15130f", ("#ffffff", 0.95), r=11, gloss=0.75)
+    moulded_set(112, IVORY, BLACK_PIP, "#15130f", ("#ffffff", 0.95), r=11, gloss=0.75)
 
 
 def green():
@@ -59,82 +64,95 @@ def green():
 # --- stars and stripes ---------------------------------------------------------------------------------------------
 
 def patriot():
-    """Three bands, a star on each for a pip; a silver edge keeps the blue band off the blue tray."""
-    def rounded(top, bottom):
-        """A band of the face, round at its outer corners."""
-        r, x1, x2 = 6.5, 3, 41
-        up, down = f"M{x1} {top} H{x2}", f"V{bottom} H{x1} Z"
-        if top == 3:
-            up = f"M{x1} {top + r} Q{x1} {top} {x1 + r} {top} H{x2 - r} Q{x2} {top} {x2} {top + r}"
-        if bottom == 41:
-            down = f"V{bottom - r} Q{x2} {bottom} {x2 - r} {bottom} H{x1 + r} Q{x1} {bottom} {x1} {bottom - r} Z"
-        return f"{up} {down}"
+    """White stars for pips on the dark blue field, inside a white and a red band; the edge shines."""
+    def band(inset, fill):
+        return rect(inset, inset, 44 - 2 * inset, 44 - 2 * inset, 9.5 - inset * 0.8, fill=fill)
 
-    def pip(x, y, colour):
-        return star(x, y + 0.4, 5.6, fill=colour, stroke=colour, stroke_width=0.6, stroke_linejoin="round")
+    def pip(x, y, r):
+        shade = "".join(star(x + 0.3 * i, y + 0.4 + 0.5 * i, r, fill="#02061e", fill_opacity=0.3) for i in (3, 2, 1))
+        return shade + star(x, y + 0.4, r, fill="#ffffff", stroke="#ffffff", stroke_width=0.7, stroke_linejoin="round")
 
     for face in FACES:
         write(HERE / f"{178 + face}.svg", 48, 48,
-              defs(linear("rim", (0, "#ffffff"), (0.45, "#d4d8e4"), (1, "#7c8296"), x2=1),
-                   linear("u", (0, "#3d55c4"), (0.5, "#1b2c8e"), (1, "#0e1a62"), x2=1, y2=0.6),
-                   linear("w", (0, "#ffffff"), (0.5, "#f4f4f8"), (1, "#c8cad6"), x2=1, y2=0.6),
-                   linear("d", (0, "#ee4a52"), (0.5, "#c81626"), (1, "#8c0a16"), x2=1, y2=0.6),
-                   radial("glow", (0, "#ffffff", 0.5), (1, "#ffffff", 0), cx=0.25, cy=0.15, r=0.6)),
-              shadow(0, 0, 44, 44, 9, 4, 0.12),
-              rect(0, 0, 44, 44, 9, fill="#050a30"), rect(0.75, 0.75, 42.5, 42.5, 8.4, fill="url(#rim)"),
-              path(rounded(3, 16), fill="url(#u)"), path(rounded(16, 28), fill="url(#w)"),
-              path(rounded(28, 41), fill="url(#d)"),
-              rect(3, 3, 38, 38, 6.5, fill="url(#glow)"),
-              *[pip(x, y, "#14206e") if y == 22 else pip(x + 0.6, y + 0.8, "#060a2a") + pip(x, y, "#ffffff")
-                for x, y in pip_places(face, (22, 22), (11.5, 12.4))],
+              defs(linear("rim", (0, "#ffd8d8"), (0.4, "#f0646a"), (1, "#5c040e"), x2=1),
+                   linear("r", (0, "#ee3a44"), (0.5, "#cc1424"), (1, "#900a18"), x2=1),
+                   linear("w", (0, "#ffffff"), (0.6, "#f6f6fa"), (1, "#c4c6d4"), x2=1),
+                   linear("u", (0, "#3a52c0"), (0.45, "#1a2b8c"), (1, "#0e185a"), x2=1),
+                   radial("glow", (0, "#ffffff", 0.35), (1, "#ffffff", 0), cx=0.2, cy=0.15, r=0.6)),
+              shadow(0, 0, 44, 44, 9.5, 4, 0.1),
+              band(0, "url(#rim)"), band(0.8, "url(#r)"), band(3.4, "url(#w)"), band(5.2, "url(#u)"),
+              band(5.2, "url(#glow)"),
+              *[pip(x, y, 8.5 if face == 1 else 5.1) for x, y in pip_places(face, (22, 22), (9.8, 10.8))],
               left=MARGIN)
 
 
 # --- drawn by hand -------------------------------------------------------------------------------------------------
 
+PETAL = (3, 0), (9, 5.6), (17, 8), (23, 3), (23, -3), (17, -8), (9, -5.6)  # (along it, across)
+
+
 def pablo():
-    """Ink on paper by an unsteady hand: no two strokes alike, the colour wash a little off its outline."""
-    ink, washes = "#2b2620", ("#ffd9a8", "#bfe0f2", "#ffc4b8", "#cfe8b8", "#e2ccf0", "#fbe79a")
+    """Ink and washes by an unsteady hand. Each face is a motif of one studio: an eye, a face, a fish, a butterfly, a
+    flower, a guitar; its pips are the spots that the motif has anyway.
+    """
+    ink, paper = "#2b2620", "#fbf7ea"
     for face in FACES:
         hand = random.Random(f"pablo {face}")
 
-        def shake(x, y, by):
-            return x + hand.uniform(-by, by), y + hand.uniform(-by, by)
+        def shaken(places, by):
+            return [(x + hand.uniform(-by, by), y + hand.uniform(-by, by)) for x, y in places]
 
-        def box(inset, by):
-            a, b, m, c = inset, 48 - inset, 24, 4.5
-            return [shake(x, y, by) for x,
-                    y in ((a + c, a), (m, a - 0.6), (b - c, a), (b, a + c), (b + 0.5, m), (b, b - c), (b - c, b),
-                                                 (m, b + 0.6), (a + c, b), (a, b - c), (a - 0.6, m), (a, a + c))]
+        def wash(colour, *places):
+            return path(smooth(shaken(places, 0.4)), fill=colour, stroke=ink, stroke_width=1, stroke_linejoin="round")
+
+        def stroke(*places, width=1.3):
+            return path(smooth(shaken(places, 0.3), closed=False), fill="none", stroke=ink, stroke_width=width,
+                        stroke_linecap="round")
 
         def blot(x, y, r):
-            ring = [(x + r * hand.uniform(0.9, 1.1) * dx, y + r * hand.uniform(0.9, 1.1) * dy)
-                    for dx, dy in ((0, -1), (0.7, -0.7), (1, 0), (0.7, 0.7), (0, 1), (-0.7, 0.7), (-1, 0),
-                                   (-0.7, -0.7))]
-            return path(smooth(ring), fill=ink)
+            return path(smooth([around(x, y, r * hand.uniform(0.92, 1.08), 45 * i) for i in range(8)]), fill=ink)
 
-        outline = box(3.4, 0.9)
-        parts = [path(smooth(outline), fill="#fbf7ea")]
-        # the wash: one slanting patch of colour that leaves a corner of the paper bare
-        cut, slant = hand.uniform(8, 15), hand.uniform(4, 12)
-        wash = [shake(x, y, 0.8) for x,
-                y in ((6 + cut, 6), (24 + cut / 2, 5.6), (42.5, 6), (42.8, 24), (42.5, 42.2), (26, 42.6),
-                                              (6 + slant, 42), (5.8 + slant / 2, 33 + cut / 4), (6 + cut * 0.6, 20))]
-        parts.append(path(smooth(wash), fill=washes[face - 1]))
-        parts += [line(*shake(38.6 + i * 2, 43, 0.3), *shake(43, 38.2 + i * 2, 0.3), stroke=ink, stroke_opacity=0.5,
-                       stroke_width=0.7) for i in range(-1, 2)]
-        parts.append(path(smooth(outline), fill="none", stroke=ink, stroke_width=1.9, stroke_linejoin="round"))
-        parts.append(path(smooth(box(3.0, 1.3)[1:11], closed=False), fill="none", stroke=ink, stroke_width=0.9,
-                          stroke_linecap="round", stroke_opacity=0.85))
-        if face == 1:
-            parts += [path("M13 25.5 C17 17.5 30 16.5 35.5 23.5 C31 31 18.5 32 13 25.5 Z", fill="#fffdf6", stroke=ink,
-                           stroke_width=1.7, stroke_linejoin="round"),
-                      blot(24.4, 24.2, 5.2), circle(22.8, 22.4, 1.5, fill="#fffdf6"),
-                      *[line(x, y, x + dx, y - 3.6, stroke=ink, stroke_width=1.2)
-                        for x, y, dx in ((17, 18.5, -1.4), (21.6, 16.6, -0.6), (26.6, 16.2, 0.5), (31, 17.6, 1.5))]]
-        else:
-            parts += [blot(*shake(x, y, 0.9), 4.5) for x, y in pip_places(face, (24, 24), (10.8, 10.8))]
-        write(HERE / f"{118 + face}.svg", 48, 48, *parts)
+        motif = {
+            1: lambda: [wash("#ffd9a8", (6, 25), (14, 13), (26, 8), (38, 15), (42, 26), (34, 38), (22, 41), (11, 35)),
+                        wash("#fffdf6", (9.5, 25), (16, 18.5), (24, 16.4), (32, 18.4), (38.5, 24.4), (32, 30.6),
+                             (24, 32.4), (16, 31)),
+                        *[stroke((x, y), (x + dx, y - 4.4))
+                          for x, y, dx in ((15, 17, -2), (20.4, 14.6, -1), (26.4, 14.2, 0.6), (32.2, 16, 2))]],
+            2: lambda: [wash("#bfe0f2", (24, 6), (36, 8), (42, 20), (41, 34), (32, 42), (22, 42), (27, 33), (21, 27),
+                             (25, 18)),
+                        wash("#ffe2c0", (24, 6), (25, 18), (21, 27), (27, 33), (22, 42), (12, 38), (6.4, 26), (7, 13),
+                             (14, 7)),
+                        wash("#fffdf6", (6, 14), (13, 8.6), (20.4, 13.6), (13.4, 18.6)),
+                        wash("#fffdf6", (28, 34.4), (35, 29), (42, 33.6), (35.4, 39.4)),
+                        stroke((12, 32), (16, 34.6), (21, 33))],
+            3: lambda: [wash("#ff9d86", (29, 30), (43, 26), (42, 34), (43.4, 43.4), (34, 42), (26, 43), (30, 29)),
+                        wash("#ff9d86", (21, 8), (29, 5.6), (37, 8), (35, 15), (31, 17)),
+                        wash("#ffcdba", (7, 7), (12.4, 5.8), (22, 8), (31, 16), (33, 25), (30.6, 30.6), (25, 33),
+                             (16, 31), (8, 22), (5.8, 12.4)),
+                        stroke((23, 8.4), (21.4, 16), (16, 21.4), (8.4, 23))],
+            4: lambda: [*[wash(colour, *[(24 + side * x, y) for x, y in wing])
+                          for colour, wing in (("#cfe8b8", ((1, 22), (12, 6), (18, 10), (16, 20))),
+                                               ("#f6e487", ((1, 25), (16, 28), (17, 38), (10, 42))))
+                          for side in (-1, 1)],
+                        stroke((24, 14), (23.7, 24), (24, 37), width=3.2),
+                        *[stroke((24, 14), (24 + side * 3, 9), (24 + side * 4.6, 6.6), width=1) for side in (-1, 1)]],
+            5: lambda: [*[wash("#dcc2f2", *[around(*around(24, 24, r, turn), w, turn + 90) for r, w in PETAL])
+                          for turn in (45, 135, 225, 315)],
+                        wash("#fbe27a", *[around(24, 24, 8.2, 30 * i) for i in range(12)])],
+            6: lambda: [wash("#f2b872", (17, 4.6), (24, 6), (31, 4.6), (33, 14), (31, 24), (32, 35), (30, 43.4),
+                             (18, 43.4), (16, 35), (17, 24), (15, 14)),
+                        *[stroke((x, 8), (x + 0.3, 25), (x, 43), width=0.8) for x in (21, 24, 27)],
+                        *[stroke((24 + 8 * d, y), (24 + 12 * d, y), width=1.6) for d in (-1, 1) for y in (12, 24, 36)]],
+        }[face]()
+        edge = [(8, 3.4), (24, 2.8), (40, 3.4), (44.6, 8), (45.1, 24), (44.6, 40), (40, 44.6), (24, 45.2), (8, 44.6),
+                (3.4, 40), (2.8, 24), (3.4, 8)]
+        outline = smooth(shaken(edge, 0.8))
+        pips = [(24, 24)] if face == 1 else pip_places(face, (24, 24), (11, 12 if face == 6 else 11))
+        write(HERE / f"{118 + face}.svg", 48, 48,
+              path(outline, fill=paper), *motif,
+              path(outline, fill="none", stroke=ink, stroke_width=1.9, stroke_linejoin="round"),
+              stroke(*edge[1:10], width=0.9),
+              *[blot(x, y, 5.6 if face == 1 else 4.4) for x, y in pips])
 
 
 # --- small parts ---------------------------------------------------------------------------------------------------
@@ -152,14 +170,13 @@ def marker():
 
 
 def about_die():
-    """A GIF has no soft edges: the die lies on the ground of the dialog, and what is pure ground is left out."""
-    ground = "rgb(239,239,239)"
-    image = subprocess.run(["rsvg-convert", "-w", "96", "-h", "96", HERE / "105.svg"], check=True,
-                           capture_output=True).stdout
+    """A GIF has no soft edges: the die has no shadow, and its dark rim ends sharply on whatever ground it stands."""
+    drawing = picture(44, 44, *moulded(*BLUE_LOOK, 5))
+    image = subprocess.run(["rsvg-convert", "-w", "96", "-h", "96"], input=drawing.encode(), check=True,
+                           stdout=subprocess.PIPE).stdout
     data = HERE.parent / "Data"
     data.mkdir(exist_ok=True)
-    subprocess.run(["convert", "png:-", "-background", ground, "-flatten", "-transparent", ground, "+dither",
-                    "-colors", "250",
+    subprocess.run(["convert", "png:-", "-channel", "A", "-threshold", "50%", "+channel", "+dither", "-colors", "250",
                     "-strip", data / "Dice_Blue_5.gif"], input=image, check=True)
 
 

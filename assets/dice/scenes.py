@@ -12,34 +12,33 @@ MARGIN = 2  # to the left of a body of 44, so that it stands in the middle of it
 
 
 def clocks():
-    """The hands show the hour; a window where a watch has its date names it too."""
+    """A broad hand shows the hour, a thin one stands at twelve; a framed window names the hour where no hand comes."""
     x = y = 24
     for face in FACES:
-        ticks = [line(*around(x, y, 17.6, 30 * h), *around(x, y, 15.2 if h % 3 else 13.6, 30 * h), stroke="#2c2a33",
-                      stroke_width=1.2 if h % 3 else 2, stroke_linecap="butt") for h in range(12) if h != 9]
+        ticks = [line(*around(x, y, 17.7, 30 * h), *around(x, y, 15.6 if h % 3 else 14.4, 30 * h), stroke="#2c2a33",
+                      stroke_width=1.1 if h % 3 else 2, stroke_linecap="butt") for h in range(12) if h != 9]
 
-        def hand(degrees, length, width, dx=0.0, dy=0.0, **style):
-            tip, tail = around(x + dx, y + dy, length, degrees), around(x + dx, y + dy, 3.2, degrees + 180)
-            side, other = around(x + dx, y + dy, width, degrees + 90), around(x + dx, y + dy, width, degrees - 90)
-            return polygon([tip, side, tail, other], stroke_linejoin="round", stroke_width=0.8, **style)
+        def hand(degrees, *outline):
+            """An outline of (distance from the middle, half width), from the middle to the tip, and its shadow."""
+            ring = ([around(*around(x, y, r, degrees), w, degrees + 90) for r, w in outline] +
+                    [around(*around(x, y, r, degrees), -w, degrees + 90) for r, w in outline[::-1]])
+            return (polygon([(px + 0.7, py + 0.9) for px, py in ring], fill="#000000", fill_opacity=0.22) +
+                    polygon(ring, fill="#1b2350"))
 
-        hands = [(30 * face, 11.2, 2.3), (0, 16, 1.6)]
         write(HERE / f"{124 + face}.svg", 48, 48,
               defs(linear("rim", (0, "#fff4c0"), (0.4, "#d9a63a"), (1, "#6b4508"), x2=1),
                    linear("bevel", (0, "#7a5210"), (0.6, "#e8bc50"), (1, "#fff0b0"), x2=1),
                    radial("dial", (0, "#ffffff"), (0.6, "#fbf8ee"), (1, "#d8d2c0"), cx=0.42, cy=0.38, r=0.62),
-                   linear("glass", (0, "#ffffff", 0.55), (1, "#ffffff", 0), x2=0.8, y2=1)),
+                   linear("glass", (0, "#ffffff", 0.5), (1, "#ffffff", 0), x2=0.8, y2=1)),
               circle(25.2, 25.4, 22.6, fill="#000000", fill_opacity=0.18),
               circle(24.6, 24.8, 22.8, fill="#000000", fill_opacity=0.2),
               circle(x, y, 22.5, fill="#4a3006"), circle(x, y, 22, fill="url(#rim)"),
-              circle(x, y, 19.6, fill="url(#bevel)"),
-              circle(x, y, 18.6, fill="url(#dial)"), *ticks,
-              *[hand(*h, dx=0.7, dy=0.9, fill="#000000", fill_opacity=0.25) for h in hands],
-              *[hand(*h, fill="#1c1a26", stroke="#1c1a26") for h in hands],
-              circle(x, y, 2.3, fill="#1c1a26"), circle(23.6, 23.6, 1.1, fill="#d9a63a"),
+              circle(x, y, 19.6, fill="url(#bevel)"), circle(x, y, 18.6, fill="url(#dial)"), *ticks,
               path("M9 24 A15.5 15.5 0 0 1 31 10.2 C23 12 15 16 9 24 Z", fill="url(#glass)"),
-              rect(7, 18, 11, 12, 1.6, fill="#8a8474"), rect(7, 18, 10.4, 11.4, 1.4, fill="#1c1a26"),
-              digit(face, 12.3, 23.8, 8.4, fill="#ffffff"))
+              hand(30 * face, (0, 1.4), (9.6, 2.9), (13.4, 0)), hand(0, (-2.5, 0.8), (16.6, 0.5)),
+              circle(x, y, 2.6, fill="#1b2350"), circle(x, y, 1.1, fill="#e8bc50"),
+              rect(7.3, 17.2, 13.2, 13.6, 2.2, fill="url(#rim)"), rect(8.3, 18.2, 11.2, 11.6, 1.4, fill="#141a3c"),
+              digit(face, 13.9, 24, 9, fill="#ffffff"))
 
 
 def digi():
@@ -97,22 +96,25 @@ def clouds():
 
     def cloud(x, y, w):
         k = w / 1.82
-        base = y + 0.42 * k
 
-        def shape(dx, dy, grow, fill):
-            return ("".join(circle(x + px * k + dx, y + py * k + dy, r * k + grow, fill=fill) for px, py, r in puffs) +
-                    rect(x - 0.78 * k + dx, base - 0.3 * k + dy - grow, 1.56 * k, 0.3 * k + 2 * grow, 0.15 * k,
-                         fill=fill))
-        lights = "".join(circle(x + px * k - r * k * 0.16, y + py * k - r * k * 0.18, r * k * 0.82,
-                                fill="#ffffff") for px, py, r in puffs)
-        return shape(0.5, 1.1, 0.25, "#0c4aa8") + shape(0, 0, 0, "#d3e4f8") + lights
+        def shape(dx, dy, grow, **style):
+            """All puffs and their flat ground as one outline: what overlaps isn't painted twice."""
+            d = f"M{num(x + dx - 0.62 * k)} {num(y + dy)}h{num(1.24 * k)}v{num(0.42 * k + grow)}h{num(-1.24 * k)}z"
+            for px, py, r in puffs:
+                r = r * k + grow
+                half = f"a{num(r)} {num(r)} 0 1 1"
+                d += f"M{num(x + dx + px * k - r)} {num(y + dy + py * k)}{half} {num(2 * r)} 0{half} {num(-2 * r)} 0z"
+            return path(d, **style)
+        shade = "".join(shape(0.3 * i, 0.7 * i, 0.9 - 0.35 * i, fill="#06286e", fill_opacity=0.17) for i in (0, 1, 2))
+        return shade + shape(0, 0, 0, fill="url(#cloud)")
 
-    width = {1: 33, 2: 22, 3: 18, 4: 18, 5: 16.5, 6: 17}
-    spread = {1: (0, 0), 2: (8.4, 9.4), 3: (10.8, 12.4), 4: (10.2, 9.5), 5: (11.6, 12.6), 6: (10.2, 12.6)}
+    width = {1: 32, 2: 21, 3: 16.5, 4: 16, 5: 13.6, 6: 13}
+    spread = {1: (0, 0), 2: (8.4, 9.4), 3: (10.8, 12), 4: (10, 9.5), 5: (11, 12), 6: (9.8, 12.2)}
     for face in FACES:
         write(HERE / f"{148 + face}.svg", 48, 48,
               defs(linear("rim", (0, "#d8ecff"), (0.5, "#6aa8ee"), (1, "#123c90"), x2=1),
-                   linear("sky", (0, "#1450c0"), (0.6, "#3f86e4"), (1, "#7db8f6"))),
+                   linear("sky", (0, "#1450c0"), (0.6, "#3580e0"), (1, "#6cacf2")),
+                   linear("cloud", (0, "#ffffff"), (0.6, "#ffffff"), (1, "#bfd6f0"))),
               shadow(0, 0, 44, 44, 9, 4, 0.09),
               rect(0, 0, 44, 44, 9, fill="url(#rim)"), rect(1.2, 1.2, 41.6, 41.6, 8, fill="url(#sky)"),
               *[cloud(x, y, width[face]) for x, y in pip_places(face, (22, 22), spread[face])],
@@ -120,13 +122,12 @@ def clouds():
 
 
 def marbles():
-    """Glass marbles with a swirl in the hollows of a wooden board."""
-    glass = {1: ("#1f7fd8", "#082458", "#ffd23c"), 2: ("#d8362c", "#560a10", "#ffe8e0"),
-             3: ("#1f9a4c", "#063a1c", "#fff07a"),
-             4: ("#c8500c", "#4a1c02", "#ffe0a0"), 5: ("#7440d0", "#260a58", "#8ff0ff"),
-             6: ("#0c8a98", "#02343f", "#ffb8a0")}
-    radius = {1: 12, 2: 8.4, 3: 6.9, 4: 7.8, 5: 6.5, 6: 5.9}
-    spread = {1: (0, 0), 2: (9, 9), 3: (11.5, 11.5), 4: (10, 10), 5: (11.8, 11.8), 6: (10, 13)}
+    """Glass marbles with a swirl, each in a dish turned into a board of pale wood."""
+    glass = {1: ("#1f7fd8", "#06204e", "#ffd23c"), 2: ("#d8362c", "#560a10", "#ffe8e0"),
+             3: ("#1c9048", "#04301a", "#fff07a"), 4: ("#414a5e", "#0c0e16", "#ffb84a"),
+             5: ("#7440d0", "#220850", "#8ff0ff"), 6: ("#0c8a98", "#022c36", "#ffc4b0")}
+    radius = {1: 11.5, 2: 8, 3: 6.3, 4: 7.2, 5: 6, 6: 5.3}
+    spread = {1: (0, 0), 2: (9.2, 9.2), 3: (12.1, 12.1), 4: (10, 10), 5: (11.9, 11.9), 6: (9.8, 13.2)}
     for face in FACES:
         lit, deep, band = glass[face]
         hand = random.Random(f"marbles {face}")
@@ -134,36 +135,33 @@ def marbles():
         def marble(x, y, r):
             def at(px, py):
                 return f"{num(px * r)} {num(py * r)}"
-            swirl = (f"M{at(-0.75, 0.5)} C{at(-0.35, -0.1)} {at(0.05, 0.75)} {at(0.35, 0.05)} "
-                     f"C{at(0.5, -0.3)} {at(0.62, -0.5)} {at(0.72, -0.56)} "
-                     f"C{at(0.95, -0.1)} {at(0.72, 0.62)} {at(0.28, 0.74)} "
-                     f"C{at(-0.05, 0.85)} {at(-0.4, 0.72)} {at(-0.75, 0.5)} Z")
-            thin = f"M{at(-0.85, 0.1)} C{at(-0.4, -0.5)} {at(0.1, 0.25)} {at(0.5, -0.72)}"
-            return (circle(x, y, r + 1, fill="#3a1e06", fill_opacity=0.75) +
-                    path(f"M{num(x - r * 0.9)} {num(y + r * 0.75)} A{num(r + 0.9)} {num(r + 0.9)} 0 0 0 "
-                         f"{num(x + r * 0.75)} {num(y + r * 0.9)}",
-                         fill="none", stroke="#ffdca6", stroke_opacity=0.6, stroke_width=0.8) +
+            swirl = (f"M{at(-0.92, -0.12)} C{at(-0.4, -0.85)} {at(0.15, 0.7)} {at(0.92, -0.05)} "
+                     f"C{at(0.4, 1.15)} {at(-0.3, 0)} {at(-0.92, -0.12)} Z")
+            thin = f"M{at(-0.8, 0.35)} C{at(-0.3, 0.2)} {at(0.05, 0.95)} {at(0.55, 0.62)}"
+            return (circle(x, y, r + 1.7, fill="url(#dish)") + circle(x + 0.2, y + 0.3, r + 0.6, fill="#1c0c02") +
                     circle(x, y, r, fill="url(#m)") +
-                    group(path(swirl, fill=band, fill_opacity=0.8),
-                          path(thin, fill="none", stroke="#ffffff", stroke_opacity=0.75, stroke_width=r * 0.13,
+                    group(path(swirl, fill=band, fill_opacity=0.9),
+                          path(thin, fill="none", stroke="#ffffff", stroke_opacity=0.6, stroke_width=r * 0.11,
                                stroke_linecap="round"),
-                          transform=f"translate({num(x)} {num(y)}) rotate({hand.randrange(-35, 35)})") +
+                          transform=f"translate({num(x)} {num(y)}) rotate({hand.randrange(-40, 40)})") +
                     circle(x, y, r, fill="url(#shade)") +
-                    ellipse(x - r * 0.36, y - r * 0.42, r * 0.3, r * 0.22, fill="#ffffff", fill_opacity=0.95))
+                    ellipse(x - r * 0.36, y - r * 0.42, r * 0.32, r * 0.22, fill="#ffffff", fill_opacity=0.95,
+                            transform=f"rotate(-35 {num(x - r * 0.36)} {num(y - r * 0.42)})"))
 
         def vein(y):
             places = [(x, y + hand.uniform(0, 1.5) + hand.uniform(-1, 1)) for x in (1.5, 12, 22, 32, 42.5)]
-            return path(smooth(places, closed=False), fill="none", stroke="#8a5a26", stroke_opacity=0.28,
+            return path(smooth(places, closed=False), fill="none", stroke="#a8783c", stroke_opacity=0.22,
                         stroke_width=hand.uniform(0.5, 1.1))
 
         write(HERE / f"{154 + face}.svg", 48, 48,
-              defs(linear("rim", (0, "#fff0d0"), (0.5, "#c89a5c"), (1, "#6e4418"), x2=1),
-                   linear("wood", (0, "#f0d2a0"), (0.5, "#dfb67c"), (1, "#bd8c50"), x2=1),
-                   radial("m", (0, mix(lit, "#ffffff", 0.35)), (0.55, lit), (1, deep), cx=0.5, cy=0.55, r=0.55),
-                   radial("shade", (0, deep, 0), (0.7, deep, 0.08), (1, deep, 0.85), cx=0.42, cy=0.42, r=0.6)),
+              defs(linear("rim", (0, "#fffaf0"), (0.5, "#d8b888"), (1, "#84582a"), x2=1),
+                   linear("wood", (0, "#fff2da"), (0.5, "#f6e0ba"), (1, "#e2c292"), x2=1),
+                   linear("dish", (0, "#3c1c06"), (0.5, "#7a4a1e"), (1, "#ffefd0"), x2=0.7),
+                   radial("m", (0, mix(lit, "#ffffff", 0.4)), (0.6, lit), (1, deep), cx=0.55, cy=0.6, r=0.6),
+                   radial("shade", (0, deep, 0), (0.7, deep, 0.08), (1, deep, 0.85), cx=0.45, cy=0.45, r=0.57)),
               shadow(0, 0, 44, 44, 7, 4, 0.09),
               rect(0, 0, 44, 44, 7, fill="url(#rim)"), rect(1.2, 1.2, 41.6, 41.6, 6, fill="url(#wood)"),
-              *[vein(2 + 4.4 * i) for i in range(10)],
+              *[vein(3 + 5.4 * i) for i in range(8)],
               *[marble(x, y, radius[face]) for x, y in pip_places(face, (22, 22), spread[face])],
               left=MARGIN)
 
@@ -199,29 +197,29 @@ def billiards():
 
 
 def bubbles():
-    """Bubbles inside a cube of clear water."""
+    """Bubbles of air that rise in a cube of deep water."""
     def bubble(x, y, r):
-        return (circle(x + 0.4, y + 0.6, r + 0.5, fill="#00285c", fill_opacity=0.55) + circle(x, y, r, fill="url(#b)") +
-                circle(x, y, r - 0.4, fill="none", stroke="#ffffff", stroke_opacity=0.95, stroke_width=0.9) +
-                path(f"M{num(x + r * 0.62)} {num(y + r * 0.02)} A{num(r * 0.64)} {num(r * 0.64)} 0 0 1 "
-                     f"{num(x - r * 0.05)} {num(y + r * 0.64)}",
-                     fill="none", stroke="#ffffff", stroke_opacity=0.9, stroke_width=r * 0.16, stroke_linecap="round") +
-                ellipse(x - r * 0.36, y - r * 0.4, r * 0.32, r * 0.22, fill="#ffffff",
-                        transform=f"rotate(-40 {num(x - r * 0.36)} {num(y - r * 0.4)})"))
+        return (circle(x, y, r, fill="url(#b)") +
+                circle(x, y, r - 0.5, fill="none", stroke="#ffffff", stroke_width=1.1) +
+                path(f"M{num(x + r * 0.6)} {num(y + r * 0.05)} A{num(r * 0.62)} {num(r * 0.62)} 0 0 1 "
+                     f"{num(x + r * 0.02)} {num(y + r * 0.62)}",
+                     fill="none", stroke="#ffffff", stroke_opacity=0.85, stroke_width=r * 0.16,
+                     stroke_linecap="round") +
+                ellipse(x - r * 0.34, y - r * 0.38, r * 0.32, r * 0.22, fill="#ffffff",
+                        transform=f"rotate(-40 {num(x - r * 0.34)} {num(y - r * 0.38)})"))
 
-    radius = {1: 10.5, 2: 7.6, 3: 6.3, 4: 6.6, 5: 5.7, 6: 5.5}
-    spread = {1: (0, 0), 2: (9.5, 9.5), 3: (11.3, 11.3), 4: (10, 10), 5: (11.6, 11.6), 6: (10, 12.2)}
+    radius = {1: 10, 2: 7.4, 3: 6.2, 4: 6.5, 5: 5.6, 6: 5.4}
+    spread = {1: (0, 0), 2: (9.2, 9.2), 3: (11, 11), 4: (9.8, 9.8), 5: (11.2, 11.2), 6: (9.8, 12)}
     for face in FACES:
         write(HERE / f"{172 + face}.svg", 48, 48,
-              defs(linear("rim", (0, "#ffffff"), (0.45, "#7cc4ff"), (1, "#cfeaff"), x2=1),
-                   linear("water", (0, "#2a8ce0"), (0.5, "#0a58b0"), (1, "#063a84"), x2=1),
-                   radial("glow", (0, "#b8f4ff", 0.55), (1, "#b8f4ff", 0), cx=0.8, cy=0.85, r=0.55),
-                   radial("b", (0, "#dff6ff", 0.2), (0.55, "#8fdcff", 0.45), (0.8, "#ffd8f6", 0.75),
-                          (1, "#f2fdff", 0.95), cx=0.55, cy=0.58, r=0.55)),
+              defs(linear("rim", (0, "#ffffff"), (0.6, "#f2f9ff"), (1, "#b4d4f0"), x2=1),
+                   linear("water", (0, "#0c4c94"), (0.5, "#06306c"), (1, "#021a44"), x2=1),
+                   radial("glow", (0, "#38b0ff", 0.5), (1, "#38b0ff", 0), cx=0.8, cy=0.88, r=0.6),
+                   radial("b", (0, "#9fdcff", 0.3), (0.6, "#8fd4ff", 0.5), (1, "#eefaff", 0.9), cx=0.55, cy=0.58,
+                          r=0.55)),
               shadow(0, 0, 44, 44, 13, 4, 0.09),
-              rect(0, 0, 44, 44, 13, fill="#04306c"), rect(0.6, 0.6, 42.8, 42.8, 12.6, fill="url(#rim)"),
-              rect(1.9, 1.9, 40.2, 40.2, 11.4, fill="url(#water)"), rect(1.9, 1.9, 40.2, 40.2, 11.4, fill="url(#glow)"),
-              path("M4.6 21 V14 Q4.6 4.6 14 4.6 H24 Q9 7 4.6 21 Z", fill="#ffffff", fill_opacity=0.5),
+              rect(0, 0, 44, 44, 13, fill="url(#rim)"),
+              *[rect(2.2, 2.2, 39.6, 39.6, 10.8, fill=f"url(#{fill})") for fill in ("water", "glow")],
               *[bubble(x, y, radius[face]) for x, y in pip_places(face, (22, 22), spread[face])],
               left=MARGIN)
 
