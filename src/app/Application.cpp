@@ -14,9 +14,10 @@
 #include "app/frmHighRollers.h"
 #include "app/frmViewHRListYN.h"
 #include "app/frmWelcome.h"
+#include "sound/SoundFiles.h"
 #include "storage/DayNumber.h"
 #include "table/DiceSets.h"
-#include "table/SoundFiles.h"
+#include "widgets/Boxes.h"
 
 namespace blunko {
 
@@ -70,9 +71,6 @@ void Application::ExtractSounds() {
   for (int Id = FirstSound; Id <= LastSound; ++Id) {
     ExtractResource(Id, QStringLiteral("CUSTOM"), folders.Temp + FileOfSound(Id));
   }
-  Screen.PlayFile = [this](const QString& File, bool Always) {
-    if (Always || !Settings.SoundDisabled()) Player.Play(File);
-  };
 }
 
 /// Makes the table's window, dresses it as the settings say, and connects it with the rest.
@@ -85,17 +83,15 @@ void Application::LoadForm() {
   Form->CentreOnScreen();
   Rollers.LoadHighRollers();
 
-  Form->OnCommand.FirstShown = [this] { Form_Activate(); };
-  Form->OnCommand.Options = [this] { Options().cmdOptions_Click(); };
-  Form->OnCommand.HighRollers = [this] { ViewLists(); };
-  Form->OnCommand.HowToPlay = [this] { ShowHelpTopic(QStringLiteral("PlayingBlunko.htm")); };
-  Form->OnCommand.GoHelp = [this] { ShowHelpTopic(QStringLiteral("Overview.htm")); };
-  Form->OnCommand.About = [this] { frmAbout(folders, Settings, Screen, Form.get()).exec(); };
-  QObject::connect(Form.get(), &frmMain::minimised, Form.get(), [this] { Form_Resize(); });
-  Screen.ShowControls = [this] { Form->ShowControls(); };
-  Screen.ShowPointer = [this](MousePointer Pointer) {
-    Pointer == MousePointer::Hourglass ? Form->setCursor(Qt::WaitCursor) : Form->unsetCursor();
-  };
+  const auto On = [this](auto Signal, auto Run) { QObject::connect(Form.get(), Signal, Form.get(), Run); };
+  On(&frmMain::firstShown, [this] { Form_Activate(); });
+  On(&frmMain::minimised, [this] { Form_Resize(); });
+  On(&frmMain::optionsAsked, [this] { Options().cmdOptions_Click(); });
+  On(&frmMain::highRollersAsked, [this] { ViewLists(); });
+  On(&frmMain::howToPlayAsked, [this] { ShowHelpTopic(QStringLiteral("PlayingBlunko.htm")); });
+  On(&frmMain::helpAsked, [this] { ShowHelpTopic(QStringLiteral("Overview.htm")); });
+  On(&frmMain::aboutAsked, [this] { frmAbout(folders, Settings, Screen, Form.get()).exec(); });
+  Screen.ShowOn(*Form);
 }
 
 /// Asked once in the life of an installation, whatever the answer.
@@ -166,7 +162,7 @@ frmScorePad& Application::ScorePad() {
 OptionsPanel& Application::Options() {
   if (options == nullptr) {
     options = new OptionsPanel(*Form, Table, Settings, folders.Shipped(QStringLiteral("Background")));
-    options->OnCustomizeSounds = [this] { CustomizeSounds(); };
+    QObject::connect(options, &OptionsPanel::customizeSoundsAsked, options, [this] { CustomizeSounds(); });
   }
   return *options;
 }
@@ -200,7 +196,7 @@ void Application::CheckWhoopin(const std::string& Name, std::int16_t Margin) {
 }
 
 QString Application::AskName(const QString& Prompt, const QString& Title, const QString& Preset) {
-  return QtDesktop::InputBox(Prompt, Title, Preset);
+  return AskText(Form.get(), Prompt, Title, Preset);
 }
 
 void Application::AskToView() { frmViewHRListYN(State, Screen, InfoFile, Form.get()).exec(); }

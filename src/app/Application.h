@@ -4,17 +4,17 @@
 
 #include "app/HelpWindow.h"
 #include "app/HighRollersCheck.h"
+#include "app/QtDesktop.h"
+#include "app/SettingsView.h"
 #include "app/frmNewGame.h"
 #include "bots/ComputerPlayers.h"
 #include "engine/Game.h"
+#include "sound/Sounds.h"
 #include "storage/Folders.h"
 #include "storage/GameSettings.h"
 #include "storage/HighRollers.h"
 #include "storage/IniInfo.h"
 #include "table/OptionsPanel.h"
-#include "table/QtDesktop.h"
-#include "table/SettingsView.h"
-#include "table/Sounds.h"
 #include "table/frmMain.h"
 #include "table/frmScorePad.h"
 #include "util/TbkUtil.h"
@@ -57,8 +57,8 @@ class Application : public Program, private HighRollersScreen {
   SettingsView View{Settings};
   Module1 State;
   TableControls Controls;
-  QtDesktop Screen;
   Sounds Player;
+  QtDesktop Screen{Player, View};
   std::unique_ptr<NumberSource> Numbers;
   UniformGenerator Uniform;
   Game Table;

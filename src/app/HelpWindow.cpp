@@ -17,8 +17,8 @@
 #include <QWindow>
 
 #include "app/OpenInShell.h"
-#include "table/Fonts.h"
-#include "table/Pictures.h"
+#include "widgets/Fonts.h"
+#include "widgets/Pictures.h"
 
 namespace blunko {
 
@@ -47,10 +47,11 @@ QVariant HelpPage::loadResource(int Type, const QUrl& Address) {
     return RenderSvg(File, devicePixelRatioF());
   }
   if (Type == QTextDocument::HtmlResource && !QFileInfo(File).isFile()) {
-    return tr("<h1>This page is missing</h1><p>The help page <b>%1</b> should lie in the "
-              "folder</p><p><code>%2</code></p>"
-              "<p>but isn't there. Installing the game once more brings it back; the game itself plays on without "
-              "it.</p>")
+    return QStringLiteral(
+               "<h1>This page is missing</h1><p>The help page <b>%1</b> should lie in the "
+               "folder</p><p><code>%2</code></p>"
+               "<p>but isn't there. Installing the game once more brings it back; the game itself plays on without "
+               "it.</p>")
         .arg(QFileInfo(File).fileName().toHtmlEscaped(),
              QDir::toNativeSeparators(QFileInfo(File).path()).toHtmlEscaped());
   }
@@ -80,7 +81,7 @@ void HelpWindow::Build() {
   };
   Contents = new QTreeWidget(this);
   Contents->setObjectName(QStringLiteral("Contents"));
-  Contents->setAccessibleName(tr("Contents"));
+  Contents->setAccessibleName(QStringLiteral("Contents"));
   Contents->setHeaderHidden(true);
   Contents->setIndentation(14);
   Contents->setTextElideMode(Qt::ElideRight);
@@ -96,16 +97,20 @@ void HelpWindow::Build() {
   Colours.setColor(QPalette::HighlightedText, Ink);
   Page->setPalette(Colours);
 
-  cmdBack = Button("cmdBack", tr("Back"), tr("The page before (Alt+Left)"), [this] { Page->backward(); });
-  cmdForward = Button("cmdForward", tr("Forward"), tr("The page after (Alt+Right)"), [this] { Page->forward(); });
+  cmdBack = Button("cmdBack", QStringLiteral("Back"), QStringLiteral("The page before (Alt+Left)"),
+                   [this] { Page->backward(); });
+  cmdForward = Button("cmdForward", QStringLiteral("Forward"), QStringLiteral("The page after (Alt+Right)"),
+                      [this] { Page->forward(); });
   txtFind = new QLineEdit(this);
   txtFind->setObjectName(QStringLiteral("txtFind"));
-  txtFind->setPlaceholderText(tr("Find (Ctrl+F)"));
-  txtFind->setAccessibleName(tr("Find"));
+  txtFind->setPlaceholderText(QStringLiteral("Find (Ctrl+F)"));
+  txtFind->setAccessibleName(QStringLiteral("Find"));
   txtFind->setClearButtonEnabled(true);
   txtFind->setFixedWidth(190);
-  cmdFindPrevious = Button("cmdFindPrevious", tr("Previous"), tr("Find backward (Shift+F3)"), [this] { Find(true); });
-  cmdFindNext = Button("cmdFindNext", tr("Next"), tr("Find again (F3)"), [this] { Find(false); });
+  cmdFindPrevious = Button("cmdFindPrevious", QStringLiteral("Previous"), QStringLiteral("Find backward (Shift+F3)"),
+                           [this] { Find(true); });
+  cmdFindNext =
+      Button("cmdFindNext", QStringLiteral("Next"), QStringLiteral("Find again (F3)"), [this] { Find(false); });
   lblFound = new QLabel(this);
   lblFound->setObjectName(QStringLiteral("lblFound"));
 
@@ -246,7 +251,7 @@ void HelpWindow::Find(bool Backward) {
     Page->find(Wanted, Flags);
     return;
   }
-  lblFound->setText(tr("Not found"));
+  lblFound->setText(QStringLiteral("Not found"));
 }
 
 bool HelpWindow::event(QEvent* Event) {

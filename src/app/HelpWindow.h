@@ -4,7 +4,7 @@
 #include <QTextBrowser>
 #include <QWidget>
 
-#include "table/ButtonPlus.h"
+#include "widgets/ButtonPlus.h"
 
 class QLabel;
 class QLineEdit;

@@ -8,8 +8,8 @@
 #include "app/OpenInShell.h"
 #include "app/Texts.h"
 #include "app/frmCredits.h"
-#include "table/Fonts.h"
-#include "table/QtDesktop.h"
+#include "widgets/Boxes.h"
+#include "widgets/Fonts.h"
 
 namespace blunko {
 
@@ -77,8 +77,8 @@ frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& S
     Made->setAutoDefault(true);
     return Made;
   };
-  cmdOK = Button("cmdOK", tr("OK"));
-  cmdCredits = Button("cmdCredits", tr("Credits"));
+  cmdOK = Button("cmdOK", QStringLiteral("OK"));
+  cmdCredits = Button("cmdCredits", QStringLiteral("Credits"));
   cmdOK->setDefault(true);
   connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
   connect(cmdCredits, &QPushButton::clicked, this, [this] { frmCredits(this).exec(); });

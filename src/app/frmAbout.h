@@ -6,9 +6,9 @@
 #include "engine/Desktop.h"
 #include "storage/Folders.h"
 #include "storage/GameSettings.h"
-#include "table/ButtonPlus.h"
-#include "table/FitLabel.h"
-#include "table/Pictures.h"
+#include "widgets/ButtonPlus.h"
+#include "widgets/FitLabel.h"
+#include "widgets/Pictures.h"
 
 namespace blunko {
 

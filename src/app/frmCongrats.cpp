@@ -6,10 +6,10 @@
 
 #include <utility>
 
-#include "table/Colours.h"
-#include "table/Fonts.h"
-#include "table/Twips.h"
 #include "table/frmMain.h"
+#include "widgets/Colours.h"
+#include "widgets/Fonts.h"
+#include "widgets/Twips.h"
 
 namespace blunko {
 
@@ -37,7 +37,7 @@ frmCongrats::frmCongrats(Game& Table, frmMain& Main) : PlacedDialog(&Main), game
   Image1->setObjectName(QStringLiteral("Image1"));
   Image1->setGeometry(QRect(QPoint((width() - Image1->sizeHint().width()) / 2, GreetingTop), Image1->sizeHint()));
 
-  lblWinner = new FitLabel(tr("Engraving..."), this);
+  lblWinner = new FitLabel(QStringLiteral("Engraving..."), this);
   lblWinner->setObjectName(QStringLiteral("lblWinner"));
   lblWinner->setGeometry(TwipsRect(1695, 6120, 2565, 375));
   lblWinner->setFont(FontOf(Typeface::ComicSans, 14.25, true));
@@ -61,9 +61,9 @@ frmCongrats::frmCongrats(Game& Table, frmMain& Main) : PlacedDialog(&Main), game
     });
     return Made;
   };
-  cmdSameGame = AddButton("cmdSameGame", tr("Same Game"), 150, "SameGame", true);
-  cmdDifferentGame = AddButton("cmdDifferentGame", tr("Different Game"), 2070, "DifferentGame", true);
-  cmdQuit = AddButton("cmdQuit", tr("Quit"), 3990, "Quit", false);
+  cmdSameGame = AddButton("cmdSameGame", QStringLiteral("Same Game"), 150, "SameGame", true);
+  cmdDifferentGame = AddButton("cmdDifferentGame", QStringLiteral("Different Game"), 2070, "DifferentGame", true);
+  cmdQuit = AddButton("cmdQuit", QStringLiteral("Quit"), 3990, "Quit", false);
   cmdSameGame->setBackColor(QColor(0, 0, 225));
   cmdDifferentGame->setBackColor(QColor(0, 0, 225));
   cmdQuit->setBackColor(QColor(0, 128, 255));

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "engine/Game.h"
-#include "table/ButtonPlus.h"
-#include "table/FitLabel.h"
-#include "table/Pictures.h"
-#include "table/PlacedDialog.h"
+#include "widgets/ButtonPlus.h"
+#include "widgets/FitLabel.h"
+#include "widgets/Pictures.h"
+#include "widgets/PlacedDialog.h"
 
 namespace blunko {
 

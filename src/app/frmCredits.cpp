@@ -8,9 +8,9 @@
 
 #include "Links.h"
 #include "app/Texts.h"
-#include "table/Colours.h"
-#include "table/Fonts.h"
-#include "table/QtDesktop.h"
+#include "widgets/Boxes.h"
+#include "widgets/Colours.h"
+#include "widgets/Fonts.h"
 
 namespace blunko {
 
@@ -52,7 +52,7 @@ frmCredits::frmCredits(QWidget* Owner) : QDialog(Owner) {
   picScroll->setFixedSize(ScrollSize);
   picScroll->setAccessibleName(CreditsText());
   picScroll->Text = CreditsText();
-  cmdOK = new ButtonPlus(tr("OK"), this);
+  cmdOK = new ButtonPlus(QStringLiteral("OK"), this);
   cmdOK->setObjectName(QStringLiteral("cmdOK"));
   cmdOK->setMinimumWidth(110);
   cmdOK->setDefault(true);
@@ -91,7 +91,7 @@ void frmCredits::ScrollCredits() {
   if (!isVisible()) return;
   textHeight = picScroll->TextHeight();
   if (textHeight == 0) {
-    QMessageBox::warning(this, ProductName, tr("Error scrolling text"));
+    QMessageBox::warning(this, ProductName, QStringLiteral("Error scrolling text"));
     reject();
     return;
   }

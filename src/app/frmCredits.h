@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QTimer>
 
-#include "table/ButtonPlus.h"
+#include "widgets/ButtonPlus.h"
 
 namespace blunko {
 

@@ -7,8 +7,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 
-#include "table/Fonts.h"
 #include "table/KeyCodes.h"
+#include "widgets/Fonts.h"
 
 namespace blunko {
 
@@ -41,8 +41,8 @@ frmCustomizeSounds::frmCustomizeSounds(Game& Table, GameSettings& Options, QWidg
   setWindowTitle(QStringLiteral("Customize Sounds"));
   setFont(FontOf(Typeface::Verdana, 8.25));
   PickFile = [this](const QString& Title) {
-    const QString Path =
-        QFileDialog::getOpenFileName(this, Title, QFile::decodeName(ChosenFile().c_str()), tr("Wav Files (*.wav)"));
+    const QString Path = QFileDialog::getOpenFileName(this, Title, QFile::decodeName(ChosenFile().c_str()),
+                                                      QStringLiteral("Wav Files (*.wav)"));
     return Path.isEmpty() ? NothingPicked : Path;
   };
   Build();
@@ -63,10 +63,10 @@ void frmCustomizeSounds::Build() {
   lstEvents->setMinimumWidth(ListWidth);
   txtSound = new QLineEdit(this);
   txtSound->setReadOnly(true);
-  cmdBrowse = new ButtonPlus(tr("Browse..."), this);
-  cmdTest = new ButtonPlus(tr("Test"), this);
-  cmdOK = new ButtonPlus(tr("OK"), this);
-  cmdCancel = new ButtonPlus(tr("Cancel"), this);
+  cmdBrowse = new ButtonPlus(QStringLiteral("Browse..."), this);
+  cmdTest = new ButtonPlus(QStringLiteral("Test"), this);
+  cmdOK = new ButtonPlus(QStringLiteral("OK"), this);
+  cmdCancel = new ButtonPlus(QStringLiteral("Cancel"), this);
   cmdOK->setDefault(true);
 
   const auto Caption = [this](const QString& Text, QWidget* Buddy) {
@@ -74,7 +74,7 @@ void frmCustomizeSounds::Build() {
     Made->setBuddy(Buddy);
     return Made;
   };
-  auto* Hint = new QLabel(tr("[Hit Backspace to restore defaults]"), this);
+  auto* Hint = new QLabel(QStringLiteral("[Hit Backspace to restore defaults]"), this);
   Hint->setAlignment(Qt::AlignCenter);
   auto* Buttons = new QVBoxLayout;
   Buttons->setSpacing(4);
@@ -87,10 +87,10 @@ void frmCustomizeSounds::Build() {
   Places->setContentsMargins(12, 10, 12, 10);
   Places->setHorizontalSpacing(12);
   Places->setVerticalSpacing(4);
-  Places->addWidget(Caption(tr("Event:"), lstEvents), 0, 0);
+  Places->addWidget(Caption(QStringLiteral("Event:"), lstEvents), 0, 0);
   Places->addWidget(lstEvents, 1, 0);
   Places->setRowMinimumHeight(2, 4);
-  Places->addWidget(Caption(tr("Sound:"), txtSound), 3, 0);
+  Places->addWidget(Caption(QStringLiteral("Sound:"), txtSound), 3, 0);
   Places->addWidget(txtSound, 4, 0);
   Places->addLayout(Buttons, 1, 1, 4, 1);
   Places->setRowMinimumHeight(5, 4);

@@ -6,8 +6,8 @@
 
 #include "engine/Game.h"
 #include "storage/GameSettings.h"
-#include "table/ButtonPlus.h"
-#include "table/PlacedDialog.h"
+#include "widgets/ButtonPlus.h"
+#include "widgets/PlacedDialog.h"
 
 class QLineEdit;
 class QListWidget;

@@ -6,8 +6,8 @@
 #include <QVBoxLayout>
 
 #include "storage/NameRule.h"
-#include "table/Colours.h"
-#include "table/Fonts.h"
+#include "widgets/Colours.h"
+#include "widgets/Fonts.h"
 
 namespace blunko {
 

@@ -2,10 +2,10 @@
 
 #include "engine/Desktop.h"
 #include "storage/HighRollers.h"
-#include "table/ButtonPlus.h"
-#include "table/LinkLabel.h"
-#include "table/Pictures.h"
-#include "table/PlacedDialog.h"
+#include "widgets/ButtonPlus.h"
+#include "widgets/LinkLabel.h"
+#include "widgets/Pictures.h"
+#include "widgets/PlacedDialog.h"
 
 class QLabel;
 class QPlainTextEdit;

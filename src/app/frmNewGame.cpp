@@ -12,9 +12,9 @@
 #include <QVBoxLayout>
 
 #include "storage/NameRule.h"
-#include "table/Fonts.h"
-#include "table/NameValidator.h"
-#include "table/Twips.h"
+#include "widgets/Fonts.h"
+#include "widgets/NameValidator.h"
+#include "widgets/Twips.h"
 
 namespace blunko {
 
@@ -55,14 +55,16 @@ void frmNewGame::Build() {
   };
   auto* Choices = new QHBoxLayout;
   Choices->setSpacing(6);
-  Choices->addWidget(
-      Frame(
-          tr("Number of Players:"), optNumPlayers, [](int i) { return QString::fromLatin1(CountWords[i]); }, 4),
-      1);
   Choices->addWidget(Frame(
-      tr("Play to:"), optPlayTo, [](int i) { return i == 0 ? tr("5000") : tr("10000"); }, 1));
+                         QStringLiteral("Number of Players:"), optNumPlayers,
+                         [](int i) { return QString::fromLatin1(CountWords[i]); }, 4),
+                     1);
   Choices->addWidget(Frame(
-      tr("\"Break In\" Score:"), optBreakIn, [](int i) { return i == 0 ? tr("500") : tr("1000"); }, 1));
+      QStringLiteral("Play to:"), optPlayTo,
+      [](int i) { return i == 0 ? QStringLiteral("5000") : QStringLiteral("10000"); }, 1));
+  Choices->addWidget(Frame(
+      QStringLiteral("\"Break In\" Score:"), optBreakIn,
+      [](int i) { return i == 0 ? QStringLiteral("500") : QStringLiteral("1000"); }, 1));
   Outer->addLayout(Choices);
 
   auto* Seats = new QGridLayout;
@@ -76,19 +78,19 @@ void frmNewGame::Build() {
     Made->setFont(Bold);
     Seats->addWidget(Made, 0, Column);
   };
-  Heading(tr("Name"), 0);
-  Heading(tr("Computer Player?"), 1);
-  Heading(tr("Computer Style"), 2);
+  Heading(QStringLiteral("Name"), 0);
+  Heading(QStringLiteral("Computer Player?"), 1);
+  Heading(QStringLiteral("Computer Style"), 2);
   for (int i = 0; i < MaxSeats; ++i) {
     TxtPlayerName[i] = new QLineEdit(this);
     TxtPlayerName[i]->setMaxLength(LongestName);
     TxtPlayerName[i]->setValidator(new NameValidator(TxtPlayerName[i]));
-    TxtPlayerName[i]->setAccessibleName(tr("Name of player %1").arg(i + 1));
+    TxtPlayerName[i]->setAccessibleName(QStringLiteral("Name of player %1").arg(i + 1));
     TxtPlayerName[i]->installEventFilter(this);
     chkComputer[i] = new QCheckBox(this);
-    chkComputer[i]->setAccessibleName(tr("Player %1 is a computer").arg(i + 1));
+    chkComputer[i]->setAccessibleName(QStringLiteral("Player %1 is a computer").arg(i + 1));
     cboStyle[i] = new QComboBox(this);
-    cboStyle[i]->setAccessibleName(tr("Computer style of player %1").arg(i + 1));
+    cboStyle[i]->setAccessibleName(QStringLiteral("Computer style of player %1").arg(i + 1));
     for (const std::string_view Word : StyleWords) {
       cboStyle[i]->addItem(QString::fromLatin1(Word.data(), static_cast<qsizetype>(Word.size())));
     }
@@ -108,9 +110,9 @@ void frmNewGame::Build() {
   Outer->addLayout(Seats);
   Outer->addStretch(1);
 
-  cmdPlay = new ButtonPlus(tr("Play !!!"), this);
-  cmdCancel = new ButtonPlus(tr("Cancel"), this);
-  cmdSetDefault = new ButtonPlus(tr("Save Game Setup as Default"), this);
+  cmdPlay = new ButtonPlus(QStringLiteral("Play !!!"), this);
+  cmdCancel = new ButtonPlus(QStringLiteral("Cancel"), this);
+  cmdSetDefault = new ButtonPlus(QStringLiteral("Save Game Setup as Default"), this);
   cmdSetDefault->setToolTip(QStringLiteral(
       " Click here to make Tollmoor Blunko always start with this game setup (same players and scoring options.) "));
   cmdPlay->setDefault(true);
@@ -251,9 +253,9 @@ void frmNewGame::cmdSetDefault_Click() {
   constexpr int FeedbackTime = 400;  // ms
   ShownSetup().Save(info, settings);
   const QString Caption = cmdSetDefault->text();
-  cmdSetDefault->setText(tr("Saving..."));
+  cmdSetDefault->setText(QStringLiteral("Saving..."));
   game.desktop.Sleep(FeedbackTime);
-  cmdSetDefault->setText(tr("Done..."));
+  cmdSetDefault->setText(QStringLiteral("Done..."));
   game.desktop.Beep();
   game.desktop.Sleep(FeedbackTime);
   cmdSetDefault->setText(Caption);

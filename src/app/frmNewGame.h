@@ -5,8 +5,8 @@
 
 #include "engine/Game.h"
 #include "storage/SavedSetup.h"
-#include "table/ButtonPlus.h"
-#include "table/PlacedDialog.h"
+#include "widgets/ButtonPlus.h"
+#include "widgets/PlacedDialog.h"
 
 class QCheckBox;
 class QComboBox;

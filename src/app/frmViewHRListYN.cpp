@@ -6,8 +6,8 @@
 #include "app/HighRollersCheck.h"
 #include "storage/DayNumber.h"
 #include "storage/NameRule.h"
-#include "table/Colours.h"
-#include "table/Fonts.h"
+#include "widgets/Colours.h"
+#include "widgets/Fonts.h"
 
 namespace blunko {
 

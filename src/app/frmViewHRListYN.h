@@ -5,9 +5,9 @@
 #include "engine/Desktop.h"
 #include "engine/Module1.h"
 #include "storage/IniInfo.h"
-#include "table/ButtonPlus.h"
-#include "table/FitLabel.h"
-#include "table/TickBox.h"
+#include "widgets/ButtonPlus.h"
+#include "widgets/FitLabel.h"
+#include "widgets/TickBox.h"
 
 namespace blunko {
 

@@ -5,9 +5,9 @@
 
 #include "Links.h"
 #include "app/OpenInShell.h"
-#include "table/Fonts.h"
-#include "table/Pictures.h"
-#include "table/QtDesktop.h"
+#include "widgets/Boxes.h"
+#include "widgets/Fonts.h"
+#include "widgets/Pictures.h"
 
 namespace blunko {
 
@@ -43,18 +43,18 @@ frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, HelpCommand ShowHel
     return Made;
   };
   const auto Opens = [ShowHelpTopic](const char* Topic) { return [=] { ShowHelpTopic(QLatin1String(Topic)); }; };
-  cmdLearn = Button("cmdLearn", tr("How to Play Tollmoor Blunko"), Opens("PlayingBlunko.htm"));
-  cmdPoints = Button("cmdPoints", tr("Dice Point Values"), Opens("PlayingBlunko.htm#scoring"));
-  cmdTips = Button("cmdTips", tr("Blunko Tips && Tricks"), Opens("StrategyAndHints.htm"));
-  cmdWebSite = Button("cmdWebSite", tr("Visit Tollmoor Games's Web Site"), [] { OpenInShell(WebSite); });
-  cmdExit = Button("cmdExit", tr("Start Playing Blunko!"), &QDialog::accept);
+  cmdLearn = Button("cmdLearn", QStringLiteral("How to Play Tollmoor Blunko"), Opens("PlayingBlunko.htm"));
+  cmdPoints = Button("cmdPoints", QStringLiteral("Dice Point Values"), Opens("PlayingBlunko.htm#scoring"));
+  cmdTips = Button("cmdTips", QStringLiteral("Blunko Tips && Tricks"), Opens("StrategyAndHints.htm"));
+  cmdWebSite = Button("cmdWebSite", QStringLiteral("Visit Tollmoor Games's Web Site"), [] { OpenInShell(WebSite); });
+  cmdExit = Button("cmdExit", QStringLiteral("Start Playing Blunko!"), &QDialog::accept);
   cmdTips->setBackColor(TipsColour);
   cmdExit->setBackColor(ExitColour);
   cmdExit->setDefault(true);
 
   lblCheck = new TickBox(this);
   lblCheck->setObjectName(QStringLiteral("lblCheck"));
-  lblShowWelcome = new FitLabel(tr("Show this welcome window"), this);
+  lblShowWelcome = new FitLabel(QStringLiteral("Show this welcome window"), this);
   lblShowWelcome->setObjectName(QStringLiteral("lblShowWelcome"));
   lblShowWelcome->setFont(FontOf(Typeface::Verdana, 8.25));
   lblShowWelcome->setForeColor(palette().color(QPalette::WindowText));

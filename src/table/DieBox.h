@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "table/Pictures.h"
+#include "widgets/Pictures.h"
 
 namespace blunko {
 

@@ -9,9 +9,9 @@
 #include <QVBoxLayout>
 
 #include "table/DiceSets.h"
-#include "table/Fonts.h"
-#include "table/Twips.h"
 #include "table/frmMain.h"
+#include "widgets/Fonts.h"
+#include "widgets/Twips.h"
 
 namespace blunko {
 
@@ -71,39 +71,37 @@ void OptionsPanel::Build() {
     return Made;
   };
 
-  auto* Speed = Frame(tr("Speed:"));
-  const QString Speeds[] = {tr("Normal"), tr("Fast"), tr("Ridiculous")};
+  auto* Speed = Frame(QStringLiteral("Speed:"));
+  const QString Speeds[] = {QStringLiteral("Normal"), QStringLiteral("Fast"), QStringLiteral("Ridiculous")};
   for (int i = 0; i < 3; ++i) {
     optComputerSpeed[i] = Add(Speed, new QRadioButton(Speeds[i]), QStringLiteral("optComputerSpeed(%1)").arg(i));
   }
-  auto* Misc = Frame(tr("Misc:"));
-  chkSortDice = Add(Misc, new QCheckBox(tr("Sort Dice")), QStringLiteral("chkSortDice"));
-  chkMarkScorers = Add(Misc, new QCheckBox(tr("Mark Points")), QStringLiteral("chkMarkScorers"));
+  auto* Misc = Frame(QStringLiteral("Misc:"));
+  chkSortDice = Add(Misc, new QCheckBox(QStringLiteral("Sort Dice")), QStringLiteral("chkSortDice"));
+  chkMarkScorers = Add(Misc, new QCheckBox(QStringLiteral("Mark Points")), QStringLiteral("chkMarkScorers"));
 
-  auto* Sound = Frame(tr("Sound FX:"));
+  auto* Sound = Frame(QStringLiteral("Sound FX:"));
   auto* OnOff = new QHBoxLayout;
   for (const int i : {1, 0}) {
-    optSound[i] = new QRadioButton(i == 1 ? tr("On") : tr("Off"));
+    optSound[i] = new QRadioButton(i == 1 ? QStringLiteral("On") : QStringLiteral("Off"));
     optSound[i]->setObjectName(QStringLiteral("optSound(%1)").arg(i));
     OnOff->addWidget(optSound[i]);
   }
   Sound->addLayout(OnOff);
-  cmdCustomizeSounds = Add(Sound, new ButtonPlus(tr("Customize")), QStringLiteral("cmdCustomizeSounds"));
+  cmdCustomizeSounds = Add(Sound, new ButtonPlus(QStringLiteral("Customize")), QStringLiteral("cmdCustomizeSounds"));
   cmdCustomizeSounds->setFixedHeight(CommandHeight);
-  connect(cmdCustomizeSounds, &QPushButton::clicked, this, [this] {
-    if (OnCustomizeSounds) OnCustomizeSounds();
-  });
+  connect(cmdCustomizeSounds, &QPushButton::clicked, this, &OptionsPanel::customizeSoundsAsked);
 
-  auto* DiceFrame = Frame(tr("Dice:"));
+  auto* DiceFrame = Frame(QStringLiteral("Dice:"));
   cboDiceColor = Add(DiceFrame, new QComboBox, QStringLiteral("cboDiceColor"));
-  cboDiceColor->setAccessibleName(tr("Dice"));
+  cboDiceColor->setAccessibleName(QStringLiteral("Dice"));
   for (const char* Name : OfferedDiceSets()) cboDiceColor->addItem(QLatin1String(Name));
   cboDiceColor->setMaxVisibleItems(cboDiceColor->count());
   connect(cboDiceColor, &QComboBox::activated, this, &OptionsPanel::cboDiceColor_Click);
 
-  auto* Skin = Frame(tr("Background:"));
+  auto* Skin = Frame(QStringLiteral("Background:"));
   lstSkin = Add(Skin, new QListWidget, QStringLiteral("lstSkin"));
-  lstSkin->setAccessibleName(tr("Background"));
+  lstSkin->setAccessibleName(QStringLiteral("Background"));
   lstSkin->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstSkin->setMinimumHeight(60);
   connect(lstSkin, &QListWidget::currentRowChanged, this, &OptionsPanel::lstSkin_Click);
@@ -120,14 +118,14 @@ void OptionsPanel::Build() {
     if (Option != cmdCustomizeSounds) Option->setPalette(palette());  // a style sheet keeps it from being inherited
   }
 
-  auto* Text = Frame(tr("Text Color:"));
+  auto* Text = Frame(QStringLiteral("Text Color:"));
   auto* Grid = new QGridLayout;
   Grid->setSpacing(3);
   for (int i = 0; i < 8; ++i) {
     lblColor[i] = new Swatch(QColor(SwatchColours[i]), i == 0 || i == 4 ? Qt::white : Qt::black);
     lblColor[i]->setObjectName(QStringLiteral("lblColor(%1)").arg(i));
-    lblColor[i]->setAccessibleName(tr(ColourNames[i]));
-    lblColor[i]->setToolTip(tr(ColourNames[i]));
+    lblColor[i]->setAccessibleName(QLatin1String(ColourNames[i]));
+    lblColor[i]->setToolTip(QLatin1String(ColourNames[i]));
     Grid->addWidget(lblColor[i], i / 4, i % 4);
     connect(lblColor[i], &QAbstractButton::clicked, this, [this, i] { lblColor_Click(i); });
   }
@@ -141,8 +139,8 @@ void OptionsPanel::Build() {
     Outer->addWidget(Made);
     return Made;
   };
-  ARCmdSaveOptions = Command("ARCmdSaveOptions", tr("Save"));
-  ARCmdCancelOptions = Command("ARCmdCancelOptions", tr("Cancel"));
+  ARCmdSaveOptions = Command("ARCmdSaveOptions", QStringLiteral("Save"));
+  ARCmdCancelOptions = Command("ARCmdCancelOptions", QStringLiteral("Cancel"));
   connect(ARCmdSaveOptions, &QPushButton::clicked, this, &OptionsPanel::ARCmdSaveOptions_Click);
   connect(ARCmdCancelOptions, &QPushButton::clicked, this, &OptionsPanel::ARCmdCancelOptions_Click);
 }

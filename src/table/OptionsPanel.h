@@ -3,13 +3,12 @@
 #include <QWidget>
 
 #include <array>
-#include <functional>
 
 #include "engine/Game.h"
 #include "storage/GameSettings.h"
 #include "table/Backgrounds.h"
-#include "table/ButtonPlus.h"
 #include "table/Swatch.h"
+#include "widgets/ButtonPlus.h"
 
 class QCheckBox;
 class QComboBox;
@@ -38,9 +37,6 @@ class OptionsPanel : public QWidget {
   void ARCmdSaveOptions_Click();
   void ARCmdCancelOptions_Click();
 
-  /// Runs the sound dialog.
-  std::function<void()> OnCustomizeSounds;
-
   std::array<QRadioButton*, 3> optComputerSpeed;
   QCheckBox* chkSortDice;
   QCheckBox* chkMarkScorers;
@@ -51,6 +47,10 @@ class OptionsPanel : public QWidget {
   std::array<Swatch*, 8> lblColor;
   ButtonPlus* ARCmdSaveOptions;
   ButtonPlus* ARCmdCancelOptions;
+
+ signals:
+  /// The sounds are to be chosen, in a dialog over the panel.
+  void customizeSoundsAsked();
 
  private:
   void Build();

@@ -2,8 +2,8 @@
 
 #include <QPainter>
 
-#include "table/Colours.h"
-#include "table/TickBox.h"
+#include "widgets/Colours.h"
+#include "widgets/TickBox.h"
 
 namespace blunko {
 

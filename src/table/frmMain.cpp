@@ -11,9 +11,9 @@
 
 #include "engine/ScoreDice.h"
 #include "storage/GameSettings.h"
-#include "table/Fonts.h"
 #include "table/KeyCodes.h"
-#include "table/Twips.h"
+#include "widgets/Fonts.h"
+#include "widgets/Twips.h"
 
 namespace blunko {
 
@@ -94,7 +94,7 @@ void frmMain::PlaceControls() {
   Panel(picSampleDice, "picSampleDice", TwipsRect(TrayLeft, SampleTop, TrayWidth, TrayHeight));
   picSampleDice->setBackColor(QColor(0, 0, 128));
   picSampleDice->hide();
-  auto* lblSampleDice = new QLabel(tr("(Sample Dice)"), picSampleDice);
+  auto* lblSampleDice = new QLabel(QStringLiteral("(Sample Dice)"), picSampleDice);
   lblSampleDice->setObjectName(QStringLiteral("lblSampleDice"));
   lblSampleDice->setFont(FontOf(Typeface::Verdana, 11.25, true));
   lblSampleDice->setAlignment(Qt::AlignCenter);
@@ -117,12 +117,12 @@ void frmMain::PlaceControls() {
     Made->setFont(FontOf(Typeface::Verdana, 11.25, true));
     return Made;
   };
-  ARCmdNewGame = BigButton("ARCmdNewGame", tr("New Game"), 118);
-  cmdRoll = BigButton("cmdRoll", tr("Roll Dice"), 30);
-  cmdPassDice = BigButton("cmdPassDice", tr("Pass Dice"), 205);
-  cmdOptions = Button("cmdOptions", tr("Options"), QRect(11, 470, 119, 34));
-  cmdHighRollers = Button("cmdHighRollers", tr("High Rollers"), QRect(137, 470, 119, 34));
-  cmdExit = Button("cmdExit", tr("Exit"), QRect(263, 470, 119, 34));
+  ARCmdNewGame = BigButton("ARCmdNewGame", QStringLiteral("New Game"), 118);
+  cmdRoll = BigButton("cmdRoll", QStringLiteral("Roll Dice"), 30);
+  cmdPassDice = BigButton("cmdPassDice", QStringLiteral("Pass Dice"), 205);
+  cmdOptions = Button("cmdOptions", QStringLiteral("Options"), QRect(11, 470, 119, 34));
+  cmdHighRollers = Button("cmdHighRollers", QStringLiteral("High Rollers"), QRect(137, 470, 119, 34));
+  cmdExit = Button("cmdExit", QStringLiteral("Exit"), QRect(263, 470, 119, 34));
 
   const auto Text = [this](const char* Name, const QString& Caption, QRect Place, double Points, bool Bold,
                            Qt::Alignment Side) {
@@ -135,13 +135,13 @@ void frmMain::PlaceControls() {
   };
   lblStatus = Text("lblStatus", {}, QRect(6, Pixels(StatusTop), 381, 30), 15.75, false, Qt::AlignHCenter);
   lblLastRoll = Text("lblLastRoll", {}, QRect(6, 236, 381, 24), 11.25, true, Qt::AlignHCenter);
-  Label1 = Text("Label1", tr("Current Player:"), QRect(10, 300, 180, 26), 11.25, true, Qt::AlignRight);
+  Label1 = Text("Label1", QStringLiteral("Current Player:"), QRect(10, 300, 180, 26), 11.25, true, Qt::AlignRight);
   lblPlayer = Text("lblPlayer", {}, QRect(200, 300, 185, 26), 11.25, true, Qt::AlignLeft);
-  lblTurnScoreLabel =
-      Text("lblTurnScoreLabel", tr("Score This Turn:"), QRect(10, 330, 180, 26), 11.25, true, Qt::AlignRight);
+  lblTurnScoreLabel = Text("lblTurnScoreLabel", QStringLiteral("Score This Turn:"), QRect(10, 330, 180, 26), 11.25,
+                           true, Qt::AlignRight);
   lblTurnScore = Text("lblTurnScore", {}, QRect(200, 330, 185, 26), 11.25, true, Qt::AlignLeft);
-  lblMnuGame = Text("lblMnuGame", tr("Game"), QRect(12, 5, 38, 17), 8.25, false, Qt::AlignLeft);
-  lblMnuHelp = Text("lblMnuHelp", tr("Help"), QRect(60, 5, 34, 17), 8.25, false, Qt::AlignLeft);
+  lblMnuGame = Text("lblMnuGame", QStringLiteral("Game"), QRect(12, 5, 38, 17), 8.25, false, Qt::AlignLeft);
+  lblMnuHelp = Text("lblMnuHelp", QStringLiteral("Help"), QRect(60, 5, 34, 17), 8.25, false, Qt::AlignLeft);
   for (FitLabel* Menu : {lblMnuGame, lblMnuHelp}) {
     Menu->setCursor(Qt::PointingHandCursor);
     Menu->setFocusPolicy(Qt::TabFocus);
@@ -154,21 +154,19 @@ void frmMain::BuildMenus() {
     Made->setObjectName(QLatin1String(Name));
     connect(Made, &QAction::triggered, this, Run);
   };
-  const auto Call = [](const std::function<void()>& Command) {
-    if (Command) Command();
-  };
   mnuGame = new QMenu(this);
   mnuGame->setObjectName(QStringLiteral("mnuGame"));
-  Entry(mnuGame, "mnuNewGame", tr("&New Game  (F2)"), [this] { Handle([this] { game.mnuNewGame_Click(); }); });
-  Entry(mnuGame, "mnuOptions", tr("&Options..."), [this, Call] { Call(OnCommand.Options); });
+  Entry(mnuGame, "mnuNewGame", QStringLiteral("&New Game  (F2)"),
+        [this] { Handle([this] { game.mnuNewGame_Click(); }); });
+  Entry(mnuGame, "mnuOptions", QStringLiteral("&Options..."), [this] { emit optionsAsked(); });
   mnuGame->addSeparator()->setObjectName(QStringLiteral("mnuSep1"));
-  Entry(mnuGame, "mnuExit", tr("&Exit"), [this] { close(); });
+  Entry(mnuGame, "mnuExit", QStringLiteral("&Exit"), [this] { close(); });
   mnuHelpMe = new QMenu(this);
   mnuHelpMe->setObjectName(QStringLiteral("mnuHelpMe"));
-  Entry(mnuHelpMe, "mnuHowToPlay", tr("How to Play..."), [this, Call] { Call(OnCommand.HowToPlay); });
-  Entry(mnuHelpMe, "mnuGoHelp", tr("&Show Tollmoor Blunko Help..."), [this, Call] { Call(OnCommand.GoHelp); });
+  Entry(mnuHelpMe, "mnuHowToPlay", QStringLiteral("How to Play..."), [this] { emit howToPlayAsked(); });
+  Entry(mnuHelpMe, "mnuGoHelp", QStringLiteral("&Show Tollmoor Blunko Help..."), [this] { emit helpAsked(); });
   mnuHelpMe->addSeparator()->setObjectName(QStringLiteral("mnuSep99"));
-  Entry(mnuHelpMe, "mnuAbout", tr("About Tollmoor Blunko..."), [this, Call] { Call(OnCommand.About); });
+  Entry(mnuHelpMe, "mnuAbout", QStringLiteral("About Tollmoor Blunko..."), [this] { emit aboutAsked(); });
 }
 
 void frmMain::ConnectControls() {
@@ -186,12 +184,8 @@ void frmMain::ConnectControls() {
   connect(cmdPassDice, &QPushButton::clicked, this, [this] { Handle([this] { game.PersonPasses(); }); });
   connect(ARCmdNewGame, &QPushButton::clicked, this, [this] { Handle([this] { game.ARCmdNewGame_Click(); }); });
   connect(cmdExit, &QPushButton::clicked, this, [this] { close(); });
-  connect(cmdOptions, &QPushButton::clicked, this, [this] {
-    if (OnCommand.Options) OnCommand.Options();
-  });
-  connect(cmdHighRollers, &QPushButton::clicked, this, [this] {
-    if (OnCommand.HighRollers) OnCommand.HighRollers();
-  });
+  connect(cmdOptions, &QPushButton::clicked, this, &frmMain::optionsAsked);
+  connect(cmdHighRollers, &QPushButton::clicked, this, &frmMain::highRollersAsked);
   const auto PopUp = [this](FitLabel* Label, QMenu* Menu) {
     connect(Label, &FitLabel::clicked, this,
             [Label, Menu] { Menu->popup(Label->mapToGlobal(QPoint(0, Label->height()))); });
@@ -243,19 +237,25 @@ void frmMain::Show(FitLabel* Widget, const std::string& Caption, bool Visible, i
 
 /// What a screen reader says of the dice: "Die 3: five, scores".
 void frmMain::DescribeDice() {
-  static const std::array<QString, 7> Names{QString(),  tr("one"),  tr("two"), tr("three"),
-                                            tr("four"), tr("five"), tr("six")};
+  static const std::array<QString, 7> Names{QString(),
+                                            QStringLiteral("one"),
+                                            QStringLiteral("two"),
+                                            QStringLiteral("three"),
+                                            QStringLiteral("four"),
+                                            QStringLiteral("five"),
+                                            QStringLiteral("six")};
   const Module1& m = game.m;
   for (int i = 0; i < 6; ++i) {
-    QString Table = tr("Die %1: empty").arg(i + 1);
+    QString Table = QStringLiteral("Die %1: empty").arg(i + 1);
     if (m.ShownFace[i] != 0) {
-      Table = tr("Die %1: %2").arg(i + 1).arg(Names[static_cast<std::size_t>(m.ShownFace[i])]);
-      if (m.DieUp[i] && IsScorer(m.DieScoreCode[i])) Table += tr(", scores");
+      Table = QStringLiteral("Die %1: %2").arg(i + 1).arg(Names[static_cast<std::size_t>(m.ShownFace[i])]);
+      if (m.DieUp[i] && IsScorer(m.DieScoreCode[i])) Table += QStringLiteral(", scores");
     }
     Picture1[i]->setAccessibleName(Table);
     Picture1[6 + i]->setAccessibleName(
-        m.TrayFace[i] == 0 ? tr("Tray %1: empty").arg(i + 1)
-                           : tr("Tray %1: %2").arg(i + 1).arg(Names[static_cast<std::size_t>(m.TrayFace[i])]));
+        m.TrayFace[i] == 0
+            ? QStringLiteral("Tray %1: empty").arg(i + 1)
+            : QStringLiteral("Tray %1: %2").arg(i + 1).arg(Names[static_cast<std::size_t>(m.TrayFace[i])]));
   }
 }
 
@@ -300,9 +300,7 @@ void frmMain::showEvent(QShowEvent* Event) {
   if (activatedBefore) return;
   activatedBefore = true;
   setFocus();
-  QTimer::singleShot(0, this, [this] {
-    if (OnCommand.FirstShown) OnCommand.FirstShown();
-  });
+  QTimer::singleShot(0, this, &frmMain::firstShown);
 }
 
 void frmMain::closeEvent(QCloseEvent* Event) {

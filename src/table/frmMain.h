@@ -3,14 +3,13 @@
 #include <QWidget>
 
 #include <array>
-#include <functional>
 #include <map>
 
 #include "engine/Game.h"
-#include "table/ButtonPlus.h"
 #include "table/DieBox.h"
-#include "table/FitLabel.h"
-#include "table/Pictures.h"
+#include "widgets/ButtonPlus.h"
+#include "widgets/FitLabel.h"
+#include "widgets/Pictures.h"
 
 class QMenu;
 
@@ -22,12 +21,6 @@ class frmMain : public QWidget {
   Q_OBJECT
 
  public:
-  /// What the buttons and menu entries that aren't game moves call. An unset command has no effect.
-  struct Commands {
-    std::function<void()> Options, HighRollers, HowToPlay, GoHelp, About;
-    std::function<void()> FirstShown;  ///< the window has come up for the first time
-  };
-
   explicit frmMain(Game& Table);
 
   /// Copies the record of the controls to the widgets; what has changed is on the screen when it returns.
@@ -56,8 +49,6 @@ class frmMain : public QWidget {
     Run();
     ShowControls();
   }
-
-  Commands OnCommand;
 
   // The controls.
   QWidget* picGameTray;
@@ -89,8 +80,16 @@ class frmMain : public QWidget {
   Bitmaps Pictures;
 
  signals:
+  /// The window has come up for the first time.
+  void firstShown();
   /// The window was minimised or restored.
   void minimised();
+  // Commands that aren't moves of the game.
+  void optionsAsked();
+  void highRollersAsked();
+  void howToPlayAsked();
+  void helpAsked();
+  void aboutAsked();
 
  protected:
   void showEvent(QShowEvent* Event) override;

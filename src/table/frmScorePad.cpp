@@ -5,9 +5,9 @@
 #include <QPalette>
 #include <QScreen>
 
-#include "table/Colours.h"
-#include "table/Fonts.h"
-#include "table/Twips.h"
+#include "widgets/Colours.h"
+#include "widgets/Fonts.h"
+#include "widgets/Twips.h"
 
 namespace blunko {
 
@@ -47,8 +47,10 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
   lblGoal = Text(QStringLiteral("lblGoal"), {}, TwipsRect(120, 90, 2250, 375), Qt::AlignHCenter, Heading);
   label_break_in =
       Text(QStringLiteral("label_break_in"), {}, TwipsRect(120, 480, 2250, 375), Qt::AlignHCenter, Heading);
-  Label2 = Text(QStringLiteral("Label2"), tr("Player"), TwipsRect(240, 960, 1095, 375), Qt::AlignLeft, Heading);
-  Label3 = Text(QStringLiteral("Label3"), tr("Score"), TwipsRect(1800, 960, 615, 375), Qt::AlignLeft, Heading);
+  Label2 =
+      Text(QStringLiteral("Label2"), QStringLiteral("Player"), TwipsRect(240, 960, 1095, 375), Qt::AlignLeft, Heading);
+  Label3 =
+      Text(QStringLiteral("Label3"), QStringLiteral("Score"), TwipsRect(1800, 960, 615, 375), Qt::AlignLeft, Heading);
   for (FitLabel* Underlined : {Label2, Label3}) {
     QFont Font = Underlined->font();
     Font.setUnderline(true);

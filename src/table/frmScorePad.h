@@ -5,7 +5,7 @@
 #include <array>
 
 #include "engine/Module1.h"
-#include "table/FitLabel.h"
+#include "widgets/FitLabel.h"
 
 namespace blunko {
 

@@ -4,8 +4,8 @@
 #include <sys/stat.h>
 
 #include "table/Backgrounds.h"
-#include "table/Pictures.h"
 #include "tests/storage/Place.h"
+#include "widgets/Pictures.h"
 
 namespace blunko::test {
 namespace {

@@ -5,9 +5,9 @@
 
 #include <gmock/gmock.h>
 
+#include "app/SettingsView.h"
 #include "table/DiceSets.h"
 #include "table/OptionsPanel.h"
-#include "table/SettingsView.h"
 #include "tests/storage/Place.h"
 #include "tests/table/TableForm.h"
 

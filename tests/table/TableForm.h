@@ -6,9 +6,9 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "table/Twips.h"
 #include "table/frmMain.h"
 #include "tests/engine/Table.h"
+#include "widgets/Twips.h"
 
 namespace blunko::test {
 

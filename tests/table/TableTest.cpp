@@ -4,7 +4,6 @@
 
 #include <random>
 
-#include "table/QtDesktop.h"
 #include "tests/table/TableForm.h"
 
 namespace blunko::test {
@@ -185,8 +184,13 @@ TEST_F(TheTable, AKeyIsACommandOnceAtItsReleaseAfterAPressHere) {
 }
 
 TEST_F(TheTable, MenusAndButtonsCallTheProgram) {
-  const auto Says = [this](const char* What) { return [=, this] { Screen.Log.push_back(What); }; };
-  Form.OnCommand = {Says("Options"), Says("HighRollers"), Says("HowToPlay"), Says("GoHelp"), Says("About"), {}};
+  for (const auto& [Signal, What] : {std::pair(&frmMain::optionsAsked, "Options"),
+                                     {&frmMain::highRollersAsked, "HighRollers"},
+                                     {&frmMain::howToPlayAsked, "HowToPlay"},
+                                     {&frmMain::helpAsked, "GoHelp"},
+                                     {&frmMain::aboutAsked, "About"}}) {
+    QObject::connect(&Form, Signal, &Form, [this, What = What] { Screen.Log.push_back(What); });
+  }
   // Names, captions, and what they call; a separator has only a name.
   const std::vector<std::array<const char*, 3>> OfGame{{"mnuNewGame", "&New Game  (F2)", "new game"},
                                                        {"mnuOptions", "&Options...", "Options"},
@@ -308,53 +312,6 @@ TEST_F(TheTable, NoTextIsCut) {
     ExpectNoTextCut(*Form.picGameTray, QColor(255, 0, 0));
   }
   EXPECT_LE(Form.lblStatus->geometry().bottom(), Form.lblLastRoll->y());
-}
-
-struct PaintWatch : QObject {
-  std::function<void()> OnPaint;
-  bool eventFilter(QObject*, QEvent* Event) override {
-    if (Event->type() == QEvent::Paint) OnPaint();
-    return false;
-  }
-};
-
-/// What the person sees on the real desktop while a handler waits, or doesn't.
-TEST_F(TheTable, EveryFaceOfTumblingDiceIsPaintedAtOnce) {
-  for (const double WaitFactor : {0.0, 0.5}) {
-    SCOPED_TRACE(WaitFactor);
-    QtDesktop Real;
-    Game RealGame{m, t, Options, Real, Others, Numbers};
-    frmMain Window(RealGame);
-    Real.WaitFactor = WaitFactor;
-    Real.ShowControls = [&] { Window.ShowControls(); };
-    Window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&Window, 2000));
-    Window.Handle([&] { Table::Begin({"Ann", "Bob"}); });
-
-    constexpr int Cycles = 5;
-    std::vector<int> Expected{0}, Painted{0};  // what the first die shows, from the empty place on
-    for (int Cycle = 0; Cycle < Cycles; ++Cycle) {
-      for (int Die = 0; Die < 6; ++Die) Numbers.Faces.push_back((Cycle + Die) % 6 + 1);
-      Expected.push_back(112 + Cycle + 1);
-    }
-    Numbers.Faces.insert(Numbers.Faces.end(), {6, 4, 4, 3, 2, 1});
-    Expected.push_back(112 + 1);  // sorted
-
-    std::string Status;
-    PaintWatch Die, Line;
-    Window.Picture1[0]->installEventFilter(&Die);
-    Window.lblStatus->installEventFilter(&Line);
-    Die.OnPaint = [&] {
-      if (Painted.back() != Window.Picture1[0]->Picture()) Painted.push_back(Window.Picture1[0]->Picture());
-    };
-    Line.OnPaint = [&] { Status += Window.lblStatus->text().toStdString() + '|'; };
-    QElapsedTimer Clock;
-    Clock.start();
-    QTest::mouseClick(Window.cmdRoll, Qt::LeftButton);
-    EXPECT_GE(Clock.elapsed(), static_cast<qint64>(Cycles * 6 * 10 * WaitFactor));
-    EXPECT_EQ(Painted, Expected);
-    EXPECT_EQ(Status, "Rolling...|Select Dice.|");
-  }
 }
 
 }  // namespace

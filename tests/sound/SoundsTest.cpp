@@ -8,9 +8,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "table/SoundFiles.h"
-#include "table/Sounds.h"
-#include "tests/table/SoundRecorder.h"
+#include "sound/SoundFiles.h"
+#include "sound/Sounds.h"
+#include "tests/sound/SoundRecorder.h"
 
 namespace blunko::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "table/ButtonPlus.h"
+#include "widgets/ButtonPlus.h"
 
 #include <QEnterEvent>
 #include <QGuiApplication>
@@ -8,8 +8,8 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
-#include "table/Colours.h"
-#include "table/Fonts.h"
+#include "widgets/Colours.h"
+#include "widgets/Fonts.h"
 
 namespace blunko {
 

@@ -1,10 +1,10 @@
-#include "table/FitLabel.h"
+#include "widgets/FitLabel.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "table/Colours.h"
+#include "widgets/Colours.h"
 
 namespace blunko {
 

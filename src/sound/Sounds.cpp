@@ -1,4 +1,4 @@
-#include "table/Sounds.h"
+#include "sound/Sounds.h"
 
 #include <QLibrary>
 #include <QtEndian>
@@ -15,7 +15,6 @@
 #include <utility>
 
 #include "storage/FileAccess.h"
-#include "table/QtDesktop.h"
 
 namespace blunko {
 
@@ -216,7 +215,7 @@ void Sounds::Player::PlayAll(std::unique_lock<std::mutex>& Lock) {
 bool Sounds::Player::Open() {
   loaded = sdl.Load();
   if (!loaded) return false;
-  sdl.SetHint(SDL_HINT_APP_NAME, ProductName.toUtf8().constData());  // the name in the system's volume control
+  sdl.SetHint(SDL_HINT_APP_NAME, "Tollmoor Blunko");  // the name in the system's volume control
   initialised = sdl.AudioInit(nullptr) == 0;
   if (!initialised) return false;
   SDL_AudioSpec Form{};

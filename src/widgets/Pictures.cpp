@@ -1,4 +1,4 @@
-#include "table/Pictures.h"
+#include "widgets/Pictures.h"
 
 #include <QFileInfo>
 #include <QImageReader>

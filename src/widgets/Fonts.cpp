@@ -1,4 +1,4 @@
-#include "table/Fonts.h"
+#include "widgets/Fonts.h"
 
 #include <QStringList>
 

@@ -1,4 +1,4 @@
-#include "table/SoundFiles.h"
+#include "sound/SoundFiles.h"
 
 #include <QFile>
 

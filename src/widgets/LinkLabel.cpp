@@ -1,9 +1,9 @@
-#include "table/LinkLabel.h"
+#include "widgets/LinkLabel.h"
 
 #include <QPainter>
 
-#include "table/Colours.h"
-#include "table/Fonts.h"
+#include "widgets/Colours.h"
+#include "widgets/Fonts.h"
 
 namespace blunko {
 

@@ -1,8 +1,8 @@
-#include "table/TickBox.h"
+#include "widgets/TickBox.h"
 
 #include <QPainter>
 
-#include "table/Colours.h"
+#include "widgets/Colours.h"
 
 namespace blunko {
 
