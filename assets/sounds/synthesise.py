@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Writes the nine sounds of the game into this folder: synthesise.py
 
-Each is a few lines of knocks and notes; the same loudness, soft ends and the form of the file come from `finish`.
+Each is a few lines of knocks and notes; the loudness, soft ends and the form of the file come from `finish`.
 """
 
 import math
@@ -12,6 +12,7 @@ from pathlib import Path
 
 PEAK = 0.89  # of full scale: nothing clips
 LOUDNESS = -15.0  # dB, of the loudest 100 ms, weighted as the ear does
+SOFTER = LOUDNESS - 3  # for what is heard with every die
 FADE_IN, FADE_OUT = 0.002, 0.03  # seconds
 
 
@@ -72,12 +73,12 @@ class Sound:
                              (4.1, 0.12)):
             self.mode(start, frequency * ratio, share * level, decay / max(ratio, 0.7) ** 0.8, 0.0015)
 
-    def horn(self, start, length, frequency, level):
-        """A brass tone: the louder it is the brighter."""
+    def horn(self, start, length, frequency, level, decay=math.inf):
+        """A brass tone: the louder it is the brighter. It is held, or falls to a third in `decay` seconds."""
 
         def function(t):
             swell = min(t / 0.025, 1) * min((length - t) / 0.05, 1)
-            swell *= 0.75 + 0.25 * math.exp(-t / 0.08)
+            swell *= (0.75 + 0.25 * math.exp(-t / 0.08)) * math.exp(-t / decay)
             bend = t + 0.0006 * (1 - math.exp(-t / 0.02))  # slides into its pitch
             tone = 0.0
             for k in range(1, 9):
@@ -124,7 +125,7 @@ def loudness(samples, rate):
     return 10 * math.log10(best / window)
 
 
-def finish(sound, name, width):
+def finish(sound, name, width, loud=LOUDNESS):
     samples, rate = sound.samples, sound.rate
     mean = sum(samples) / len(samples)
     samples = [x - mean for x in samples]
@@ -132,10 +133,10 @@ def finish(sound, name, width):
         start, end = i / rate / FADE_IN, (len(samples) - 1 - i) / rate / FADE_OUT
         samples[i] *= 0.5 - 0.5 * math.cos(math.pi * min(start, end, 1))
     # Short knocks have high peaks: they are rounded off until the sound is as loud as the others.
-    gain = 10 ** ((LOUDNESS - loudness(samples, rate)) / 20)
+    gain = 10 ** ((loud - loudness(samples, rate)) / 20)
     for _ in range(8):
         shaped = [PEAK * math.tanh(gain * x / PEAK) for x in samples]
-        gain *= 10 ** ((LOUDNESS - loudness(shaped, rate)) / 20)
+        gain *= 10 ** ((loud - loudness(shaped, rate)) / 20)
     steps = 127 if width == 1 else 32767
     error = 0.0
     data = bytearray()
@@ -190,7 +191,7 @@ def move():
         sound.mode(start, 610, 0.60 * level, 0.018)
         sound.mode(start, 255, 0.55 * level, 0.030)
         sound.hiss(start, 1.2 * level, 0.007, 1600, noise)
-    finish(sound, "moveit.wav", 1)
+    finish(sound, "moveit.wav", 1, SOFTER)
 
 
 def pass_with_points():
@@ -250,13 +251,13 @@ def undo():
         sound.mode(start, 2.7 * frequency, 0.25 * level, 0.008)
         sound.mode(start, 300, 0.4 * level, 0.02)
         sound.hiss(start, 0.7 * level, 0.006, 2200, noise)
-    finish(sound, "undo.wav", 2)
+    finish(sound, "undo.wav", 2, SOFTER)
 
 
 def game_over():
     sound = Sound(11025, 0.48)
-    sound.bell(0.003, 784, 1, 0.22)
-    sound.bell(0.11, 1046.5, 0.9, 0.22)
+    sound.bell(0.003, 784, 1, 0.11)
+    sound.bell(0.1, 1046.5, 0.9, 0.095)  # silent before the sound ends, so that nothing is cut off
     finish(sound, "gameover.wav", 1)
 
 
@@ -265,9 +266,9 @@ def going_out():
     for start, length, frequency in ((0.004, 0.13, 392), (0.125, 0.13, 523.3), (0.245, 0.14, 659.3)):
         sound.horn(start, length, frequency, 0.5)
         sound.horn(start, length, frequency * 1.004, 0.25)
-    for frequency, level in ((392, 0.22), (523.3, 0.24), (659.3, 0.22), (784, 0.5)):
-        sound.horn(0.375, 0.50, frequency, level)
-    sound.bell(0.375, 1568, 0.25, 0.25)
+    for frequency, level in ((392, 0.3), (523.3, 0.32), (659.3, 0.3), (784, 0.66)):
+        sound.horn(0.375, 0.50, frequency, level, 0.16)
+    sound.bell(0.375, 1568, 0.25, 0.16)
     finish(sound, "overtop.wav", 1)
 
 
