@@ -1,6 +1,7 @@
 #include "app/Application.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QTime>
 
 #include <algorithm>
@@ -49,7 +50,7 @@ bool Application::Main() {
   State.HelpFile = folders.Shipped(QStringLiteral("help")).toStdString();
   State.PlayToScore = static_cast<std::int16_t>(Settings.ReadPlayToScore());
   State.BreakInScore = static_cast<std::int16_t>(Settings.ReadBreakInScore());
-  Util.UtilSetFolder(folders.State);
+  Util.UtilSetFolder(QFileInfo(folders.ListsPath()).path());
   const bool FirstStart = !Settings.Scanned();
   SurveyHardware();
   if (FirstStart || Numbers->UtilRandom(LaterStartsPerVersionCheck) == 1) {

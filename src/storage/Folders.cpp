@@ -5,15 +5,20 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include "storage/FileAccess.h"
 
 namespace blunko {
 
 namespace {
 
 const QString FolderName = QStringLiteral("tollmoor-blunko");
+constexpr QFile::Permissions OwnerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+constexpr qint64 LargestState = 1 << 20;  // bytes of a file
 
 /// A real folder, no link, that belongs to the user and is closed to everybody else.
 bool IsPrivate(const QString& Folder) {
@@ -24,9 +29,33 @@ bool IsPrivate(const QString& Folder) {
 
 bool CanWriteIn(const QString& Folder) { return QFileInfo(Folder).isDir() && QFileInfo(Folder).isWritable(); }
 
+/// Makes the folder and those above it that are missing, closed to everybody else.
+bool MakePrivate(const QString& Folder) {
+  const QFileInfo Found(Folder);
+  return Found.isDir() || (MakePrivate(Found.path()) && QDir().mkdir(Folder, OwnerOnly));
+}
+
+/// Where the shipped files of an installed program are; empty for any other.
+QString InstalledFiles(const QString& Program) {
+  const QString Share = QDir::cleanPath(Program + QStringLiteral("/../share/") + FolderName);
+  return QFileInfo(Share).isDir() ? Share : QString();
+}
+
+/// The file is copied while there is none in its new place; the old one stays for whoever shares it.
+void TakeOver(const QString& From, const QString& To) {
+  if (From == To || QFileInfo::exists(To)) return;
+  const FileLock Lock(To);
+  const auto Bytes = ReadWholeFile(From, LargestState);
+  if (Bytes && !QFileInfo::exists(To)) ReplaceFile(To, *Bytes);
+}
+
 }  // namespace
 
-Folders Folders::OfProgram() { return Of(QCoreApplication::applicationFilePath()); }
+Folders Folders::OfProgram() {
+  // Qt's own answer is empty before there is an application, and for a path that isn't text.
+  const QString Path = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
+  return Of(Path.isEmpty() ? QCoreApplication::applicationFilePath() : Path);
+}
 
 Folders Folders::Of(const QString& Path) {
   Folders Found;
@@ -34,37 +63,54 @@ Folders Folders::Of(const QString& Path) {
   Found.Program = Executable.absolutePath();
   Found.BaseName = Executable.completeBaseName();
   Found.State = Found.Program;
-  if (!CanWriteIn(Found.State)) {
-    Found.State =
-        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/TollmoorBlunko");
-    QDir().mkpath(Found.State);
-  }
   Found.Temp = GetTempFolder();
+  const bool Installed = !InstalledFiles(Found.Program).isEmpty();
+  if (!Installed && CanWriteIn(Found.State)) return Found;
+
+  const auto Own = [](QStandardPaths::StandardLocation Kind) {
+    const QString Folder = QStandardPaths::writableLocation(Kind) + QStringLiteral("/TollmoorBlunko");
+    MakePrivate(Folder);
+    return Folder;
+  };
+  Folders Earlier = Found;
+  Found.State = Own(QStandardPaths::GenericConfigLocation);
+  if (Installed) Found.Data = Own(QStandardPaths::GenericDataLocation);
+  TakeOver(Earlier.InfoPath(), Found.InfoPath());
+  for (const QString& Folder : {Found.State, Earlier.State}) {
+    Earlier.State = Folder;
+    TakeOver(Earlier.ListsPath(), Found.ListsPath());
+  }
   return Found;
 }
 
 QString Folders::InfoPath() const { return State + QLatin1Char('/') + BaseName + QStringLiteral(".ini"); }
-QString Folders::ListsPath() const { return State + QLatin1Char('/') + ListsName; }
+
+QString Folders::ListsPath() const { return (Data.isEmpty() ? State : Data) + QLatin1Char('/') + ListsName; }
 
 QString Folders::Shipped(const QString& Part) const {
-  const QString Beside = Program + QLatin1Char('/') + Part;
-  if (QFileInfo(Beside).isDir()) return Beside;
-  const QString Installed = QDir::cleanPath(Program + QStringLiteral("/../share/tollmoor-blunko/") + Part);
-  return QFileInfo(Installed).isDir() ? Installed : Beside;
+  const QString Installed = InstalledFiles(Program);
+  return (Installed.isEmpty() ? Program : Installed) + QLatin1Char('/') + Part;
 }
+
+QString Folders::OwnBackground() const { return Data.isEmpty() ? QString() : Data + QStringLiteral("/Background"); }
 
 QString GetTempFolder() {
   const QString Runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
   const QString Cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
   for (const QString& Parent : {IsPrivate(Runtime) ? Runtime : QString(), Cache}) {
-    if (Parent.isEmpty() || !QDir().mkpath(Parent)) continue;
+    if (Parent.isEmpty()) continue;
     const QString Folder = Parent + QLatin1Char('/') + FolderName;
-    if (IsPrivate(Folder) || (mkdir(QFile::encodeName(Folder).constData(), 0700) == 0 && IsPrivate(Folder))) {
-      return Folder + QLatin1Char('/');
-    }
+    if (IsPrivate(Folder) || (MakePrivate(Folder) && IsPrivate(Folder))) return Folder + QLatin1Char('/');
   }
-  QByteArray Fresh = QFile::encodeName(QDir::tempPath() + QLatin1Char('/') + FolderName + QStringLiteral("-XXXXXX"));
-  return mkdtemp(Fresh.data()) == nullptr ? QString() : QFile::decodeName(Fresh) + QLatin1Char('/');
+  // A name that nobody can take beforehand; the next start finds the folder by its owner.
+  const QDir Shared(QDir::tempPath());
+  for (const QString& Name :
+       Shared.entryList({FolderName + QStringLiteral("-??????")}, QDir::Dirs | QDir::NoSymLinks)) {
+    if (IsPrivate(Shared.filePath(Name))) return Shared.filePath(Name) + QLatin1Char('/');
+  }
+  QTemporaryDir Fresh(Shared.filePath(FolderName + QStringLiteral("-XXXXXX")));
+  Fresh.setAutoRemove(false);
+  return Fresh.isValid() ? Fresh.path() + QLatin1Char('/') : QString();
 }
 
 bool FileExists(const QString& Path) { return !Path.isEmpty() && QFileInfo(Path).isFile(); }

@@ -55,6 +55,11 @@ std::uint32_t ColourOfIndex(int Index) {
   return Index >= 1 && Index <= 7 ? TextColours[static_cast<std::size_t>(Index)] : 0;
 }
 
+int ReadScale(const IniInfo& Info) {
+  const int Scale = Info.ReadInfoValue(QStringLiteral("Scale")).trimmed().toInt();
+  return Scale >= 100 && Scale <= 400 ? Scale : 100;
+}
+
 GameSettings::GameSettings(const Folders& Where) : folders(Where), OwnInfo(Where.InfoPath()) { LoadSettings(); }
 
 void GameSettings::setScanned(bool Value) {

@@ -18,6 +18,9 @@ std::uint32_t ColourOfIndex(int Index);
 /// "No picture", as the info file writes it.
 inline const QString NoBackground = QStringLiteral("(None)");
 
+/// Size on the screen in per cent, 100 to 400; to be asked before the toolkit starts.
+int ReadScale(const IniInfo& Info);
+
 /// The settings, each with its default. They are read once; a setter stores its value and writes that one key at once.
 class GameSettings {
  public:

@@ -90,6 +90,15 @@ TEST_F(GameSettingsTest, TakesWhateverStandsInTheFile) {
   }
 }
 
+TEST_F(GameSettingsTest, TheScaleHasBounds) {
+  const std::pair<const char*, int> Rows[] = {{"", 100},    {"100", 100}, {" 150 ", 150}, {"400", 400},
+                                              {"401", 100}, {"99", 100},  {"-200", 100},  {"200 %", 100}};
+  for (const auto& [Value, Scale] : Rows) {
+    place.Put("Game.ini", QByteArray("[Info]\nscale=") + Value);
+    EXPECT_EQ(ReadScale(Info()), Scale) << Value;
+  }
+}
+
 TEST_F(GameSettingsTest, EachSetterWritesItsOwnKeyAtOnce) {
   using S = GameSettings;
   const std::pair<void (*)(S&), const char*> Rows[] = {
