@@ -131,9 +131,9 @@ bool Application::CheckForUpdate() {
 void Application::Form_Activate() {
   if (!Settings.ShowWelcome() || !State.FirstActivate) return;
   State.FirstActivate = false;
-  frmWelcome(
-      InfoFile, Screen, [this](const QString& Topic) { ShowHelpTopic(Topic); }, Form.get())
-      .exec();
+  frmWelcome Welcome(InfoFile, Screen, Form.get());
+  QObject::connect(&Welcome, &frmWelcome::helpAsked, &Welcome, [this](const QString& Topic) { ShowHelpTopic(Topic); });
+  Welcome.exec();
 }
 
 void Application::ShowHelpTopic(const QString& Topic) {

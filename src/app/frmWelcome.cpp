@@ -1,12 +1,11 @@
 #include "app/frmWelcome.h"
 
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include "Links.h"
 #include "app/OpenInShell.h"
 #include "widgets/Boxes.h"
-#include "widgets/Fonts.h"
+#include "widgets/FormBuilder.h"
 #include "widgets/Pictures.h"
 
 namespace blunko {
@@ -16,47 +15,29 @@ namespace {
 const QString WelcomeKey = QStringLiteral("ShowWelcomeMessage");
 const QColor TipsColour(165, 205, 255);
 const QColor ExitColour(145, 195, 255);
+constexpr QSize ButtonSize(300, 36);  // px, at least
 
 }  // namespace
 
-frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, HelpCommand ShowHelpTopic, QWidget* Main)
+frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
     : QDialog(Main), info(Info), desktop(Screen) {
-  setObjectName(QStringLiteral("frmWelcome"));
-  setWindowTitle(QStringLiteral("How to Blunko"));
-
-  const auto Title = [this](const char* Name, const QString& Caption, Typeface Face, double Points, bool Bold) {
-    auto* Made = new QLabel(Caption, this);
-    Made->setObjectName(QLatin1String(Name));
-    Made->setFont(FontOf(Face, Points, Bold));
-    Made->setAlignment(Qt::AlignCenter);
-    return Made;
-  };
-  Label1 = Title("Label1", ProductName, Typeface::ComicSans, 24, true);
-  Label2 = Title("Label2", QStringLiteral("by Tollmoor Games"), Typeface::Verdana, 9.75, false);
-
-  const auto Button = [this](const char* Name, const QString& Caption, auto Run) {
-    auto* Made = new ButtonPlus(Caption, this);
-    Made->setObjectName(QLatin1String(Name));
-    Made->setMinimumSize(300, 36);
-    Made->setAutoDefault(true);
-    connect(Made, &QPushButton::clicked, this, Run);
-    return Made;
-  };
-  const auto Opens = [ShowHelpTopic](const char* Topic) { return [=] { ShowHelpTopic(QLatin1String(Topic)); }; };
-  cmdLearn = Button("cmdLearn", QStringLiteral("How to Play Tollmoor Blunko"), Opens("PlayingBlunko.htm"));
-  cmdPoints = Button("cmdPoints", QStringLiteral("Dice Point Values"), Opens("PlayingBlunko.htm#scoring"));
-  cmdTips = Button("cmdTips", QStringLiteral("Blunko Tips && Tricks"), Opens("StrategyAndHints.htm"));
-  cmdWebSite = Button("cmdWebSite", QStringLiteral("Visit Tollmoor Games's Web Site"), [] { OpenInShell(WebSite); });
-  cmdExit = Button("cmdExit", QStringLiteral("Start Playing Blunko!"), &QDialog::accept);
+  setObjectName("frmWelcome");
+  setWindowTitle("How to Blunko");
+  Label1 = MakeText(this, "Label1", ProductName, FontOf(Typeface::ComicSans, 24, true));
+  Label2 = MakeText(this, "Label2", "by Tollmoor Games", FontOf(Typeface::Verdana, 9.75));
+  cmdLearn =
+      MakeButton(this, "cmdLearn", "How to Play Tollmoor Blunko", [this] { emit helpAsked("PlayingBlunko.htm"); });
+  cmdPoints =
+      MakeButton(this, "cmdPoints", "Dice Point Values", [this] { emit helpAsked("PlayingBlunko.htm#scoring"); });
+  cmdTips = MakeButton(this, "cmdTips", "Blunko Tips && Tricks", [this] { emit helpAsked("StrategyAndHints.htm"); });
+  cmdWebSite = MakeButton(this, "cmdWebSite", "Visit Tollmoor Games's Web Site", [] { OpenInShell(WebSite); });
+  cmdExit = MakeButton(this, "cmdExit", "Start Playing Blunko!", &QDialog::accept);
   cmdTips->setBackColor(TipsColour);
   cmdExit->setBackColor(ExitColour);
   cmdExit->setDefault(true);
-
-  lblCheck = new TickBox(this);
-  lblCheck->setObjectName(QStringLiteral("lblCheck"));
-  lblShowWelcome = new FitLabel(QStringLiteral("Show this welcome window"), this);
-  lblShowWelcome->setObjectName(QStringLiteral("lblShowWelcome"));
-  lblShowWelcome->setFont(FontOf(Typeface::Verdana, 8.25));
+  lblCheck = Make<TickBox>(this, "lblCheck");
+  lblShowWelcome =
+      MakeText<FitLabel>(this, "lblShowWelcome", "Show this welcome window", FontOf(Typeface::Verdana, 8.25));
   lblShowWelcome->setForeColor(palette().color(QPalette::WindowText));
   lblCheck->setAccessibleName(lblShowWelcome->text());
   const QString Stored = info.ReadInfoValue(WelcomeKey);
@@ -64,29 +45,30 @@ frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, HelpCommand ShowHel
   connect(lblCheck, &QAbstractButton::clicked, this, &frmWelcome::lblCheck_Click);
   connect(lblShowWelcome, &FitLabel::clicked, lblCheck, &QAbstractButton::click);
   FixButtonColours(*this);
+  LayOut();
+  cmdExit->setFocus();
+}
 
+void frmWelcome::LayOut() {
   auto* Column = new QVBoxLayout(this);
   Column->setContentsMargins(24, 14, 24, 14);
   Column->setSpacing(6);
-  auto* Dice = new SvgBox(QStringLiteral(":/art/welcome.svg"), this);
+  auto* Dice = new SvgBox(":/art/welcome.svg", this);
   Dice->setFixedSize(Dice->sizeHint());
   Column->addWidget(Dice, 0, Qt::AlignCenter);
   Column->addWidget(Label1);
   Column->addWidget(Label2);
   Column->addSpacing(10);
-  for (ButtonPlus* Choice : {cmdLearn, cmdPoints, cmdTips, cmdWebSite}) Column->addWidget(Choice);
+  for (ButtonPlus* Choice : {cmdLearn, cmdPoints, cmdTips, cmdWebSite}) {
+    Choice->setMinimumSize(ButtonSize);
+    Column->addWidget(Choice);
+  }
   Column->addSpacing(10);
+  cmdExit->setMinimumSize(ButtonSize);
   Column->addWidget(cmdExit);
   Column->addSpacing(6);
-  auto* Box = new QHBoxLayout;
-  Box->setSpacing(6);
-  Box->addStretch();
-  Box->addWidget(lblCheck);
-  Box->addWidget(lblShowWelcome);
-  Box->addStretch();
-  Column->addLayout(Box);
+  Column->addLayout(CentredRow({lblCheck, lblShowWelcome}, 6));
   Column->setSizeConstraint(QLayout::SetFixedSize);
-  cmdExit->setFocus();
 }
 
 /// The box has changed by a click on it or on its label.

@@ -3,8 +3,6 @@
 #include <QDialog>
 #include <QLabel>
 
-#include <functional>
-
 #include "engine/Desktop.h"
 #include "storage/IniInfo.h"
 #include "widgets/ButtonPlus.h"
@@ -19,9 +17,7 @@ class frmWelcome : public QDialog {
   Q_OBJECT
 
  public:
-  using HelpCommand = std::function<void(const QString& Topic)>;
-
-  frmWelcome(const IniInfo& Info, Desktop& Screen, HelpCommand ShowHelpTopic, QWidget* Main);
+  frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main);
 
   QLabel* Label1;
   QLabel* Label2;
@@ -33,10 +29,15 @@ class frmWelcome : public QDialog {
   TickBox* lblCheck;
   FitLabel* lblShowWelcome;
 
+ signals:
+  /// A page of the help is wanted, "Name.htm" or "Name.htm#anchor".
+  void helpAsked(const QString& Topic);
+
  protected:
   void done(int Result) override;
 
  private:
+  void LayOut();
   void lblCheck_Click();
 
   const IniInfo& info;

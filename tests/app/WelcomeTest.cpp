@@ -30,8 +30,7 @@ TEST(Welcome, TheBoxIsKeptAtOnceAndClosingTellsOfIt) {
     const QString Key = QStringLiteral("ShowWelcomeMessage");
     if (*Row.Stored != '\0') Info.WriteInfoValue(Key, QLatin1String(Row.Stored));
     Table Game;
-    frmWelcome Form(
-        Info, Game.Screen, [](const QString&) {}, nullptr);
+    frmWelcome Form(Info, Game.Screen, nullptr);
     Form.show();
     EXPECT_EQ(Form.lblCheck->isChecked(), Row.Ticked);
     for (int i = 0; i < Row.Clicks; ++i) {
@@ -56,8 +55,8 @@ TEST(Welcome, ButtonsOpenTheirTopicsAndTheWebSiteAndStay) {
   Table Game;
   const Shell Browser;
   Lines Topics;
-  frmWelcome Form(
-      Info, Game.Screen, [&](const QString& Topic) { Topics.push_back(Topic.toStdString()); }, nullptr);
+  frmWelcome Form(Info, Game.Screen, nullptr);
+  QObject::connect(&Form, &frmWelcome::helpAsked, [&](const QString& Topic) { Topics.push_back(Topic.toStdString()); });
   Form.show();
   for (ButtonPlus* Button : {Form.cmdLearn, Form.cmdPoints, Form.cmdTips, Form.cmdWebSite}) Click(Button);
   EXPECT_TRUE(Form.isVisible());

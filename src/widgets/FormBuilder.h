@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QString>
+
+#include <initializer_list>
+#include <utility>
+
+#include "widgets/ButtonPlus.h"
+#include "widgets/Fonts.h"
+
+namespace blunko {
+
+// What every form is put together with. A control takes its object name where it is made, as its only name for tests
+// and for the tree that screen readers walk; it is placed by a layout, or by `Placed` where the form gives its place.
+
+/// A control of any class, made of `Values` in the form or box `Parent`.
+template <typename Control, typename... Arguments>
+Control* Make(QWidget* Parent, const QString& Name, Arguments&&... Values) {
+  auto* Made = new Control(std::forward<Arguments>(Values)..., Parent);
+  Made->setObjectName(Name);
+  return Made;
+}
+
+/// Puts a control at its place in its parent, in logical pixels; returns it.
+template <typename Control>
+Control* Placed(Control* Made, const QRect& Place) {
+  Made->setGeometry(Place);
+  return Made;
+}
+
+/// A label of the class `Label` with a caption, taken as it is: no letter of it is markup.
+template <typename Label = QLabel>
+Label* MakeText(QWidget* Parent, const QString& Name, const QString& Caption, const QFont& Font,
+                Qt::Alignment Side = Qt::AlignCenter) {
+  auto* Made = Make<Label>(Parent, Name);
+  Made->setTextFormat(Qt::PlainText);
+  Made->setText(Caption);
+  Made->setFont(Font);
+  Made->setAlignment(Side);
+  return Made;
+}
+
+/// A button that runs `Run`, a member of the form or a function, when it is pressed.
+template <typename Form, typename Slot>
+ButtonPlus* MakeButton(Form* Parent, const QString& Name, const QString& Caption, Slot Run) {
+  auto* Made = Make<ButtonPlus>(Parent, Name, Caption);
+  QObject::connect(Made, &QPushButton::clicked, Parent, Run);
+  return Made;
+}
+
+/// Changes colours of a widget, and of what inherits them.
+inline void SetColours(QWidget& Widget, std::initializer_list<std::pair<QPalette::ColorRole, QColor>> Colours) {
+  QPalette All = Widget.palette();
+  for (const auto& [Role, Colour] : Colours) All.setColor(Role, Colour);
+  Widget.setPalette(All);
+}
+
+/// Controls side by side in the middle of the form, this many pixels apart.
+inline QHBoxLayout* CentredRow(std::initializer_list<QWidget*> Controls, int Gap) {
+  auto* Row = new QHBoxLayout;
+  Row->setSpacing(Gap);
+  Row->addStretch();
+  for (QWidget* Control : Controls) Row->addWidget(Control);
+  Row->addStretch();
+  return Row;
+}
+
+}  // namespace blunko
