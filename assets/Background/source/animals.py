@@ -279,10 +279,7 @@ def quacker():
 def moose():
     rng = random.Random(31)
     defs = (linear("sky", (0, "#20384a"), (0.45, "#2b505c"), (0.7, "#48696a"), (0.82, "#7f8f7c"), (1, "#a89f80"))
-            + linear("antler", (0, "#9a7a50"), (0.6, "#84643e"), (1, "#6a4c2e"))
-            + linear("face", (0, "#7c5234"), (0.5, "#8e6040"), (1, "#a87a54"))
-            + radial("snout", (0, "#c79a72"), (0.6, "#ad7f5a"), (1, "#835838"), cx=0.4, cy=0.3, r=0.8)
-            + linear("neck", (0, "#6a432a"), (1, "#4a2e1e")) + linear("scarf", (0, "#d2473e"), (1, "#982824"))
+            + linear("antler", (0, "#b08d5c"), (0.6, "#8c6a42"), (1, "#64462a")) + linear("scarf", (0, "#d2473e"), (1, "#982824"))
             + blur(2) + blur(6) + blur(14) + blur(30))
     body = sheet("url(#sky)")
     for _ in range(70):
@@ -314,47 +311,64 @@ def moose():
 
     scenery, body = body, ""
 
-    # Antlers: the right one, mirrored for the left.
-    palm = [(430, 748), (462, 735), (492, 728), (510, 700), (502, 660), (520, 690), (538, 708), (548, 676), (550, 636), (568, 672), (572, 704),
-            (594, 676), (612, 646), (614, 684), (602, 716), (632, 700), (654, 686), (644, 718), (616, 746), (588, 762), (552, 772), (510, 772), (470, 770), (436, 776)]
+    # Antlers: the right one, mirrored for the left. They spread below the scores of the table.
+    palm = [(424, 790), (452, 778), (482, 774), (500, 762), (504, 738), (518, 752), (531, 762), (543, 748), (552, 730), (561, 750), (575, 758),
+            (592, 741), (607, 729), (609, 750), (618, 758), (636, 746), (655, 738), (650, 758), (645, 769), (664, 766), (677, 769), (660, 785),
+            (634, 797), (596, 804), (552, 806), (510, 800), (470, 798), (430, 806)]
     shape = curve(palm)
-    ridge = "".join(f'<path d="M{a} 756Q{(a + c) / 2 + 8:.0f} {738} {c} {d}" stroke="#5c4126" stroke-width="3" fill="none" opacity="0.45" stroke-linecap="round"/>'
-                    for a, c, d in ((498, 508, 690), (520, 548, 668), (546, 604, 676), (560, 638, 704)))
-    one = (f'<path d="{shape}" fill="#2a1c10" opacity="0.35" transform="translate(4 7)" filter="url(#b6)"/><path d="{shape}" fill="url(#antler)" stroke="#4a3420" stroke-width="3" stroke-linejoin="round"/>'
-           f'{ridge}<path d="M470 742Q500 738 516 706M540 726Q548 706 551 664M590 706Q604 690 611 668" stroke="#c4a678" stroke-width="5" fill="none" stroke-linecap="round" opacity="0.5"/>')
-    body += f'<g transform="translate(0 -4)">{one}<g transform="translate(786 0) scale(-1 1)">{one}</g></g>'
-    # Neck and shoulders, then the ears.
-    body += '<path d="M330 850C300 900 262 930 236 1040H550C524 930 486 900 456 850Z" fill="url(#neck)" stroke="#38210f" stroke-width="3"/>'
-    ear = ('<path d="M438 772C470 752 516 758 540 786C520 808 474 812 440 796Z" fill="#7c5234" stroke="#3c2414" stroke-width="3"/>'
-           '<path d="M452 780C476 768 504 772 524 786C504 796 476 798 454 790Z" fill="#d09a7c"/>')
-    body += ear + f'<g transform="translate(786 0) scale(-1 1)">{ear}</g>'
-    head = "M393 738C436 738 458 764 456 800C454 830 462 846 470 872C478 910 446 936 393 936C340 936 308 910 316 872C324 846 332 830 330 800C328 764 350 738 393 738Z"
-    body += f'<path d="{head}" fill="#20120a" opacity="0.5" transform="translate(0 12)" filter="url(#b14)"/><path d="{head}" fill="url(#face)" stroke="#3c2414" stroke-width="3.5"/>'
-    # Hair on the brow and down the cheeks.
-    for _ in range(420):
-        x, y = rng.gauss(393, 20), rng.uniform(742, 800)
-        if abs(x - 393) < 20 + (y - 740) * 0.5:
-            body += stroke(x, y, math.pi / 2 + (x - 393) * 0.02, rng.uniform(10, 22), 2, ramp([(84, 52, 30), (124, 82, 54), (158, 112, 78)], rng.random()), rng.gauss(0, 0.15), 0.8)
-    body += '<ellipse cx="393" cy="886" rx="86" ry="56" fill="url(#snout)" stroke="#5c3a22" stroke-width="3"/>'
-    body += '<ellipse cx="362" cy="858" rx="34" ry="13" fill="#ecc9a4" opacity="0.55" filter="url(#b6)"/>'
+    defs += f'<clipPath id="palm"><path d="{shape}"/></clipPath>'
+    velvet = ""
+    for _ in range(520):
+        x, y = rng.uniform(424, 670), rng.uniform(735, 812)
+        velvet += stroke(x, y, -0.62 * (x - 440) / 160 - 0.15 + rng.gauss(0, 0.12), rng.uniform(12, 26), 1.8,
+                         ramp([(82, 58, 34), (140, 108, 68), (190, 158, 108), (222, 194, 146)], (800 - y) / 70 + rng.gauss(0, 0.22)), rng.gauss(0, 0.1), 0.55)
+    one = (f'<path d="{shape}" fill="#160d06" opacity="0.45" transform="translate(3 8)" filter="url(#b6)"/>'
+           f'<path d="{shape}" fill="url(#antler)" stroke="#432e1a" stroke-width="2.4" stroke-linejoin="round"/><g clip-path="url(#palm)">{velvet}</g>')
+    body += f'{one}<g transform="translate(786 0) scale(-1 1)">{one}</g>'
+
+    # Fur: shoulders, ears, brow, and the muzzle that is paler and shorter.
+    coat = [(44, 25, 14), (74, 45, 26), (104, 67, 40), (134, 91, 57), (164, 118, 80), (196, 152, 110)]
+    pale = [(84, 54, 34), (124, 86, 56), (162, 119, 83), (194, 153, 114), (220, 186, 148), (236, 212, 180)]
+    body += f'<path d="M322 850C290 900 248 940 226 1040H560C538 940 496 900 464 850Z" fill="{rgb(coat[1])}"/>'
+    body += fur(rng, Ball(393, 905, 86, 62), coat[:5], 1500, 24, 3.0, lambda x, y: math.pi / 2 - (x - 393) * 0.008, (393, 820), 0.25)
+    body += fur(rng, Ball(393, 1010, 164, 150), coat[:5], 5200, 26, 3.0, lambda x, y: math.pi / 2 - (x - 393) * 0.005, (393, 820), 0.25)
     for s in (-1, 1):
-        x = 393 + s * 36
-        body += f'<ellipse cx="{x}" cy="870" rx="12" ry="8.5" fill="#4a2a18" transform="rotate({s * 24} {x} 870)"/><path d="M{x - 8} 864q8 -6 16 0" stroke="#e6bd96" stroke-width="2.5" fill="none" opacity="0.7"/>'
-    body += ('<path d="M340 898Q366 928 393 926Q420 928 446 898" stroke="#5a321c" stroke-width="4.5" fill="none" stroke-linecap="round"/>'
-             '<path d="M336 892q-2 8 6 10M450 892q2 8 -6 10" stroke="#5a321c" stroke-width="4" fill="none" stroke-linecap="round"/>')
+        ear = Ball(393 + s * 84, 802, 50, 20, s * 0.18)
+        away = 0.18 if s > 0 else math.pi - 0.18
+        body += f'<ellipse cx="{ear.x}" cy="{ear.y}" rx="46" ry="17" fill="{rgb(coat[1])}" transform="rotate({s * 10} {ear.x} {ear.y})"/>'
+        body += fur(rng, ear, coat, 1100, 15, 2.2, lambda x, y: away, (393, 795), 0.35)
+        body += fur(rng, Ball(393 + s * 88, 805, 33, 9, s * 0.18), [(150, 104, 80), (206, 158, 128), (228, 190, 162)], 260, 13, 1.8,
+                    lambda x, y: away, (393, 795), 0.3)
+    body += '<ellipse cx="393" cy="916" rx="84" ry="26" fill="#120904" opacity="0.6" filter="url(#b14)"/>'
+    brow, muzzle = Ball(393, 812, 62, 68), Ball(393, 878, 73, 48)
+    body += f'<ellipse cx="393" cy="812" rx="58" ry="64" fill="{rgb(coat[2])}"/>'
+    body += fur(rng, brow, coat, 4600, 17, 2.2, lambda x, y: math.atan2(y - 772, (x - 393) * 0.7), (393, 845), 0.3)
+    body += '<ellipse cx="393" cy="864" rx="66" ry="34" fill="#1c0f06" opacity="0.4" filter="url(#b14)"/>'
+    body += f'<ellipse cx="393" cy="878" rx="69" ry="44" fill="{rgb(pale[2])}"/>'
+    body += fur(rng, muzzle, pale, 5200, 11, 1.9, lambda x, y: math.atan2(y - 826, x - 393), (393, 836), 0.35)
+    for _ in range(320):  # a tuft between the antlers
+        x = rng.gauss(393, 13)
+        body += stroke(x, rng.uniform(742, 760), math.pi / 2 + (393 - x) * 0.03 + rng.gauss(0, 0.12), rng.uniform(10, 30), 2, ramp(coat, rng.gauss(0.42, 0.16)),
+                       rng.gauss(0, 0.25))
+    # The face: eyes with lids, nostrils, a smile.
     for s in (-1, 1):
-        x = 393 + s * 27
-        body += (f'<ellipse cx="{x}" cy="806" rx="19" ry="23" fill="#fffdf4" stroke="#3c2414" stroke-width="3"/>' + eye(x - s * 4, 810, 11, "#23160e")
-                 + f'<path d="M{x - 17} 794Q{x} 770 {x + 17} 794Q{x} 782 {x - 17} 794Z" fill="#7c5234" stroke="#3c2414" stroke-width="2.4"/>'
-                 + f'<path d="M{x - 17} {772 - s * 4}Q{x} {758} {x + 17} {772 + s * 4}" stroke="#4a2c18" stroke-width="7" fill="none" stroke-linecap="round"/>')
+        x = 393 + s * 30
+        body += (f'<ellipse cx="{x}" cy="812" rx="22" ry="19" fill="{rgb(coat[0])}" opacity="0.55" filter="url(#b6)"/>' + eye(x, 812, 14.5, "#150d09")
+                 + f'<path d="M{x - 17} 809Q{x} 790 {x + 17} 809" stroke="{rgb(coat[0])}" stroke-width="4" fill="none" stroke-linecap="round"/>')
+        x = 393 + s * 31
+        body += (f'<ellipse cx="{x}" cy="866" rx="13" ry="8.5" fill="#2c170c" transform="rotate({s * 26} {x} 866)"/>'
+                 f'<path d="M{x - 10} 859q10 -8 20 0" stroke="#f2d8b6" stroke-width="2.6" fill="none" opacity="0.75"/>')
+    body += ('<path d="M346 893Q368 913 393 912Q418 913 440 893" stroke="#4a2814" stroke-width="4" fill="none" stroke-linecap="round"/>'
+             '<path d="M342 888q-2 7 5 9M444 888q2 7 -5 9" stroke="#4a2814" stroke-width="3.4" fill="none" stroke-linecap="round"/>')
     # The scarf.
-    body += ('<path d="M296 944C330 968 456 968 490 944C510 962 508 990 496 1002C440 1026 346 1026 290 1002C278 990 276 962 296 944Z" fill="url(#scarf)" stroke="#6a1a18" stroke-width="3"/>')
-    for k in range(9):
-        x = 304 + k * 22
-        body += f'<path d="M{x} {958 + 8 * math.sin(k / 8 * math.pi):.0f}q{6 - k} 24 {(k - 4) * 0.8:.0f} {48}" stroke="{"#f0dcc0" if k % 3 == 1 else "#7c1f1c"}" stroke-width="{6 if k % 3 == 1 else 2}" fill="none" opacity="0.7"/>'
+    body += ('<path d="M280 944C320 972 466 972 506 944C528 962 526 992 512 1004C450 1030 336 1030 274 1004C260 992 258 962 280 944Z" fill="url(#scarf)" '
+             'stroke="#6a1a18" stroke-width="2.4"/>')
+    for k in range(15):
+        x = 286 + k * 15.3
+        body += (f'<path d="M{x:.0f} {958 + 8 * math.sin(k / 14 * math.pi):.0f}q{(7 - k) * 0.6:.1f} 24 {(k - 7) * 0.5:.1f} 48" '
+                 f'stroke="{"#f0dcc0" if k % 4 == 1 else "#7c1f1c"}" stroke-width="{6 if k % 4 == 1 else 1.6}" fill="none" opacity="0.7"/>')
     for _ in range(120):
         y = HEIGHT * rng.random()
-        r = rng.uniform(1.2, 3.4) * (0.6 if 360 < y < 730 else 1)
+        r = rng.uniform(1.2, 3.4) * (0.5 if y < 60 or 360 < y < 730 else 1)
         scenery += f'<circle cx="{rng.uniform(0, WIDTH):.0f}" cy="{y:.0f}" r="{r:.1f}" fill="#fff" opacity="{rng.uniform(0.35, 0.8):.2f}"/>'
-    body = f'{scenery}<g transform="translate(393 932) scale(0.93) translate(-393 -932)">{body}</g>'
-    save_svg("CC Moose", 3, defs, body)
+    save_svg("CC Moose", 3, defs, scenery + body)

@@ -182,18 +182,38 @@ def nautical():
 
     body = f'{chart}<g transform="translate({cx} {cy}) scale(0.92) translate({-cx} {-cy})">{body}</g>'
 
-    # A sailing ship left, an anchor right, both engraved.
-    ink = 'fill="none" stroke="#e9d9a6" stroke-width="2" stroke-linecap="round" stroke-linejoin="round"'
-    body += (f'<g transform="translate(128 826) scale(1.12)" opacity="0.85"><path d="M-62 40Q-54 66 -36 68H40Q58 64 66 34Q30 44 -20 44Q-44 44 -62 40Z" fill="#6e4f22" fill-opacity="0.75" {ink[12:]}/>'
-             f'<path d="M-54 52Q0 60 58 50M-20 44V-66M22 44V-78M50 38V-40M66 34L98 14M-62 40L-70 26" {ink}/>'
-             f'<path d="M-44 -10Q-22 4 4 -10Q0 12 6 32Q-20 22 -46 32Q-38 12 -44 -10ZM-40 -52Q-20 -42 0 -52Q-2 -34 2 -16Q-20 -8 -42 -16Q-36 -34 -40 -52ZM2 -14Q22 0 46 -14Q42 10 48 32Q22 22 0 32Q6 10 2 -14ZM6 -62Q22 -52 40 -62Q38 -42 42 -22Q22 -12 2 -22Q8 -42 6 -62ZM50 -34Q72 -10 94 14Q70 16 50 26Z" fill="#e9ddba" fill-opacity="0.88" stroke="#6e5424" stroke-width="1.6"/>'
-             f'<path d="M-40 2q20 10 42 0M-40 16q20 10 44 2M6 2q20 10 38 0M6 16q20 10 40 2M-36 -42q18 8 34 0M8 -50q16 8 30 0M8 -36q16 8 32 0" stroke="#a38a52" stroke-width="1" fill="none"/>'
-             f'<path d="M22 -78q14 -6 26 2q-12 6 -26 4Z" fill="#a83a32" stroke="#6e1f1c" stroke-width="1"/><path d="M-84 72q12 -9 24 0t24 0t24 0t24 0t24 0t24 0t24 0M-66 82q12 -9 24 0t24 0t24 0t24 0t24 0t24 0" stroke="#a8dade" stroke-width="2" fill="none" opacity="0.8"/></g>')
-    anchor = "M0 -56V52M-30 -30H30M-52 14Q-46 58 0 64Q46 58 52 14"
-    body += f'<g transform="translate(660 836) rotate(14) scale(1.05)"><g fill="none" stroke-linecap="round"><path d="{anchor}" stroke="#03101c" stroke-width="15" opacity="0.5" filter="url(#b5)" transform="translate(4 9)"/>'
-    for colour, width in (("#3a290e", 14), ("#a57c36", 10.5), ("#dcbd74", 4)):
-        body += f'<path d="{anchor}" stroke="{colour}" stroke-width="{width}"/><circle cy="-70" r="13" stroke="{colour}" stroke-width="{width * 0.62:.1f}"/>'
-    body += '</g><path d="M-68 22L-52 -6L-36 22Q-52 14 -68 22ZM68 22L52 -6L36 22Q52 14 68 22Z" fill="url(#brass)" stroke="#3a290e" stroke-width="2"/></g>'
+    # A ship left, an anchor right, in the fine lines of the chart.
+    line = 'fill="none" stroke="#e2d3a0" stroke-linecap="round" stroke-linejoin="round"'
+
+    def sail(x, y, k, top, foot, height, bulge=5):
+        """A square sail whose yard is at (x, y), hatched along its lee side."""
+        def side(half, low):
+            return f"{half} 0Q{half + bulge} {height / 2} {low} {height}"
+        hatch = "".join(f"M{side(top - 2.6 * i, foot - 2.6 * i)}" for i in range(1, 5))
+        return (f'<g transform="translate({x} {y}) scale({k})"><path d="M{-top} 0Q0 5 {side(top, foot)}Q0 {height + 6} {-foot} {height}'
+                f'Q{-top + bulge} {height / 2} {-top} 0Z" fill="#12384f" {line[12:]} stroke-width="1.7"/><path d="M{-top - 4} -1H{top + 4}" {line} stroke-width="2.2"/>'
+                f'<path d="{hatch}" {line} stroke-width="0.9" opacity="0.75"/></g>')
+
+    ship = f'<path d="M-38 36V-58M0 42V-98M38 38V-70M66 34L104 10M-66 38L-38 -56L0 -96L38 -68L102 11" {line} stroke-width="1.4"/>'
+    ship += f'<path d="M44 -52Q62 -18 99 12Q74 14 50 24Q56 -14 44 -52Z" fill="#12384f" {line[12:]} stroke-width="1.6"/><path d="M49 -34Q62 -10 90 11M51 -14Q62 2 80 13" {line} stroke-width="0.9" opacity="0.75"/>'
+    for x, y, k in ((-38, 0, 0.66), (38, -6, 0.8), (0, -14, 1)):
+        ship += sail(x, y, k, 20, 21, 42) + sail(x, y - 38 * k, k, 15, 18, 34) + sail(x, y - 64 * k, k, 10, 13, 23, 3)
+    ship += (f'<path d="M-70 20L-44 26L-42 40Q10 46 66 32Q60 60 44 68H-46Q-58 66 -60 56Z" fill="#12384f" {line[12:]} stroke-width="1.9"/>'
+             f'<path d="M-64 36Q0 56 64 40M-62 46Q0 64 61 48M-58 60Q0 70 52 60" {line} stroke-width="1"/>'
+             f'<path d="{"".join(f"M{x} {51 - 0.002 * x * x:.1f}v4.4" for x in range(-48, 50, 12))}" {line} stroke-width="3.4"/>'
+             f'<path d="M0 -98q9 -5 18 0t16 -1q-8 6 -16 5t-18 1" {line} stroke-width="1.3"/>')
+    for y, left, count in ((74, -88, 8), (82, -64, 6), (90, -84, 7)):
+        ship += f'<path d="M{left} {y}{"q6 -8 12 0t12 0" * count}" {line} stroke-width="1.2" opacity="0.7"/>'
+    body += f'<g transform="translate(124 826) scale(1.08)" opacity="0.85">{ship}</g>'
+
+    iron = "M0 -54V54M-30 -32H30M-54 12Q-46 56 0 63Q46 56 54 12"
+    flukes = "M-70 24L-55 -8L-38 22Q-54 15 -70 24ZM70 24L55 -8L38 22Q54 15 70 24Z"
+    body += f'<g transform="translate(660 836) rotate(14)" opacity="0.85" {line}>'
+    for colour, width in (("#e2d3a0", 12), ("#12384f", 8.8)):
+        body += f'<path d="{iron}" stroke="{colour}" stroke-width="{width}"/><circle cy="-70" r="13" stroke="{colour}" stroke-width="{width * 0.62:.1f}"/>'
+    body += f'<path d="{flukes}" fill="#12384f" stroke-width="1.7"/><path d="M1 -50V50M3 -50V48M-30 -30.6H29M-50 18Q-41 53 0 60.6Q43 54 51 18M-47 19Q-38 50 0 58.4Q40 51 48 19" stroke-width="0.9" opacity="0.75"/>'
+    cable = "M11 -64C34 -52 26 -40 0 -36S-30 -12 -4 -4S34 20 4 28S-34 50 -10 72"
+    body += f'<path d="{cable}" stroke-width="6.4"/><path d="{cable}" stroke="#12384f" stroke-width="3.6"/><path d="{cable}" stroke-width="3.2" stroke-dasharray="1 4"/></g>'
 
     # A rope round the picture: strand by strand.
     def rope(points):
@@ -203,12 +223,12 @@ def nautical():
             a = math.atan2(y - last[1], x - last[0])
             walked += math.hypot(x - last[0], y - last[1])
             last = (x, y)
-            if walked >= 10:
-                walked -= 10
-                out += (f'<g transform="translate({x:.1f} {y:.1f}) rotate({math.degrees(a):.0f})"><path d="M-9 7C-7 0 0 -6 8 -7.5C13 -6 12 -1 8 1C3 3 -1 8 -3 8Z" fill="#7d6540" stroke="#33240f" stroke-width="1.2"/>'
+            if walked >= 8:
+                walked -= 8
+                out += (f'<g transform="translate({x:.1f} {y:.1f}) rotate({math.degrees(a):.0f}) scale(0.8)"><path d="M-9 7C-7 0 0 -6 8 -7.5C13 -6 12 -1 8 1C3 3 -1 8 -3 8Z" fill="#7d6540" stroke="#33240f" stroke-width="1.2"/>'
                         '<path d="M-6 5C-4 0 2 -4 8 -5.5" stroke="#b0945c" stroke-width="2" fill="none" stroke-linecap="round"/><path d="M-4 6.5C-2 2 3 -1 9 -2.5" stroke="#6a5228" stroke-width="1" fill="none"/></g>')
         return out
-    frame, r, m = [], 46, 13
+    frame, r, m = [], 40, 7
     x1, y1 = WIDTH - m, HEIGHT - m
     for k in range(0, WIDTH - 2 * m - 2 * r):
         frame.append((m + r + k, m))
