@@ -5,9 +5,11 @@ from brush import HEIGHT, Noise, WIDTH, mix, ramp, save_pixels, smooth
 
 
 def satin():
-    """Softly folded satin of a middle tone, on which black and white texts can both be read."""
+    """Shot satin. Behind the texts, which may be black or white, its folds change their hue and hardly their lightness;
+    below them the cloth falls into full light and shade.
+    """
     noise = Noise(11)
-    tones = [(52, 93, 146), (60, 103, 158), (74, 119, 172), (92, 135, 185), (112, 150, 197)]
+    tones = [(44, 84, 142), (57, 102, 159), (71, 119, 175), (92, 137, 190), (118, 158, 207)]
 
     def height(x, y):
         u, v = x / WIDTH, y / WIDTH
@@ -47,7 +49,12 @@ def satin():
 
     def pixel(x, y):
         thread = 0.010 * math.sin(x * 1.9 + y * 1.25) + 0.012 * noise.at(x * 0.9, y * 0.06)
-        return ramp(tones, shade(x, y) + thread)
+        relief = 0.15 + 1.0 * smooth(715, 900, y)
+        tone = shade(x, y) + thread - 0.5
+        # Red up and green down by these shares leave the luminance as it is.
+        hue = -20 * max(-0.5, min(0.5, tone)) * (1 - smooth(715, 900, y))
+        r, g, b = ramp(tones, 0.51 + relief * tone)
+        return r + hue, g - 0.18 * hue, b
 
     save_pixels("Satin", 7, pixel, quality=92)
 

@@ -83,8 +83,8 @@ def autumn():
         return leaf(kind, x, y, size, rng.uniform(0, 360), kinds[kind], rng, **more)
     # A few that still fall, soft and dim.
     falling = ""
-    for x, y, s in ((70, 360, 60), (700, 470, 76), (96, 560, 84), (668, 640, 92), (360, 540, 46), (560, 350, 50), (730, 250, 54), (40, 170, 50), (610, 36, 44)):
-        falling += one(x + rng.uniform(-10, 10), y, s, opacity=0.50, shadow=0)
+    for x, y, s in ((70, 360, 60), (700, 566, 76), (96, 560, 84), (668, 640, 92), (360, 540, 46), (560, 350, 50), (730, 250, 54), (40, 170, 50), (610, 36, 44)):
+        falling += one(x + rng.uniform(-10, 10), y, s, opacity=0.40, shadow=0)
     body += f'<g filter="url(#b3)">{falling}</g>'
     body += '<ellipse cx="393" cy="1010" rx="620" ry="250" fill="#1c0d06" opacity="0.85" filter="url(#b60)"/>'
     heap = []
@@ -105,8 +105,8 @@ def autumn():
 
 def evergreen():
     rng = random.Random(77)
-    defs = (linear("sky", (0, "#1f4246"), (0.35, "#376163"), (0.62, "#527a79"), (0.8, "#3e6966"), (1, "#16302f")) + blur(2) + blur(5) + blur(12) + blur(30)
-            + linear("cone", (0, "#a57448"), (1, "#5a3820"), x2=1, y2=0) + radial("moon", (0, "#a9c4bc", 0.30), (1, "#a9c4bc", 0)))
+    defs = (linear("sky", (0, "#1f4246"), (0.35, "#376163"), (0.62, "#486f6f"), (0.8, "#3e6966"), (1, "#16302f")) + blur(2) + blur(5) + blur(12) + blur(30)
+            + linear("cone", (0, "#a57448"), (1, "#5a3820"), x2=1, y2=0) + radial("moon", (0, "#a9c4bc", 0.18), (1, "#a9c4bc", 0)))
     body = sheet("url(#sky)") + '<circle cx="540" cy="470" r="420" fill="url(#moon)"/>'
 
     def fir(x, base, high, colour, snow):
@@ -128,8 +128,8 @@ def evergreen():
                                f'Q{x + s * ww * 0.5:.1f} {y + drop * 0.55:.1f} {x + s * ww * 0.12:.1f} {y - high / n * 0.75:.1f}Z" fill="{rgb(snow)}" opacity="{0.9 if s < 0 else 0.6}"/>')
         return "".join(out)
     # Far ridges, each nearer one darker, mist between.
-    layers = (((520, 130, 30, (82, 118, 114), None, 5), (600, 170, 20, (68, 104, 101), None, 2), (700, 230, 13, (56, 94, 90), (96, 128, 124), 2),
-               (836, 300, 8, (32, 70, 64), (150, 176, 172), 0)))
+    layers = (((520, 130, 30, (82, 118, 114), None, 5), (600, 170, 20, (68, 104, 101), None, 2), (700, 230, 13, (56, 94, 90), (84, 116, 112), 2),
+               (836, 300, 8, (32, 70, 64), (126, 154, 150), 0)))
     for base, high, n, colour, snow, soft in layers:
         trees = ""
         for k in range(n):
@@ -141,7 +141,7 @@ def evergreen():
         extra = f' filter="url(#b{soft})"' if soft else ""
         body += f'<g{extra}>{trees}</g>'
         if base < 800:
-            body += f'<ellipse cx="393" cy="{base + 22}" rx="600" ry="52" fill="#6f928f" opacity="0.42" filter="url(#b30)"/>'
+            body += f'<ellipse cx="393" cy="{base + 22}" rx="600" ry="52" fill="#56797a" opacity="0.42" filter="url(#b30)"/>'
     body += '<path d="M-10 850Q180 806 393 836T800 822V1040H-10Z" fill="#a9c2c6"/><path d="M-10 880Q200 830 420 866T800 850V1040H-10Z" fill="#d5e3e6"/>'
     for _ in range(60):
         y = rng.uniform(866, 1020)
