@@ -60,18 +60,11 @@ bool Application::Main() {
   Uniform = UniformGenerator(static_cast<std::uint64_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000));
   State.PauseComputer = false;
   State.TempFolder = folders.Temp.toStdString();
-  ExtractSounds();
+  ExtractSounds(folders.Temp);
   LoadForm();
   Table.ClearAtStart();
   Form->show();
   return true;
-}
-
-/// What can't be written stays silent.
-void Application::ExtractSounds() {
-  for (int Id = FirstSound; Id <= LastSound; ++Id) {
-    ExtractResource(Id, QStringLiteral("CUSTOM"), folders.Temp + FileOfSound(Id));
-  }
 }
 
 /// Makes the table's window, dresses it as the settings say, and connects it with the rest.

@@ -71,7 +71,6 @@ class Application : public Program, private HighRollersScreen {
  private:
   void SurveyHardware();
   bool CheckForUpdate();
-  void ExtractSounds();
   void LoadForm();
   void Form_Activate();
   void Form_Resize();

@@ -14,18 +14,6 @@ namespace blunko {
 
 namespace {
 
-struct Entry {
-  const char* Event;
-  const char* Caption;
-};
-constexpr std::array<Entry, GameSettings::SoundEvents> Entries{{{"Blunko", "Blunko"},
-                                                                {"GameOver", "Game Over"},
-                                                                {"MoveDie", "Move Dice"},
-                                                                {"Passem1", "Pass Dice (w/ points)"},
-                                                                {"Passem2", "Pass Dice (w/o points)"},
-                                                                {"MultiDie", "Roll Multiple Dice"},
-                                                                {"OneDie", "Roll One Die"},
-                                                                {"Undo", "Undo"}}};
 constexpr std::int16_t Backspace = 8;
 constexpr int ListWidth = 240;  // px
 const QColor ButtonColour(137, 189, 255);
@@ -52,7 +40,7 @@ frmCustomizeSounds::frmCustomizeSounds(Game& Table, GameSettings& Options, QWidg
 void frmCustomizeSounds::Build() {
   lstEvents = new QListWidget(this);
   const int RowHeight = fontMetrics().height() + 6;
-  for (const Entry& Made : Entries) {
+  for (const SoundEvent& Made : SoundEvents) {
     auto* Row = new QListWidgetItem(QString::fromLatin1(Made.Caption), lstEvents);
     Row->setSizeHint(QSize(0, RowHeight));
   }
@@ -114,7 +102,7 @@ void frmCustomizeSounds::Build() {
 
 void frmCustomizeSounds::Form_Load() {
   for (ButtonPlus* Button : {cmdBrowse, cmdTest, cmdOK, cmdCancel}) Button->setBackColor(ButtonColour);
-  for (std::size_t i = 0; i < Entries.size(); ++i) EventFile[i] = settings.GetSound(Entries[i].Event);
+  for (std::size_t i = 0; i < SoundEvents.size(); ++i) EventFile[i] = settings.GetSound(SoundEvents[i].Name);
   lstEvents->setCurrentRow(0);
   lstEvents_Click();
   FixButtonColours(*this);
@@ -146,7 +134,7 @@ void frmCustomizeSounds::cmdBrowse_Click() {
 void frmCustomizeSounds::cmdTest_Click() { game.desktop.PlaySoundFile(ChosenFile(), true); }
 
 void frmCustomizeSounds::cmdOK_Click() {
-  for (std::size_t i = 0; i < Entries.size(); ++i) settings.SetSound(Entries[i].Event, EventFile[i]);
+  for (std::size_t i = 0; i < SoundEvents.size(); ++i) settings.SetSound(SoundEvents[i].Name, EventFile[i]);
   accept();
 }
 
@@ -161,8 +149,8 @@ bool frmCustomizeSounds::eventFilter(QObject* Watched, QEvent* Event) {
 
 void frmCustomizeSounds::Form_KeyUp(std::int16_t KeyCode) {
   if (KeyCode != Backspace) return;
-  for (std::size_t i = 0; i < Entries.size(); ++i) {
-    const QByteArray Name = QFile::encodeName(GameSettings::DefaultSoundFile(Entries[i].Event));
+  for (std::size_t i = 0; i < SoundEvents.size(); ++i) {
+    const QByteArray Name = QFile::encodeName(GameSettings::DefaultSoundFile(SoundEvents[i].Name));
     EventFile[i] = game.m.TempFolder + Name.toStdString();
   }
   lstEvents_Click();

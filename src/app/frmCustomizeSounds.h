@@ -49,7 +49,7 @@ class frmCustomizeSounds : public PlacedDialog {
 
   Game& game;
   GameSettings& settings;
-  std::array<std::string, GameSettings::SoundEvents> EventFile;  ///< in the order of the list
+  std::array<std::string, SoundEvents.size()> EventFile;  ///< in the order of the list
 };
 
 }  // namespace blunko

@@ -1,40 +1,46 @@
 #include "sound/SoundFiles.h"
 
 #include <QFile>
+#include <QFileInfo>
 
-#include <cerrno>
-#include <fcntl.h>
-#include <sys/stat.h>
+#include <algorithm>
+
+#include "sound/SoundEvents.h"
 
 namespace blunko {
 
 namespace {
 
-const char* const Names[] = {"11d.wav",  "33d.wav",  "moveit.wav",   "passem1.wav", "passem2.wav",
-                             "bust.wav", "undo.wav", "gameover.wav", "overtop.wav"};
-static_assert(std::size(Names) == LastSound - FirstSound + 1);
+QString FileOfSound(int Id) {
+  if (Id == OutSound.Resource) return QLatin1String(OutSound.File);
+  const auto Found = std::find_if(SoundEvents.begin(), SoundEvents.end(),
+                                  [Id](const SoundEvent& Sound) { return Sound.Resource == Id; });
+  return Found == SoundEvents.end() ? QString() : QLatin1String(Found->File);
+}
 
 }  // namespace
-
-QString FileOfSound(int Id) {
-  return Id >= FirstSound && Id <= LastSound ? QString::fromLatin1(Names[Id - FirstSound]) : QString();
-}
 
 int ExtractResource(int Id, const QString& Kind, const QString& Path) {
   const QString Name = FileOfSound(Id);
   QFile Resource(QStringLiteral(":/sounds/") + Name);
-  if (Kind != QLatin1String("CUSTOM") || Name.isEmpty() || !Resource.open(QIODevice::ReadOnly)) return ENOENT;
+  if (Kind != QLatin1String("CUSTOM") || Name.isEmpty() || !Resource.open(QIODevice::ReadOnly)) return QFile::OpenError;
   const QByteArray Bytes = Resource.readAll();
 
-  const int Descriptor = open(QFile::encodeName(Path).constData(),
-                              O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, S_IRUSR | S_IWUSR);
-  if (Descriptor < 0) return errno;
-  QFile File;
-  if (!File.open(Descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) return EIO;
-  struct stat Found {};
-  if (fstat(Descriptor, &Found) != 0 || !S_ISREG(Found.st_mode)) return EINVAL;
-  errno = 0;
-  return File.write(Bytes) == Bytes.size() ? 0 : (errno != 0 ? errno : EIO);
+  const QFileInfo There(Path);
+  if (There.isSymLink() || (There.exists() && !There.isFile())) return QFile::OpenError;
+  QFile File(Path);
+  if (!File.open(QIODevice::ReadWrite | QIODevice::Unbuffered, QFile::ReadOwner | QFile::WriteOwner)) {
+    return File.error();
+  }
+  if (File.read(Bytes.size()) == Bytes) return QFile::NoError;
+  return File.seek(0) && File.write(Bytes) == Bytes.size() ? QFile::NoError : QFile::WriteError;
+}
+
+void ExtractSounds(const QString& Folder) {
+  for (const SoundEvent& Sound : SoundEvents) {
+    ExtractResource(Sound.Resource, QStringLiteral("CUSTOM"), Folder + QLatin1String(Sound.File));
+  }
+  ExtractResource(OutSound.Resource, QStringLiteral("CUSTOM"), Folder + QLatin1String(OutSound.File));
 }
 
 }  // namespace blunko

@@ -4,14 +4,13 @@
 
 namespace blunko {
 
-/// The sounds that travel inside the program bear these numbers.
-inline constexpr int FirstSound = 101, LastSound = 109;
-
-/// Name of the file that sound `Id` is written to, in the temporary folder; empty for any other number.
-QString FileOfSound(int Id);
-
-/// Writes a resource of the kind "CUSTOM" over the start of the file at `Path`; a file that isn't there is made. The
-/// result is 0, or the number of the system's error. Only a plain file is written to, and none by way of a link.
+/// Writes a resource of the kind "CUSTOM" over the start of the file at `Path`; a file that isn't there is made, one
+/// that begins with the same bytes is left alone. The result is 0, or another number for an error. Only a plain file is
+/// written to, and none by way of a link.
 int ExtractResource(int Id, const QString& Kind, const QString& Path);
+
+/// Puts all sounds of the program into the folder, whose name ends with its separator. What can't be written stays
+/// silent.
+void ExtractSounds(const QString& Folder);
 
 }  // namespace blunko

@@ -1,7 +1,8 @@
 #include "sound/Sounds.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QLibrary>
-#include <QtEndian>
 
 #include <SDL_audio.h>
 #include <SDL_hints.h>
@@ -14,21 +15,23 @@
 #include <type_traits>
 #include <utility>
 
-#include "storage/FileAccess.h"
-
 namespace blunko {
 
 namespace {
 
 using Clock = std::chrono::steady_clock;
+using Milliseconds = Sounds::Milliseconds;
 
-constexpr qint64 LargestFile = 32 << 20;                         // bytes
-constexpr auto LongestOpening = std::chrono::seconds(2);         // a sound that comes later than this no longer fits
-constexpr auto LongestClosing = std::chrono::milliseconds(500);  // at the program's end
-constexpr int DeviceRate = 44100;                                // Hz
-constexpr int DeviceFrame = 4;                                   // bytes: two channels of 16 bits
-constexpr int DevicePeriod = 1024;                               // samples, 23 ms
-constexpr int FirstPortion = 20;  // seconds of a wave that are converted before it begins; then one at a time
+constexpr qint64 LargestFile = 32 << 20;                // bytes
+constexpr qint64 LargestSound = 256 << 20;              // bytes in the device's form, 25 minutes
+constexpr Milliseconds LongestOpening{2000};            // a sound that comes later than this no longer fits
+constexpr Milliseconds LongestClosing{500};             // at the program's end
+constexpr Milliseconds LookAgain{50};                   // while a sound plays
+constexpr int DeviceRate = 44100;                       // Hz
+constexpr int DeviceFrame = 4;                          // bytes: two channels of 16 bits
+constexpr int DevicePeriod = 1024;                      // samples, 23 ms
+constexpr int LowestRate = 1000, HighestRate = 384000;  // Hz, of a wave
+constexpr int MostChannels = 8;
 
 /// The functions of the sound library. It is loaded with the first sound: it would make up a good part of the start.
 struct SoundLibrary {
@@ -38,17 +41,14 @@ struct SoundLibrary {
   decltype(&SDL_OpenAudioDevice) OpenAudioDevice;
   decltype(&SDL_CloseAudioDevice) CloseAudioDevice;
   decltype(&SDL_PauseAudioDevice) PauseAudioDevice;
-  decltype(&SDL_LockAudioDevice) LockAudioDevice;
-  decltype(&SDL_UnlockAudioDevice) UnlockAudioDevice;
   decltype(&SDL_GetAudioDeviceStatus) GetAudioDeviceStatus;
+  decltype(&SDL_QueueAudio) QueueAudio;
+  decltype(&SDL_GetQueuedAudioSize) GetQueuedAudioSize;
   decltype(&SDL_RWFromConstMem) RWFromConstMem;
   decltype(&SDL_LoadWAV_RW) LoadWAV_RW;
   decltype(&SDL_FreeWAV) FreeWAV;
-  decltype(&SDL_NewAudioStream) NewAudioStream;
-  decltype(&SDL_FreeAudioStream) FreeAudioStream;
-  decltype(&SDL_AudioStreamPut) AudioStreamPut;
-  decltype(&SDL_AudioStreamAvailable) AudioStreamAvailable;
-  decltype(&SDL_AudioStreamGet) AudioStreamGet;
+  decltype(&SDL_BuildAudioCVT) BuildAudioCVT;
+  decltype(&SDL_ConvertAudio) ConvertAudio;
   decltype(&SDL_TLSCleanup) TLSCleanup;
 
   bool Load() {
@@ -64,17 +64,14 @@ struct SoundLibrary {
     Find(OpenAudioDevice, "SDL_OpenAudioDevice");
     Find(CloseAudioDevice, "SDL_CloseAudioDevice");
     Find(PauseAudioDevice, "SDL_PauseAudioDevice");
-    Find(LockAudioDevice, "SDL_LockAudioDevice");
-    Find(UnlockAudioDevice, "SDL_UnlockAudioDevice");
     Find(GetAudioDeviceStatus, "SDL_GetAudioDeviceStatus");
+    Find(QueueAudio, "SDL_QueueAudio");
+    Find(GetQueuedAudioSize, "SDL_GetQueuedAudioSize");
     Find(RWFromConstMem, "SDL_RWFromConstMem");
     Find(LoadWAV_RW, "SDL_LoadWAV_RW");
     Find(FreeWAV, "SDL_FreeWAV");
-    Find(NewAudioStream, "SDL_NewAudioStream");
-    Find(FreeAudioStream, "SDL_FreeAudioStream");
-    Find(AudioStreamPut, "SDL_AudioStreamPut");
-    Find(AudioStreamAvailable, "SDL_AudioStreamAvailable");
-    Find(AudioStreamGet, "SDL_AudioStreamGet");
+    Find(BuildAudioCVT, "SDL_BuildAudioCVT");
+    Find(ConvertAudio, "SDL_ConvertAudio");
     Find(TLSCleanup, "SDL_TLSCleanup");
     SilenceDriver();
     return Found;
@@ -89,10 +86,17 @@ struct SoundLibrary {
   static void Ignore(const char*, int, const char*, int, const char*, ...) {}
 };
 
+/// A plain file of no more than the largest size; empty for anything else. A pipe or a device isn't even opened.
+QByteArray ReadSoundFile(const QString& Path) {
+  QFile File(Path);
+  if (!QFileInfo(Path).isFile() || File.size() > LargestFile || !File.open(QIODevice::ReadOnly)) return {};
+  return File.read(LargestFile);
+}
+
 }  // namespace
 
 /// What the game's thread and the device's thread share. Each holds it alive: the second may outlast the first when a
-/// device hangs.
+/// device or a disk hangs.
 class Sounds::Player {
  public:
   Player(Milliseconds IdleTime, Milliseconds RetryTime) : idleTime(IdleTime), retryTime(RetryTime) {}
@@ -103,20 +107,19 @@ class Sounds::Player {
 
  private:
   void Run();
-  void PlayAll(std::unique_lock<std::mutex>& Lock);
   bool Open();
   void Close();
-  bool Begin(const QByteArray& File);
-  void End();
-  static void SDLCALL Fill(void* User, Uint8* Out, int Length);
+  QByteArray InDeviceForm(const QByteArray& File) const;
+  void Play(const QByteArray& Sound);
+  void WaitForEnd(std::unique_lock<std::mutex>& Lock, Clock::time_point Latest);
+  bool HasDevice() const { return sdl.GetAudioDeviceStatus(device) != SDL_AUDIO_STOPPED; }
 
   const Milliseconds idleTime, retryTime;
 
   std::mutex mutex;
   std::condition_variable changed;
-  QByteArray next;          ///< the wave file that waits for the device
+  QString next;             ///< the wave file that waits for the device
   bool busy = false;        ///< from the request to the last sample
-  bool finished = false;    ///< the device has taken the last sample
   bool running = false;     ///< the device's thread exists
   bool stopping = false;    ///< the program ends
   Clock::time_point asked;  ///< time of the request
@@ -126,28 +129,13 @@ class Sounds::Player {
   SoundLibrary sdl{};
   bool loaded = false, initialised = false;
   SDL_AudioDeviceID device = 0;
-
-  // Of the device's callback, set while it is locked out:
-  SDL_AudioStream* stream = nullptr;
-  Uint8* wave = nullptr;
-  Uint32 waveLength = 0;
-  Uint32 taken = 0;      ///< bytes of the wave that the converter has
-  QByteArray silence;    ///< a second of it in the wave's form
-  qint64 remaining = 0;  ///< bytes that the device hasn't
 };
 
 void Sounds::Player::Start(const std::shared_ptr<Player>& Shared, const QString& Path) {
   Player& p = *Shared;
-  {
-    const std::lock_guard Lock(p.mutex);
-    if (p.busy || Clock::now() < p.retryAt) return;
-  }
-  const auto File = ReadWholeFile(Path, LargestFile);
-  auto Wave = File ? SoundWave(*File) : std::nullopt;
-  if (!Wave) return;
-
   const std::lock_guard Lock(p.mutex);
-  p.next = *std::move(Wave);
+  if (p.busy || Clock::now() < p.retryAt) return;
+  p.next = Path;
   p.asked = Clock::now();
   p.busy = true;
   p.changed.notify_all();
@@ -172,19 +160,27 @@ void Sounds::Player::Stop() {
   changed.wait_for(Lock, LongestClosing, [this] { return !running; });
 }
 
-/// The device's thread.
+/// The device's thread: plays what is asked for, until nothing has been for a while or the device is gone.
 void Sounds::Player::Run() {
   std::unique_lock Lock(mutex);
   do {
     Lock.unlock();
-    const bool Opened = Open();
+    bool Usable = Open();
     Lock.lock();
-    if (Opened) {
-      PlayAll(Lock);
-    } else {
-      retryAt = Clock::now() + retryTime;
+    if (!Usable) retryAt = Clock::now() + retryTime;
+    while (Usable && changed.wait_for(Lock, idleTime, [this] { return busy || stopping; }) && !stopping) {
+      const QString Path = std::exchange(next, QString());
+      const auto Latest = asked + LongestOpening;
+      Lock.unlock();
+      const QByteArray Sound = InDeviceForm(ReadSoundFile(Path));
+      const bool InTime = Clock::now() < Latest;
+      if (InTime) sdl.QueueAudio(device, Sound.constData(), static_cast<Uint32>(Sound.size()));
+      Lock.lock();
+      if (InTime) WaitForEnd(Lock, Latest + Milliseconds(Sound.size() * 1000LL / (DeviceRate * DeviceFrame)));
+      Usable = HasDevice();
       busy = false;
     }
+    if (!Usable) busy = false;
     Lock.unlock();
     Close();
     Lock.lock();
@@ -193,21 +189,10 @@ void Sounds::Player::Run() {
   changed.notify_all();
 }
 
-/// Plays what is asked for, until nothing has been for a while or the device is gone.
-void Sounds::Player::PlayAll(std::unique_lock<std::mutex>& Lock) {
-  while (changed.wait_for(Lock, idleTime, [this] { return busy || stopping; }) && !stopping) {
-    const bool InTime = Clock::now() - asked < LongestOpening;
-    if (InTime && sdl.GetAudioDeviceStatus(device) == SDL_AUDIO_STOPPED) return;
-    const QByteArray File = std::exchange(next, QByteArray());
-    finished = false;
-    Lock.unlock();
-    const bool Plays = InTime && Begin(File);
-    Lock.lock();
-    if (Plays) changed.wait(Lock, [this] { return finished || stopping; });
-    Lock.unlock();
-    End();
-    Lock.lock();
-    busy = false;
+/// A device that has hung up takes no more: it isn't waited for beyond the time that the sound lasts, and a little.
+void Sounds::Player::WaitForEnd(std::unique_lock<std::mutex>& Lock, Clock::time_point Latest) {
+  while (!stopping && HasDevice() && sdl.GetQueuedAudioSize(device) > 0 && Clock::now() < Latest) {
+    changed.wait_for(Lock, LookAgain);
   }
 }
 
@@ -223,8 +208,6 @@ bool Sounds::Player::Open() {
   Form.format = AUDIO_S16SYS;
   Form.channels = 2;
   Form.samples = DevicePeriod;
-  Form.callback = &Player::Fill;
-  Form.userdata = this;
   SDL_AudioSpec Given{};
   device = sdl.OpenAudioDevice(nullptr, 0, &Form, &Given, 0);
   if (device == 0) return false;
@@ -238,57 +221,29 @@ void Sounds::Player::Close() {
   if (loaded) sdl.TLSCleanup();  // what the library keeps for this thread
 }
 
-bool Sounds::Player::Begin(const QByteArray& File) {
+/// The samples of a wave file as the device takes them; nothing for what is no wave, or one that no ear would want.
+QByteArray Sounds::Player::InDeviceForm(const QByteArray& File) const {
   SDL_AudioSpec Form{};
-  SDL_RWops* Source = sdl.RWFromConstMem(File.constData(), static_cast<int>(File.size()));
-  if (Source == nullptr || sdl.LoadWAV_RW(Source, 1, &Form, &wave, &waveLength) == nullptr) return false;
-  SDL_AudioStream* Converter = sdl.NewAudioStream(Form.format, Form.channels, Form.freq, AUDIO_S16SYS, 2, DeviceRate);
-  if (Converter == nullptr) return false;
-  const auto Rate = static_cast<Uint32>(Form.freq);
-  const Uint32 Frame = Form.channels * SDL_AUDIO_BITSIZE(Form.format) / 8U;
-  waveLength -= waveLength % Frame;
-  taken = static_cast<Uint32>(std::min(quint64{waveLength}, quint64{FirstPortion} * Rate * Frame));
-  const bool Fits = sdl.AudioStreamPut(Converter, wave, static_cast<int>(taken)) == 0;
-  silence.fill(static_cast<char>(Form.silence), static_cast<qsizetype>(Rate * Frame));
-  sdl.LockAudioDevice(device);
-  remaining = Fits ? (qint64{waveLength / Frame} * DeviceRate / Rate + DeviceRate / 100) * DeviceFrame : 0;
-  stream = Converter;
-  sdl.UnlockAudioDevice(device);
-  return true;
-}
-
-void Sounds::Player::End() {
-  sdl.LockAudioDevice(device);
-  SDL_AudioStream* const Converter = std::exchange(stream, nullptr);
-  sdl.UnlockAudioDevice(device);
-  if (Converter != nullptr) sdl.FreeAudioStream(Converter);
-  sdl.FreeWAV(std::exchange(wave, nullptr));
-}
-
-/// The callback of the device. It converts a long wave bit by bit, so that it is never held as a whole in the device's
-/// form; each seam costs a little purity, and a short wave has none. Silence follows it, which pushes its end out of
-/// the converter: the library's own flush makes a click there.
-void Sounds::Player::Fill(void* User, Uint8* Out, int Length) {
-  Player& p = *static_cast<Player*>(User);
-  const bool Ended = p.remaining <= 0;
-  int Got = 0;
-  if (p.stream != nullptr && !Ended) {
-    const auto Second = static_cast<Uint32>(p.silence.size());
-    bool Fits = true;
-    while (Fits && p.sdl.AudioStreamAvailable(p.stream) < Length) {
-      const Uint32 Left = std::min(Second, p.waveLength - p.taken);
-      const void* From = Left > 0 ? static_cast<const void*>(p.wave + p.taken) : p.silence.constData();
-      Fits = p.sdl.AudioStreamPut(p.stream, From, static_cast<int>(Left > 0 ? Left : Second)) == 0;
-      p.taken += Left;
-    }
-    Got = Fits ? std::max(p.sdl.AudioStreamGet(p.stream, Out, Length), 0) : 0;
-    p.remaining = Got > 0 ? p.remaining - Got : 0;
+  Uint8* Wave = nullptr;
+  Uint32 Length = 0;
+  SDL_RWops* const Source = sdl.RWFromConstMem(File.constData(), static_cast<int>(File.size()));
+  if (Source == nullptr || sdl.LoadWAV_RW(Source, 1, &Form, &Wave, &Length) == nullptr) return {};
+  const std::unique_ptr<Uint8, decltype(&SDL_FreeWAV)> Owner(Wave, sdl.FreeWAV);
+  SDL_AudioCVT Converter{};
+  const bool Audible = Form.channels <= MostChannels && Form.freq >= LowestRate && Form.freq <= HighestRate;
+  if (!Audible ||
+      sdl.BuildAudioCVT(&Converter, Form.format, Form.channels, Form.freq, AUDIO_S16SYS, 2, DeviceRate) < 0 ||
+      qint64{Length} * Converter.len_mult > LargestSound) {
+    return {};
   }
-  std::fill(Out + Got, Out + Length, Uint8{0});
-  if (p.stream == nullptr || !Ended) return;
-  const std::lock_guard Lock(p.mutex);
-  p.finished = true;
-  p.changed.notify_all();
+  QByteArray Sound(static_cast<qsizetype>(qint64{Length} * Converter.len_mult), Qt::Uninitialized);
+  std::copy_n(Wave, Length, Sound.begin());
+  Converter.buf = reinterpret_cast<Uint8*>(Sound.data());
+  Converter.len = static_cast<int>(Length);
+  Converter.len_cvt = Converter.len;
+  if (Converter.needed && sdl.ConvertAudio(&Converter) != 0) return {};
+  Sound.truncate(Converter.len_cvt);
+  return Sound;
 }
 
 Sounds::Sounds(Milliseconds IdleTime, Milliseconds RetryTime) : player(std::make_shared<Player>(IdleTime, RetryTime)) {}
@@ -298,38 +253,5 @@ Sounds::~Sounds() { player->Stop(); }
 void Sounds::Play(const QString& Path) { Player::Start(player, Path); }
 
 bool Sounds::IsPlaying() const { return player->IsBusy(); }
-
-std::optional<QByteArray> SoundWave(const QByteArray& File) {
-  constexpr qsizetype RiffHeader = 12, ChunkHeader = 8, LeastFormat = 16;
-  constexpr int MostChannels = 8;
-  constexpr quint32 LowestRate = 1000, HighestRate = 384000;  // Hz
-
-  const auto Number32 = [&File](qsizetype Place) { return qFromLittleEndian<quint32>(File.constData() + Place); };
-  if (File.size() < RiffHeader || !File.startsWith("RIFF") || File.mid(8, 4) != "WAVE") return std::nullopt;
-  bool FormatKnown = false;
-  for (qsizetype Chunk = RiffHeader; Chunk + ChunkHeader <= File.size();) {
-    const QByteArray Name = File.mid(Chunk, 4);
-    const qsizetype Body = Chunk + ChunkHeader;
-    const qsizetype Length = Number32(Chunk + 4);
-    const qsizetype Room = File.size() - Body;
-    if (Name == "data") {
-      if (!FormatKnown || Length == 0 || Room == 0) return std::nullopt;
-      const qsizetype Samples = std::min(Length, Room);
-      QByteArray Wave = File.left(Body + Samples);
-      qToLittleEndian(static_cast<quint32>(Samples), Wave.data() + Chunk + 4);
-      qToLittleEndian(static_cast<quint32>(Wave.size() - 8), Wave.data() + 4);
-      return Wave;
-    }
-    if (Name == "fmt ") {
-      if (Length < LeastFormat || Length > Room) return std::nullopt;
-      const int Channels = qFromLittleEndian<quint16>(File.constData() + Body + 2);
-      const quint32 Rate = Number32(Body + 4);
-      if (Channels < 1 || Channels > MostChannels || Rate < LowestRate || Rate > HighestRate) return std::nullopt;
-      FormatKnown = true;
-    }
-    Chunk = Body + Length + Length % 2;
-  }
-  return std::nullopt;
-}
 
 }  // namespace blunko

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "sound/SoundEvents.h"
 #include "storage/Numbers.h"
 
 namespace blunko {
@@ -27,22 +28,10 @@ constexpr std::array<std::uint32_t, 8> TextColours{0x000000, 0x0000FF, 0x00FF00,
 constexpr int White = 7;
 constexpr int DefaultDice = 112;
 
-struct SoundEvent {
-  std::string_view Name;
-  const char* File;
-};
-constexpr std::array<SoundEvent, GameSettings::SoundEvents> Events{{{"Blunko", "bust.wav"},
-                                                                    {"OneDie", "11d.wav"},
-                                                                    {"MultiDie", "33d.wav"},
-                                                                    {"Passem1", "passem1.wav"},
-                                                                    {"Passem2", "passem2.wav"},
-                                                                    {"MoveDie", "moveit.wav"},
-                                                                    {"Undo", "undo.wav"},
-                                                                    {"GameOver", "gameover.wav"}}};
-
 const SoundEvent* FindEvent(std::string_view Name) {
-  const auto Found = std::find_if(Events.begin(), Events.end(), [Name](const SoundEvent& e) { return e.Name == Name; });
-  return Found == Events.end() ? nullptr : &*Found;
+  const auto Found = std::find_if(SoundEvents.begin(), SoundEvents.end(),
+                                  [Name](const SoundEvent& Event) { return Event.Name == Name; });
+  return Found == SoundEvents.end() ? nullptr : &*Found;
 }
 
 QString KeyOfSound(std::string_view Name) {
@@ -127,12 +116,12 @@ void GameSettings::setMarkScorers(bool Value) {
 const std::string& GameSettings::GetSound(std::string_view p_sound_name) const {
   static const std::string None;
   const SoundEvent* Event = FindEvent(p_sound_name);
-  return Event == nullptr ? None : SoundFile[static_cast<std::size_t>(Event - Events.data())];
+  return Event == nullptr ? None : SoundFile[static_cast<std::size_t>(Event - SoundEvents.data())];
 }
 
 void GameSettings::SetSound(std::string_view p_sound_name, const std::string& p_sound_file) {
   if (const SoundEvent* Event = FindEvent(p_sound_name)) {
-    SoundFile[static_cast<std::size_t>(Event - Events.data())] = p_sound_file;
+    SoundFile[static_cast<std::size_t>(Event - SoundEvents.data())] = p_sound_file;
   }
   OwnInfo.WriteInfoPath(KeyOfSound(p_sound_name), QByteArray::fromStdString(p_sound_file));
 }
@@ -155,9 +144,9 @@ void GameSettings::LoadSettings() {
 }
 
 void GameSettings::LoadSounds() {
-  for (std::size_t i = 0; i < Events.size(); ++i) {
-    const QString Default = folders.Temp + QString::fromLatin1(Events[i].File);
-    SoundFile[i] = OwnInfo.ReadInfoPath(KeyOfSound(Events[i].Name), QFile::encodeName(Default)).toStdString();
+  for (std::size_t i = 0; i < SoundEvents.size(); ++i) {
+    const QString Default = folders.Temp + QString::fromLatin1(SoundEvents[i].File);
+    SoundFile[i] = OwnInfo.ReadInfoPath(KeyOfSound(SoundEvents[i].Name), QFile::encodeName(Default)).toStdString();
   }
   soundDisabled = ReadFlag(SoundFXOFFKey, false);
 }

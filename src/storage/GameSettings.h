@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "sound/SoundEvents.h"
 #include "storage/Folders.h"
 #include "storage/IniInfo.h"
 
@@ -24,8 +25,6 @@ int ReadScale(const IniInfo& Info);
 /// The settings, each with its default. They are read once; a setter stores its value and writes that one key at once.
 class GameSettings {
  public:
-  static constexpr int SoundEvents = 8;
-
   explicit GameSettings(const Folders& Where);
 
   bool Scanned() const { return scanned; }
@@ -84,7 +83,7 @@ class GameSettings {
   int computerSpeed = 0;
   bool sortDice = true;
   bool markScorers = true;
-  std::array<std::string, SoundEvents> SoundFile;
+  std::array<std::string, SoundEvents.size()> SoundFile;
   bool soundDisabled = false;
 };
 

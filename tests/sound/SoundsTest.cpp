@@ -187,30 +187,36 @@ TEST(Sounds, AHangingDeviceHoldsUpNeitherTheGameNorItsEnd) {
   close(Reader);
 }
 
-TEST(Extraction, EveryNumberIsTheSoundOfItsName) {
+TEST(Extraction, EverySoundIsThereUnderItsName) {
   const QTemporaryDir Folder;
   const std::tuple<const char*, int, double> Rows[] = {
       // 8 bits but for the undo: rate and seconds
       {"11d.wav", 22050, 0.51},     {"33d.wav", 22050, 0.52},      {"moveit.wav", 11025, 0.16},
       {"passem1.wav", 11025, 0.61}, {"passem2.wav", 22050, 0.56},  {"bust.wav", 11025, 0.54},
       {"undo.wav", 44100, 0.25},    {"gameover.wav", 11025, 0.48}, {"overtop.wav", 22050, 0.90}};
-  int Id = FirstSound;
+  ExtractSounds(Folder.path() + '/');
   for (const auto& [Name, BytesASecond, Seconds] : Rows) {
-    EXPECT_EQ(FileOfSound(Id), Name);
-    ASSERT_EQ(ExtractResource(Id++, "CUSTOM", Folder.filePath(Name)), 0);
     const QByteArray Bytes = ReadFile(Folder.filePath(Name));
     EXPECT_EQ(Bytes.mid(28, 4), Tone::Number(static_cast<quint32>(BytesASecond), 4)) << Name;
     EXPECT_NEAR(static_cast<double>(Bytes.size() - 44), BytesASecond * Seconds, 2) << Name;
   }
 }
 
-TEST(Extraction, WritesInPlaceAndOnlyIntoPlainFiles) {
+TEST(Extraction, WritesOnlyWhatDiffersInPlaceAndOnlyIntoPlainFiles) {
   const SoundRecorder Folder;
   const QString Longer = WriteFile(Folder.NameInFolder("longer"), QByteArray(100'000, 'x'));
   ASSERT_EQ(ExtractResource(103, "CUSTOM", Longer), 0);
   const QByteArray After = ReadFile(Longer);
   EXPECT_EQ(After.size(), 100'000);
   EXPECT_TRUE(After.startsWith("RIFF") && After.endsWith('x'));
+  const QDateTime LongAgo(QDate(2001, 1, 1), QTime(0, 0));
+  const auto SetTime = [&] {
+    QFile File(Longer);
+    return File.open(QIODevice::ReadWrite) && File.setFileTime(LongAgo, QFileDevice::FileModificationTime);
+  };
+  ASSERT_TRUE(SetTime());
+  ASSERT_EQ(ExtractResource(103, "CUSTOM", Longer), 0);
+  EXPECT_EQ(QFileInfo(Longer).lastModified(), LongAgo) << "the same bytes are there already";
 
   const QString Target = WriteFile(Folder.NameInFolder("target"), "mine");
   const QString Planted = Folder.NameInFolder("planted"), Pipe = Folder.NameInFolder("pipe");
