@@ -48,12 +48,12 @@ def satin():
         return flank - 0.10 + 0.42 * gleam - 0.24 * dusk
 
     def pixel(x, y):
-        thread = 0.010 * math.sin(x * 1.9 + y * 1.25) + 0.012 * noise.at(x * 0.9, y * 0.06)
-        relief = 0.15 + 1.0 * smooth(715, 900, y)
-        tone = shade(x, y) + thread - 0.5
+        thread = 0.014 * math.sin(x * 1.9 + y * 1.25) + 0.03 * noise.at(x * 0.9, y * 0.06)
+        relief = 0.15 + 1.2 * smooth(690, 930, y)
+        tone = shade(x, y) - 0.5
         # Red up and green down by these shares leave the luminance as it is.
-        hue = -20 * max(-0.5, min(0.5, tone)) * (1 - smooth(715, 900, y))
-        r, g, b = ramp(tones, 0.51 + relief * tone)
+        hue = -20 * max(-0.5, min(0.5, tone)) * (1 - smooth(690, 930, y))
+        r, g, b = ramp(tones, 0.51 + relief * tone + thread)
         return r + hue, g - 0.18 * hue, b
 
     save_pixels("Satin", 7, pixel, quality=92)
