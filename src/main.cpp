@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "app/Application.h"
+#include "widgets/X11.h"
 
 namespace {
 
@@ -16,23 +17,27 @@ constexpr int IconDelay = 50;  // ms
 
 int main(int argc, char** argv) {
   // The game places its windows beside each other, which Wayland forbids: prefer the other way in where there is one.
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
-      qEnvironmentVariableIsSet("DISPLAY")) {
-    qputenv("QT_QPA_PLATFORM", "xcb");
-  }
+  const bool PrefersX11 = !qEnvironmentVariableIsSet("QT_QPA_PLATFORM") &&
+                          qEnvironmentVariableIsSet("WAYLAND_DISPLAY") && qEnvironmentVariableIsSet("DISPLAY");
+  if (PrefersX11) qputenv("QT_QPA_PLATFORM", "xcb");
   QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*=false"));  // a broken picture is no news
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication app(argc, argv);
+  if (PrefersX11) qunsetenv("QT_QPA_PLATFORM");  // a browser that the game opens chooses for itself
+  blunko::HearKeysReleasedOnce();
   QApplication::setApplicationName(QStringLiteral("TollmoorBlunko"));
   QApplication::setDesktopFileName(QStringLiteral("tollmoor-blunko"));
   QTimer::singleShot(IconDelay, [] { QApplication::setWindowIcon(QIcon(QStringLiteral(":/art/icon.svg"))); });
   QApplication::setQuitOnLastWindowClosed(false);
 
   int Result = 0;
+  bool AnswerIsDue = false;
   {
     blunko::Application Program(blunko::Folders::OfProgram());
     if (Program.Main()) Result = QApplication::exec();
+    AnswerIsDue = Program.VersionCheckFailed();
   }
   // Qt would wait for the answer of a name server that the version check has long given up.
-  std::_Exit(Result);
+  if (AnswerIsDue) std::_Exit(Result);
+  return Result;
 }

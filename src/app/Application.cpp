@@ -107,7 +107,10 @@ bool Application::CheckForUpdate() {
     return true;
   }
   switch (Util.UtilCheckVersion(VersionMajor, VersionMinor, VersionRevision)) {
-    case TbkUtil::VersionError: Screen.MessageBox("An error has occurred. Please try again later."); break;
+    case TbkUtil::VersionError:
+      versionCheckFailed = true;
+      Screen.MessageBox("An error has occurred. Please try again later.");
+      break;
     case TbkUtil::UpToDate: Screen.MessageBox("You have the latest version."); break;
     case TbkUtil::NewerExists:
       if (Screen.AskYesNo("A newer version is available, would you like to go to the web site to download it?",

@@ -32,6 +32,8 @@ class Application : public Program, private HighRollersScreen {
 
   /// The start, up to the shown table. False: the program ends without having shown it.
   bool Main();
+  /// Whether an answer from the network was given up, and may still be on its way.
+  bool VersionCheckFailed() const { return versionCheckFailed; }
 
   /// Opens the help at a page, "Name.htm" or "Name.htm#anchor".
   void ShowHelpTopic(const QString& Topic);
@@ -82,6 +84,7 @@ class Application : public Program, private HighRollersScreen {
   void ViewLists() override;
   QString Today() const override;
 
+  bool versionCheckFailed = false;
   OptionsPanel* options = nullptr;
   frmScorePad* scorePad = nullptr;
   frmNewGame* newGame = nullptr;

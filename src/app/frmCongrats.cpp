@@ -70,7 +70,7 @@ frmCongrats::frmCongrats(Game& Table, frmMain& Main) : PlacedDialog(&Main), game
   FixButtonColours(*this);
 }
 
-QPoint frmCongrats::Corner() const { return main.TableCorner(); }
+void frmCongrats::Place() { PlaceFrame(*this, main.TableCorner()); }
 
 void frmCongrats::showEvent(QShowEvent* Event) {
   PlacedDialog::showEvent(Event);

@@ -26,7 +26,7 @@ class frmCongrats : public PlacedDialog {
   ButtonPlus* cmdQuit;
 
  protected:
-  QPoint Corner() const override;
+  void Place() override;
   void showEvent(QShowEvent* Event) override;
   void changeEvent(QEvent* Event) override;
 

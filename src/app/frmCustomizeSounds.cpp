@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -106,14 +107,6 @@ void frmCustomizeSounds::Form_Load() {
   lstEvents->setCurrentRow(0);
   lstEvents_Click();
   FixButtonColours(*this);
-}
-
-/// Centred on the owner. The window's frame isn't known yet; it will be like the owner's.
-/// In the middle of the owner, whose frame the dialog's own will be like.
-QPoint frmCustomizeSounds::Corner() const {
-  const QRect Around = parentWidget()->frameGeometry();
-  const QSize Frame = Around.size() - parentWidget()->size();
-  return Around.center() - QRect(QPoint(), sizeHint() + Frame).center();
 }
 
 std::string& frmCustomizeSounds::ChosenFile() { return EventFile[static_cast<std::size_t>(lstEvents->currentRow())]; }

@@ -34,7 +34,6 @@ class frmCustomizeSounds : public PlacedDialog {
   ButtonPlus* cmdCancel;
 
  protected:
-  QPoint Corner() const override;
   bool eventFilter(QObject* Watched, QEvent* Event) override;
 
  private:

@@ -105,7 +105,7 @@ SvgBox* frmHighRollers::NewPicture(const char* Name, const QString& Resource) {
   return Made;
 }
 
-QPoint frmHighRollers::Corner() const { return frmMain->pos(); }
+void frmHighRollers::Place() { PlaceFrame(*this, frmMain->pos()); }
 
 void frmHighRollers::ShowHighRollerLists() {
   rollers.LoadHighRollers();

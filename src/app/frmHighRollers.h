@@ -34,7 +34,7 @@ class frmHighRollers : public PlacedDialog {
   ButtonPlus* cmdOK;
 
  protected:
-  QPoint Corner() const override;
+  void Place() override;
 
  private:
   QLabel* NewHeading(const char* Name, const QString& Caption);

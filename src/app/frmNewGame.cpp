@@ -185,7 +185,7 @@ void frmNewGame::Form_Activate() {
   cmdPlay->setFocus();
 }
 
-QPoint frmNewGame::Corner() const { return frmMain->pos() + QPoint(Pixels(OffsetLeft), Pixels(OffsetTop)); }
+void frmNewGame::Place() { PlaceFrame(*this, frmMain->pos() + QPoint(Pixels(OffsetLeft), Pixels(OffsetTop))); }
 
 void frmNewGame::optNumPlayers_Click(int Index) {
   const SavedSetup Layout = SavedSetup::ForPlayers(Index + 1);

@@ -41,7 +41,7 @@ class frmNewGame : public PlacedDialog {
 
  protected:
   bool eventFilter(QObject* Watched, QEvent* Event) override;
-  QPoint Corner() const override;
+  void Place() override;
 
  private:
   void Build();

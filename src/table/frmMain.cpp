@@ -13,13 +13,16 @@
 #include "storage/GameSettings.h"
 #include "table/KeyCodes.h"
 #include "widgets/Fonts.h"
+#include "widgets/PlacedDialog.h"
 #include "widgets/Twips.h"
 
 namespace blunko {
 
 namespace {
 
-constexpr int TableWidth = 5895, TableHeight = 7695;  // twips
+// All in twips.
+constexpr int WindowWidth = 5865, WindowHeight = 7695;
+constexpr int TableWidth = 5895;
 constexpr int TrayLeft = 195, TrayWidth = 5470, TrayHeight = 945;
 constexpr int Tray1Top = 435, Tray2Top = 1380;
 constexpr int SampleTop = 1410;
@@ -56,7 +59,7 @@ frmMain::frmMain(Game& Table) : QWidget(nullptr, Qt::Window), game(Table) {
   PlaceControls();
   BuildMenus();
   ConnectControls();
-  setFixedSize(Pixels(TableWidth), Pixels(TableHeight));
+  setFixedSize(Pixels(WindowWidth), Pixels(WindowHeight));
   FixButtonColours(*this);
   ShowControls();
 }
@@ -70,7 +73,7 @@ void frmMain::PlaceControls() {
   picGameTray = Panel(new QWidget(this), "picGameTray", TwipsRect(0, 0, TableWidth, 7725));
   picGameTray->setAutoFillBackground(true);
   Image1 = new StretchedPicture(picGameTray);
-  Panel(Image1, "Image1", TwipsRect(0, 0, TableWidth, TableHeight));
+  Panel(Image1, "Image1", TwipsRect(0, 0, TableWidth, WindowHeight));
 
   picTray1 = new DiceTray(picGameTray);
   Panel(picTray1, "picTray1", TwipsRect(TrayLeft, Tray1Top, TrayWidth, TrayHeight));
@@ -113,16 +116,16 @@ void frmMain::PlaceControls() {
     return Made;
   };
   const auto BigButton = [&](const char* Name, const QString& Caption, int Left) {
-    ButtonPlus* Made = Button(Name, Caption, QRect(Left, 166, 158, 38));
+    ButtonPlus* Made = Button(Name, Caption, QRect(Left, 162, 175, 37));
     Made->setFont(FontOf(Typeface::Verdana, 11.25, true));
     return Made;
   };
-  ARCmdNewGame = BigButton("ARCmdNewGame", QStringLiteral("New Game"), 118);
-  cmdRoll = BigButton("cmdRoll", QStringLiteral("Roll Dice"), 30);
-  cmdPassDice = BigButton("cmdPassDice", QStringLiteral("Pass Dice"), 205);
-  cmdOptions = Button("cmdOptions", QStringLiteral("Options"), QRect(11, 470, 119, 34));
-  cmdHighRollers = Button("cmdHighRollers", QStringLiteral("High Rollers"), QRect(137, 470, 119, 34));
-  cmdExit = Button("cmdExit", QStringLiteral("Exit"), QRect(263, 470, 119, 34));
+  ARCmdNewGame = BigButton("ARCmdNewGame", QStringLiteral("New Game"), 108);
+  cmdRoll = BigButton("cmdRoll", QStringLiteral("Roll Dice"), 13);
+  cmdPassDice = BigButton("cmdPassDice", QStringLiteral("Pass Dice"), 203);
+  cmdOptions = Button("cmdOptions", QStringLiteral("Options"), QRect(13, 464, 115, 36));
+  cmdHighRollers = Button("cmdHighRollers", QStringLiteral("High Rollers"), QRect(138, 464, 115, 36));
+  cmdExit = Button("cmdExit", QStringLiteral("Exit"), QRect(263, 464, 115, 36));
 
   const auto Text = [this](const char* Name, const QString& Caption, QRect Place, double Points, bool Bold,
                            Qt::Alignment Side) {
@@ -133,13 +136,13 @@ void frmMain::PlaceControls() {
     Made->setAlignment(Side | Qt::AlignVCenter);
     return Made;
   };
-  lblStatus = Text("lblStatus", {}, QRect(6, Pixels(StatusTop), 381, 30), 15.75, false, Qt::AlignHCenter);
-  lblLastRoll = Text("lblLastRoll", {}, QRect(6, 236, 381, 24), 11.25, true, Qt::AlignHCenter);
-  Label1 = Text("Label1", QStringLiteral("Current Player:"), QRect(10, 300, 180, 26), 11.25, true, Qt::AlignRight);
-  lblPlayer = Text("lblPlayer", {}, QRect(200, 300, 185, 26), 11.25, true, Qt::AlignLeft);
-  lblTurnScoreLabel = Text("lblTurnScoreLabel", QStringLiteral("Score This Turn:"), QRect(10, 330, 180, 26), 11.25,
+  lblStatus = Text("lblStatus", {}, QRect(5, Pixels(StatusTop), 381, 30), 15.75, false, Qt::AlignHCenter);
+  lblLastRoll = Text("lblLastRoll", {}, QRect(5, 237, 381, 23), 11.25, true, Qt::AlignHCenter);
+  Label1 = Text("Label1", QStringLiteral("Current Player:"), QRect(13, 300, 178, 26), 11.25, true, Qt::AlignRight);
+  lblPlayer = Text("lblPlayer", {}, QRect(200, 300, 180, 26), 11.25, true, Qt::AlignLeft);
+  lblTurnScoreLabel = Text("lblTurnScoreLabel", QStringLiteral("Score This Turn:"), QRect(13, 330, 178, 26), 11.25,
                            true, Qt::AlignRight);
-  lblTurnScore = Text("lblTurnScore", {}, QRect(200, 330, 185, 26), 11.25, true, Qt::AlignLeft);
+  lblTurnScore = Text("lblTurnScore", {}, QRect(200, 330, 180, 26), 11.25, true, Qt::AlignLeft);
   lblMnuGame = Text("lblMnuGame", QStringLiteral("Game"), QRect(12, 5, 38, 17), 8.25, false, Qt::AlignLeft);
   lblMnuHelp = Text("lblMnuHelp", QStringLiteral("Help"), QRect(60, 5, 34, 17), 8.25, false, Qt::AlignLeft);
   for (FitLabel* Menu : {lblMnuGame, lblMnuHelp}) {
@@ -289,11 +292,7 @@ void frmMain::SetStripWidth(int Width) {
   picGameTray->move(Width, 0);
 }
 
-void frmMain::CentreOnScreen() {
-  const QRect Screen = screen()->availableGeometry();
-  const QPoint Corner = Screen.center() - QPoint(width() / 2, height() / 2);
-  move(qMax(Corner.x(), Screen.left()), qMax(Corner.y(), Screen.top()));  // a small screen cuts the lower edge
-}
+void frmMain::CentreOnScreen() { CentreFrame(*this, screen()->geometry()); }
 
 void frmMain::showEvent(QShowEvent* Event) {
   QWidget::showEvent(Event);

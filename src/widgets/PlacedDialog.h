@@ -1,23 +1,27 @@
 #pragma once
 
 #include <QDialog>
+#include <QMargins>
 
 namespace blunko {
 
-/// A dialog with a place of its own beside the table. It goes there before it has a frame: after that a move would
-/// count the frame in, whose size nobody knows yet.
+/// The frame round a window: as it is, or before the window is shown, as it will be.
+QMargins FrameOf(QWidget& Window);
+/// Puts a window where the corner of its frame belongs on the screen. Its size is final.
+void PlaceFrame(QWidget& Window, QPoint Corner);
+/// Puts a window with its frame in the middle of a place on the screen, and moves it in where the screen ends.
+void CentreFrame(QWidget& Window, const QRect& Place);
+
+/// A dialog that comes up at its place, frame included: in the middle of its owner's frame, unless it has another.
 class PlacedDialog : public QDialog {
  public:
   using QDialog::QDialog;
 
-  void setVisible(bool Visible) override {
-    if (Visible && !isVisible()) move(Corner());
-    QDialog::setVisible(Visible);
-  }
+  void setVisible(bool Visible) override;
 
  protected:
-  /// Where the corner of the frame belongs, in screen coordinates.
-  virtual QPoint Corner() const = 0;
+  /// Goes to where the dialog belongs; called before it comes up, in its final size.
+  virtual void Place();
 };
 
 }  // namespace blunko

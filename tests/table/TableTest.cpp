@@ -27,7 +27,7 @@ TEST_F(TheTable, EveryControlIsAtItsPlace) {
     Rows.push_back({QStringLiteral("picMarker(%1)").arg(i), "picGameTray", Marks[i] * 15, 300, 75, 75});
   }
   ExpectPlaces(Form, Rows);
-  EXPECT_EQ(Form.size(), QSize(393, 513));
+  EXPECT_EQ(Form.size(), QSize(391, 513));
   EXPECT_EQ(Form.minimumSize(), Form.maximumSize());
   EXPECT_FALSE(Form.windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
   EXPECT_TRUE(Form.windowFlags().testFlag(Qt::WindowMinimizeButtonHint));

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QMargins>
+
+#include <optional>
+
+class QImage;
+class QWidget;
+
+namespace blunko {
+
+/// What only an X server and its window manager can be asked for. On other platforms nothing happens.
+
+/// The frame that the window manager will put round a window that isn't shown yet; nothing when it doesn't say.
+std::optional<QMargins> FrameToCome(QWidget& Window);
+
+/// From now on a key that is held down is let go once, at its end, not with every repeat.
+void HearKeysReleasedOnce();
+
+/// Prepares a window that will change its width at its left edge: what it shows stays at the right edge, and what comes
+/// to light at the left shows `Whole`, the window in its new size, before the program has painted anything.
+void HoldRightEdge(QWidget& Window, const QImage& Whole);
+
+}  // namespace blunko
