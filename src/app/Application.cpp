@@ -35,7 +35,7 @@ std::int16_t To16Bits(int LogicalPixels) {
 Application::Application(const Folders& Where, std::unique_ptr<NumberSource> Dice)
     : folders(Where),
       InfoFile(Where.InfoPath()),
-      Settings(Where),
+      Settings(Where, InfoFile),
       Numbers(std::move(Dice)),
       Uniform(0),
       Table(State, Controls, View, Screen, *this, *Numbers),

@@ -1,32 +1,58 @@
 #pragma once
 
 #include <QByteArray>
-#include <QLockFile>
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 namespace blunko {
+
+// Everything here that one operating system does in another way than the next is done in the .cpp, and nowhere else.
 
 /// What stands under a path. `Foreign`: nothing of ours, such as a folder, a pipe or a file too large. `Unreadable`: it
 /// may well be good, but the system didn't hand it out.
 enum class FileState { Whole, Missing, Foreign, Unreadable };
 
-/// All bytes of a plain file of at most `Limit` bytes; nothing in every state but `Whole`.
+/// All bytes of a plain file of at most `Limit` bytes; nothing in every state but `Whole`. Waits for nobody, whatever
+/// stands there.
 std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit, FileState* State = nullptr);
 
-/// Replaces the file by these bytes: afterwards it holds either the old or the new ones, whole. False on failure.
+/// Tells a file from what another copy of the program, or its owner, made of it, without reading it.
+struct FileStamp {
+  quint64 Device = 0, Number = 0;  ///< which file it is; 0 where there is none
+  qint64 Size = -1;
+  qint64 Changed = 0;  ///< ns since 1970
+  bool operator==(const FileStamp&) const = default;
+};
+FileStamp StampOf(const QString& Path);
+
+/// Replaces the file by these bytes: afterwards it holds either the old or the new ones, whole. Its owner and its mode
+/// stay. False on failure. Where another copy may replace it as well, the caller holds its lock.
 bool ReplaceFile(const QString& Path, const QByteArray& Bytes);
 
-/// Keeps a second copy of the program away from the file while it is read, changed and written. A lock that can't be
-/// had within a quarter of a second is done without: the window stands still meanwhile, and a dialog writes several
-/// keys.
+/// Moves what can't be ours out of the file's place, under a name of its own, and tells so on standard error: nothing
+/// is overwritten. `Wanted` says what it doesn't hold.
+bool SetAside(const QString& Path, const char* Wanted);
+
+/// A folder, no link, that belongs to the user and is closed to everybody else.
+bool IsPrivate(const QString& Folder);
+
+/// Keeps other copies of the program away from the files of a folder while one of them is read, changed and written.
+/// The system itself frees what a killed copy held. It can't be taken twice at a time, not even by the same copy.
 class FileLock {
  public:
+  /// Waits for another copy as long as a slow disk may take; one that holds it for longer has come to a stop.
   explicit FileLock(const QString& Path);
+  ~FileLock();
+  Q_DISABLE_COPY_MOVE(FileLock)
+  /// False: the file must be left alone.
+  bool IsHeld() const { return held; }
 
  private:
-  QLockFile lock;
+  struct OfSystem;
+  std::unique_ptr<OfSystem> lock;
+  bool held = false;
 };
 
 }  // namespace blunko

@@ -7,9 +7,6 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include "storage/FileAccess.h"
 
 namespace blunko {
@@ -19,13 +16,6 @@ namespace {
 const QString FolderName = QStringLiteral("tollmoor-blunko");
 constexpr QFile::Permissions OwnerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
 constexpr qint64 LargestState = 1 << 20;  // bytes of a file
-
-/// A real folder, no link, that belongs to the user and is closed to everybody else.
-bool IsPrivate(const QString& Folder) {
-  struct stat Found {};
-  return lstat(QFile::encodeName(Folder).constData(), &Found) == 0 && S_ISDIR(Found.st_mode) &&
-         Found.st_uid == geteuid() && (Found.st_mode & 0777) == 0700;
-}
 
 bool CanWriteIn(const QString& Folder) { return QFileInfo(Folder).isDir() && QFileInfo(Folder).isWritable(); }
 
@@ -46,7 +36,7 @@ void TakeOver(const QString& From, const QString& To) {
   if (From == To || QFileInfo::exists(To)) return;
   const FileLock Lock(To);
   const auto Bytes = ReadWholeFile(From, LargestState);
-  if (Bytes && !QFileInfo::exists(To)) ReplaceFile(To, *Bytes);
+  if (Lock.IsHeld() && Bytes && !QFileInfo::exists(To)) ReplaceFile(To, *Bytes);
 }
 
 }  // namespace

@@ -49,7 +49,9 @@ int ReadScale(const IniInfo& Info) {
   return Scale >= 100 && Scale <= 400 ? Scale : 100;
 }
 
-GameSettings::GameSettings(const Folders& Where) : folders(Where), OwnInfo(Where.InfoPath()) { LoadSettings(); }
+GameSettings::GameSettings(const Folders& Where, const IniInfo& Info) : folders(Where), OwnInfo(Info) {
+  LoadSettings();
+}
 
 void GameSettings::setScanned(bool Value) {
   scanned = Value;
@@ -157,6 +159,7 @@ void GameSettings::LoadAppearance() {
 
   background = QFile::decodeName(OwnInfo.ReadInfoPath(BackgroundKey, QFile::encodeName(DefaultBackground())));
   if (background != NoBackground && !FileExists(background)) {
+    const WrittenTogether Repair(OwnInfo);
     const bool HaveDefault = FileExists(DefaultBackground());
     setBackground(HaveDefault ? DefaultBackground() : NoBackground);
     setTextColourIndex(HaveDefault ? White : 0);

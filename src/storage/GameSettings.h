@@ -25,7 +25,9 @@ int ReadScale(const IniInfo& Info);
 /// The settings, each with its default. They are read once; a setter stores its value and writes that one key at once.
 class GameSettings {
  public:
-  explicit GameSettings(const Folders& Where);
+  explicit GameSettings(const Folders& Where) : GameSettings(Where, IniInfo(Where.InfoPath())) {}
+  /// Shares what `Info` has read.
+  GameSettings(const Folders& Where, const IniInfo& Info);
 
   bool Scanned() const { return scanned; }
   void setScanned(bool Value);
@@ -41,6 +43,8 @@ class GameSettings {
   void setBackground(const QString& Path);
   bool SoundDisabled() const { return soundDisabled; }
   void setSoundDisabled(bool Value);
+  /// While the result lives, setters gather what they write; it goes into the file at once.
+  WrittenTogether WriteTogether() const { return WrittenTogether(OwnInfo); }
   /// 5000 or 10000; read from the file at every call, like the next.
   int ReadPlayToScore() const;
   void WritePlayToScore(int Value) const;

@@ -1,11 +1,8 @@
 #include "storage/HighRollers.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QStringList>
 
 #include <algorithm>
-#include <cstdio>
 
 #include "storage/NameRule.h"
 
@@ -15,7 +12,6 @@ namespace {
 
 constexpr qint64 LargestFile = 1 << 16;  // bytes; the lists have some hundreds
 constexpr int LongestScore = 5;          // digits
-constexpr int MostSetAside = 1000;       // files
 const QString LineEnd = QStringLiteral("\r\n");
 
 const char DefaultEntries[] =
@@ -101,6 +97,7 @@ QByteArray UnscrambleText(QByteArray Text) {
 void HighRollers::LoadHighRollers() {
   if (CatchUp() == FileState::Whole) return;
   const FileLock Lock(path);
+  if (!Lock.IsHeld()) return;
   const FileState State = CatchUp();  // another copy may have been faster
   if (State == FileState::Whole || State == FileState::Unreadable) return;
   Take(RollerLists::Default());
@@ -109,7 +106,8 @@ void HighRollers::LoadHighRollers() {
 
 void HighRollers::ResetHighRollers() {
   const FileLock Lock(path);
-  if (MakeRoom(CatchUp()) && utilStoreLists(ScrambleText(RollerLists::Default().Text()))) unsaved.clear();
+  if (Lock.IsHeld() && MakeRoom(CatchUp()) && utilStoreLists(ScrambleText(RollerLists::Default().Text())))
+    unsaved.clear();
 }
 
 FileState HighRollers::CatchUp() {
@@ -127,7 +125,7 @@ void HighRollers::Add(WhichList List, const HighRoller& Entry) {
   const FileState State = CatchUp();
   Insert(lists.*List, Entry);
   unsaved.emplace_back(List, Entry);
-  if (MakeRoom(State)) SaveHighRollers();
+  if (Lock.IsHeld() && MakeRoom(State)) SaveHighRollers();
 }
 
 void HighRollers::Take(const RollerLists& Saved) {
@@ -135,19 +133,9 @@ void HighRollers::Take(const RollerLists& Saved) {
   for (const auto& [List, Entry] : unsaved) Insert(lists.*List, Entry);
 }
 
-/// Whether a save may take the file's place. What stands there, but can't be lists, is moved out of the way: nothing is
-/// overwritten.
+/// Whether a save may take the file's place.
 bool HighRollers::MakeRoom(FileState State) const {
-  if (State != FileState::Foreign) return State != FileState::Unreadable;
-  for (int i = 1; i <= MostSetAside; ++i) {
-    const QString Aside = path + QStringLiteral(".damaged%1").arg(i);
-    if (QFileInfo::exists(Aside)) continue;
-    if (!QFile::rename(path, Aside)) break;
-    std::fprintf(stderr, "%s holds no high rollers lists: moved to %s\n", qPrintable(path), qPrintable(Aside));
-    return true;
-  }
-  std::fprintf(stderr, "%s holds no high rollers lists, and can't be moved away\n", qPrintable(path));
-  return false;
+  return State == FileState::Foreign ? SetAside(path, "high rollers lists") : State != FileState::Unreadable;
 }
 
 void HighRollers::SaveHighRollers() {

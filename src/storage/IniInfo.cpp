@@ -1,6 +1,9 @@
 #include "storage/IniInfo.h"
 
+#include <QDateTime>
 #include <QList>
+
+#include <optional>
 
 #include "storage/FileAccess.h"
 
@@ -9,6 +12,7 @@ namespace blunko {
 namespace {
 
 constexpr qint64 LargestFile = 1 << 20;  // bytes; an info file has some thousands
+constexpr qint64 ClockStep = 20;         // ms: the longest time in which a file system's clock may stand still
 const QByteArray Section = "Info";
 const QByteArray ByteOrderMark = "\xEF\xBB\xBF";
 
@@ -100,7 +104,44 @@ QByteArray WithBytes(const QByteArray& Text, const QString& Key, const QByteArra
   return Mark + Lines.join();
 }
 
+/// A value as it came: letters or the bytes of a path.
+struct Written {
+  QString Key;
+  QString Letters;
+  std::optional<QByteArray> Path{};
+};
+
+QByteArray WithAll(QByteArray Text, const QList<Written>& Values) {
+  for (const Written& Value : Values) {
+    const QByteArray Letters = IsUtf8(Text) ? Value.Letters.toUtf8() : Value.Letters.toLatin1();
+    Text = WithBytes(Text, Value.Key, Value.Path.value_or(Letters));
+  }
+  return Text;
+}
+
 }  // namespace
+
+/// The file as this run knows it.
+class IniInfo::File {
+ public:
+  explicit File(const QString& Path) : path(Path) {}
+
+  const QByteArray& Text();
+  void Write(const Written& Value);
+  void Gather() { ++gathering; }
+  void Release();
+
+ private:
+  void Save();
+  std::optional<QByteArray> Load(bool Locked);
+
+  const QString path;
+  QByteArray text;
+  FileStamp stamp;         ///< of the file whose text this is
+  bool known = false;      ///< the text is still right while the stamp is the same
+  QList<Written> unsaved;  ///< values that the file hasn't taken yet
+  int gathering = 0;
+};
 
 QString IniInfo::FindValue(const QByteArray& Text, const QString& Key) {
   const QByteArray Bytes = FindBytes(Text, Key);
@@ -108,36 +149,72 @@ QString IniInfo::FindValue(const QByteArray& Text, const QString& Key) {
 }
 
 QByteArray IniInfo::WithValue(const QByteArray& Text, const QString& Key, const QString& Value) {
-  return WithBytes(Text, Key, IsUtf8(Text) ? Value.toUtf8() : Value.toLatin1());
+  return WithAll(Text, {{Key, Value.left(LongestValue)}});
 }
 
+IniInfo::IniInfo(const QString& Path) : InfoPath(Path), file(std::make_shared<File>(Path)) {}
+
 QString IniInfo::ReadInfoValue(const QString& Key, const QString& Default) const {
-  const QString Value = FindValue(ReadWholeFile(InfoPath, LargestFile).value_or(QByteArray()), Key);
+  const QString Value = FindValue(file->Text(), Key);
   return Value.isEmpty() ? Default : Value;
 }
 
 void IniInfo::WriteInfoValue(const QString& Key, const QString& Value) const {
-  WriteFile([&](const QByteArray& Text) { return WithValue(Text, Key, Value); });
+  file->Write({Key, Value.left(LongestValue)});
 }
 
 QByteArray IniInfo::ReadInfoPath(const QString& Key, const QByteArray& Default) const {
-  const QByteArray Path =
-      FindBytes(ReadWholeFile(InfoPath, LargestFile).value_or(QByteArray()), Key).left(LongestValue);
+  const QByteArray Path = FindBytes(file->Text(), Key).left(LongestValue);
   return Path.isEmpty() ? Default : Path;
 }
 
 void IniInfo::WriteInfoPath(const QString& Key, const QByteArray& Path) const {
-  if (Path.size() > LongestValue) return;
-  WriteFile([&](const QByteArray& Text) { return WithBytes(Text, Key, Path); });
+  if (Path.size() <= LongestValue) file->Write({Key, {}, Path});
 }
 
-void IniInfo::WriteFile(const std::function<Change>& Changed) const {
-  const FileLock Lock(InfoPath);
+WrittenTogether::WrittenTogether(const IniInfo& Info) : file(Info.file) { file->Gather(); }
+WrittenTogether::~WrittenTogether() { file->Release(); }
+
+const QByteArray& IniInfo::File::Text() {
+  const FileStamp Now = StampOf(path);
+  if (known && Now == stamp) return text;
+  text = WithAll(Load(false).value_or(QByteArray()), unsaved);
+  stamp = Now;
+  // What was read the moment after it changed may change once more and look the same.
+  known = QDateTime::currentMSecsSinceEpoch() - Now.Changed / 1'000'000 > ClockStep;
+  return text;
+}
+
+void IniInfo::File::Write(const Written& Value) {
+  unsaved.removeIf([&Value](const Written& Old) { return Old.Key.compare(Value.Key, Qt::CaseInsensitive) == 0; });
+  unsaved << Value;
+  known = false;
+  if (gathering == 0) Save();
+}
+
+void IniInfo::File::Release() {
+  if (--gathering == 0 && !unsaved.isEmpty()) Save();
+}
+
+void IniInfo::File::Save() {
+  const FileLock Lock(path);
+  const auto Old = Lock.IsHeld() ? Load(true) : std::nullopt;
+  if (!Old) return;
+  const QByteArray New = WithAll(*Old, unsaved);
+  if (New == *Old || (New.size() <= LargestFile && ReplaceFile(path, New))) unsaved.clear();
+}
+
+/// What the file holds: an empty text without one, nothing when it may be good but can't be had. What can't be an info
+/// file is moved away, under the lock.
+std::optional<QByteArray> IniInfo::File::Load(bool Locked) {
   FileState State = FileState::Whole;
-  const auto Text = ReadWholeFile(InfoPath, LargestFile, &State);
-  if (!Text && State != FileState::Missing) return;  // not ours to replace
-  const QByteArray New = Changed(Text.value_or(QByteArray()));
-  if (New != Text) ReplaceFile(InfoPath, New);
+  const auto Bytes = ReadWholeFile(path, LargestFile, &State);
+  if (Bytes && !Bytes->contains('\0')) return Bytes;
+  if (State == FileState::Unreadable) return std::nullopt;
+  if (State == FileState::Missing) return QByteArray("");
+  if (Locked) return SetAside(path, "settings") ? std::optional<QByteArray>("") : std::nullopt;
+  const FileLock Lock(path);
+  return Lock.IsHeld() ? Load(true) : std::nullopt;
 }
 
 }  // namespace blunko

@@ -52,6 +52,7 @@ SavedSetup SavedSetup::ForPlayers(int NumPlayers) {
 }
 
 SavedSetup SavedSetup::Load(const IniInfo& Info, const GameSettings& Settings) {
+  const WrittenTogether Defaults(Info);
   bool IsNumber = false;
   const int Count = Info.ReadInfoValue(CountKey, QStringLiteral("1")).trimmed().toInt(&IsNumber);
   SavedSetup Setup = ForPlayers(IsNumber && Count >= 1 && Count <= Seats ? Count : 1);
@@ -87,6 +88,7 @@ void SavedSetup::Save(const IniInfo& Info, const GameSettings& Settings) const {
         (Used ? (Player.IsComputer ? QStringLiteral("True") : QStringLiteral("False")) : UnusedSeat) + FieldSeparator;
     StyleFields += (HasStyle ? QString::number(Player.Style) : QStringLiteral("%1%1").arg(i)) + FieldSeparator;
   }
+  const WrittenTogether Saving(Info);
   Settings.WritePlayToScore(PlayToScore);
   Settings.WriteBreakInScore(BreakInScore);
   Info.WriteInfoValue(CountKey, QString::number(NumPlayers));

@@ -1,5 +1,6 @@
-#include <QElapsedTimer>
+#include <QThread>
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <thread>
 
@@ -48,31 +49,34 @@ TEST(IniText, ChangesNothingButTheKey) {
 
 TEST(IniText, ReadsBackWhatItWrote) {
   const QString Long(IniInfo::LongestValue + 40, QLatin1Char('x'));
-  const std::pair<QString, QString> Rows[] = {
-      {" a b ", " a b "},
-      {"\"quoted\"", "\"quoted\""},
-      {"\"", "\""},
-      {"[a]", "[a]"},
-      {"a=b", "a=b"},
-      {"a\nB=1\r", "a B=1 "},
-      {QStringLiteral("M\u00FCller\u00A4"), QStringLiteral("M\u00FCller\u00A4")},
-      {Long, Long.left(IniInfo::LongestValue)}};
+  const std::pair<QString, QString> Rows[] = {{" a b ", " a b "},
+                                              {"\"quoted\"", "\"quoted\""},
+                                              {"\"", "\""},
+                                              {"[a]=b", "[a]=b"},
+                                              {"a\nB=1\r", "a B=1 "},
+                                              {QStringLiteral("a") + QChar(0), "a "},
+                                              {"M\u00FCller\u00A4", "M\u00FCller\u00A4"},
+                                              {Long, Long.left(IniInfo::LongestValue)}};
   for (const QByteArray Mark : {"", "\xEF\xBB\xBF"}) {
     for (const auto& [Written, Read] : Rows) {
       const QByteArray Text = IniInfo::WithValue(Mark + "[Info]\nLast=1\n", "Key", Written);
       EXPECT_EQ(IniInfo::FindValue(Text, "Key"), Read) << Written.toStdString();
-      EXPECT_EQ(IniInfo::FindValue(Text, "Last"), QStringLiteral("1")) << Written.toStdString();
-      EXPECT_TRUE(IniInfo::FindValue(Text, "B").isEmpty()) << Written.toStdString();
+      EXPECT_EQ(IniInfo::FindValue(Text, "Last"), "1") << Written.toStdString();
+      EXPECT_FALSE(Text.contains('\0'));
     }
   }
   EXPECT_EQ(IniInfo::WithValue("", "Key", "\u00A4\u65E5"), "[Info]\nKey=\xA4?\n");
-  EXPECT_EQ(IniInfo::WithValue("\xEF\xBB\xBF[Info]\n", "Key", "\u00A4\u65E5"),
-            "\xEF\xBB\xBF[Info]\nKey=\xC2\xA4\xE6\x97\xA5\n");
+  EXPECT_EQ(IniInfo::WithValue("\xEF\xBB\xBF[Info]\n", "Key", "\u65E5"), "\xEF\xBB\xBF[Info]\nKey=\xE6\x97\xA5\n");
 }
 
-TEST(IniInfo, PathsAreBytesInEitherCoding) {
+/// An info file in a place of its own.
+struct IniInfoTest : testing::Test {
   const Place place;
-  const IniInfo Info(place.Path("x.ini"));
+  const QString path = place.Path("x.ini");
+  const IniInfo Info{path};
+};
+
+TEST_F(IniInfoTest, PathsAreBytesInEitherCoding) {
   const QByteArray Path = "/T\xC3\xB6ne/\xFF";
   for (const QByteArray Mark : {"", "\xEF\xBB\xBF"}) {
     place.Put("x.ini", Mark + "[Info]\n");
@@ -84,102 +88,129 @@ TEST(IniInfo, PathsAreBytesInEitherCoding) {
   }
 }
 
-TEST(IniInfo, WritesAtOnceAndLeavesNothingBeside) {
-  const Place place;
-  const IniInfo Info(place.Path("x.ini"));
-  EXPECT_EQ(Info.ReadInfoValue("Names", "none"), QStringLiteral("none"));
+TEST_F(IniInfoTest, WritesAtOnceOrTogetherAndLeavesNothingBeside) {
+  EXPECT_EQ(Info.ReadInfoValue("Names", "none"), "none");
   EXPECT_TRUE(place.Names().isEmpty()) << "reading makes no file";
+  place.Put("x.ini.saving", "what a killed copy left");
   Info.WriteInfoValue("Names", QString::fromLatin1("A\xA4"));
-  Info.WriteInfoValue("names", QString::fromLatin1("B\xA4"));
-  Info.WriteInfoValue("Empty", "");
-  EXPECT_EQ(place.Get("x.ini"), QByteArray("[Info]\nNames=B\xA4\nEmpty=\n"));
-  EXPECT_EQ(Info.ReadInfoValue("Empty", "default"), QStringLiteral("default"));
+  const IniInfo Copy = Info;
+  {
+    const WrittenTogether Save(Copy);
+    Info.WriteInfoValue("Empty", "");
+    {
+      const WrittenTogether Inner(Info);
+      Copy.WriteInfoValue("names", QString::fromLatin1("B\xA4"));
+    }
+    EXPECT_EQ(place.Get("x.ini"), "[Info]\nNames=A\xA4\n");
+    EXPECT_EQ(Info.ReadInfoValue("Names"), QString::fromLatin1("B\xA4"));
+  }
+  EXPECT_EQ(place.Get("x.ini"), "[Info]\nNames=B\xA4\nEmpty=\n");
+  EXPECT_EQ(Info.ReadInfoValue("Empty", "default"), "default");
   EXPECT_EQ(place.Names(), QStringList("x.ini"));
 }
 
-TEST(IniInfo, LeavesAloneWhatItCannotRead) {
-  const Place place;
-  place.Mkdir("folder.ini", 0755);
-  const std::pair<const char*, QByteArray> Files[] = {{"huge.ini", QByteArray(2 << 20, '\n')},
-                                                      {"secret.ini", "[Info]\nKey=old\n"}};
-  for (const auto& [Name, Text] : Files) place.Put(Name, Text);
-  ASSERT_EQ(mkfifo(place.Path("pipe.ini").toLatin1().constData(), 0600), 0);
-  chmod(place.Path("secret.ini").toLatin1().constData(), 0);
-  const QStringList Before = place.Names();
-  {
-    const Unprivileged Nobody(place);
-    for (const QString& Name : Before) {
-      const IniInfo Info(place.Path(Name));
-      Info.WriteInfoValue("Key", "new");
-      EXPECT_EQ(Info.ReadInfoValue("Key", "default"), QStringLiteral("default")) << Name.toStdString();
+TEST_F(IniInfoTest, SeesWhatOthersWrote) {
+  for (const QByteArray Value : {"1", "2", "3", "12"}) {
+    place.Put("x.ini", "[Info]\nKey=" + Value);
+    EXPECT_EQ(Info.ReadInfoValue("Key"), Value) << "in the same file, at once";
+  }
+  QThread::msleep(50);
+  EXPECT_EQ(Info.ReadInfoValue("Key"), "12");
+  ReplaceFile(path, "[Info]\nKey=34");
+  EXPECT_EQ(Info.ReadInfoValue("Key"), "34");
+}
+
+TEST_F(IniInfoTest, MovesAwayWhatIsNoInfoFile) {
+  const std::pair<const char*, std::function<void()>> Rows[] = {
+      {"huge", [this] { place.Put("x.ini", QByteArray(2 << 20, '\n')); }},
+      {"no text", [this] { place.Put("x.ini", QByteArray("[\0I\0n\0f\0o\0", 10)); }},
+      {"folder", [this] { place.Put("x.ini/inside", ""); }},
+      {"pipe", [this] { mkfifo(QFile::encodeName(path).constData(), 0600); }},
+      {"device", [this] { QFile::link("/dev/zero", path); }}};
+  QStringList Aside;
+  for (const auto& [What, Plant] : Rows) {
+    Plant();
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(Info.ReadInfoValue("Key", "default"), "default") << What;
+    Aside << QStringLiteral("x.ini.damaged%1").arg(Aside.size() + 1);
+    EXPECT_EQ(place.Names(), Aside) << What;
+    EXPECT_NE(testing::internal::GetCapturedStderr(), "") << What;
+    Info.WriteInfoValue("Key", What);
+    EXPECT_EQ(place.Get("x.ini"), QByteArray("[Info]\nKey=") + What + '\n');
+    QFile::remove(path);
+  }
+  place.Put("x.ini", "[Info]\n;" + QByteArray((1 << 20) - 10, 'c'));
+  Info.WriteInfoValue("Key", "too much");
+  EXPECT_EQ(Info.ReadInfoValue("Key"), "too much");
+  EXPECT_EQ(place.Names().size(), Aside.size() + 1) << "a write makes no such file";
+}
+
+TEST_F(IniInfoTest, WhatCannotBeSavedHoldsForTheRunAndGoesWithTheNextWrite) {
+  const QByteArray Old = "[Info]\nKey=old\n;" + QByteArray(40000, 'c') + '\n';
+  place.Mkdir("", 0755);
+  const auto Mode = [this](const QString& Of, int Bits) {
+    ASSERT_EQ(chmod(QFile::encodeName(place.Path(Of)).constData(), static_cast<mode_t>(Bits)), 0);
+  };
+  const std::pair<const char*, std::function<void()>> Rows[] = {
+      {"read-only folder", [&] { Mode("", 0555); }},
+      {"read-only file", [&] { Mode("x.ini", 0444); }},
+      {"secret file", [&] { Mode("x.ini", 0); }},
+      // Short texts wait in a buffer until the flush, long ones are written at once: both must be noticed.
+      {"full disk", [] { FullDisk::Begin(500); }}};
+  for (const auto& [What, Spoil] : Rows) {
+    for (const QByteArray& Text : {Old, Old.left(600) + '\n'}) {
+      place.Put("x.ini", Text);
+      Spoil();
+      {
+        const Unprivileged Nobody(place);
+        Info.WriteInfoValue("Key", "new");
+        EXPECT_EQ(Info.ReadInfoValue("Key"), "new") << What;
+      }
+      FullDisk::End();
+      Mode("", 0755);
+      Mode("x.ini", 0644);
+      EXPECT_TRUE(place.Get("x.ini") == Text) << What;
+      EXPECT_EQ(place.Names(), QStringList("x.ini")) << What;
+      Info.WriteInfoValue("Other", "1");
+      EXPECT_EQ(IniInfo::FindValue(place.Get("x.ini"), "Key"), "new") << What;
     }
   }
-  EXPECT_EQ(place.Names(), Before);
-  chmod(place.Path("secret.ini").toLatin1().constData(), 0644);
-  for (const auto& [Name, Text] : Files) EXPECT_TRUE(place.Get(Name) == Text) << Name;
 }
 
-TEST(IniInfo, LosesNothingOnAFullDisk) {
-  // Short files wait in a buffer until the flush, long ones are written at once: both must be noticed.
-  for (const int Bytes : {600, 40000}) {
-    const Place place;
-    const QByteArray Text = "[Info]\nKey=old\n;" + QByteArray(Bytes, 'c') + '\n';
-    place.Put("x.ini", Text);
-    {
-      const FullDisk Full(500);
-      IniInfo(place.Path("x.ini")).WriteInfoValue("Key", "new");
-      EXPECT_FALSE(ReplaceFile(place.Path("other"), Text));
-    }
-    EXPECT_EQ(place.Get("x.ini"), Text);
-    EXPECT_EQ(place.Names(), QStringList("x.ini"));
-  }
-}
-
-TEST(IniInfo, GivesUpAtOnceInAFolderThatTakesNoFile) {
-  const Place place;
-  place.Put("ro/x.ini", "[Info]\nKey=old\n");
-  place.Mkdir("ro", 0555);
-  QElapsedTimer Clock;
-  Clock.start();
+TEST_F(IniInfoTest, CopiesLoseNothingOfEachOther) {
+  constexpr int Copies = 3, Writes = 15;
+  std::vector<std::thread> Others;
   {
-    const Unprivileged Nobody(place);
-    for (int i = 0; i < 4; ++i) {
-      IniInfo(place.Path("ro/x.ini")).WriteInfoValue("Key", "new");
-      IniInfo(place.Path("no such folder/x.ini")).WriteInfoValue("Key", "new");
+    const FileLock Slow(path);
+    for (int Copy = 0; Copy < Copies; ++Copy) {
+      Others.emplace_back([this, Copy] {
+        const IniInfo Own(path);
+        for (int i = 0; i < Writes; ++i) Own.WriteInfoValue(QStringLiteral("Key%1of%2").arg(i).arg(Copy), "1");
+      });
     }
+    QThread::msleep(400);
+    ReplaceFile(path, "[Info]\nOurs=1\n");
   }
-  EXPECT_LT(Clock.elapsed(), 1000) << "eight writes that wait for a lock would take two seconds";
-  EXPECT_EQ(place.Get("ro/x.ini"), QByteArray("[Info]\nKey=old\n"));
-  place.Mkdir("ro", 0755);
+  for (std::thread& Other : Others) Other.join();
+  EXPECT_EQ(place.Get("x.ini").count("=1\n"), Copies * Writes + 1);
+  EXPECT_EQ(Info.ReadInfoValue("Ours"), "1");
 }
 
-TEST(IniInfo, TwoCopiesThatWriteDifferentKeysBothWin) {
-  const Place place;
-  const QString Path = place.Path("x.ini");
-  const IniInfo Info(Path);
-  Info.WriteInfoValue("Old", "1");
-  std::thread Other;
-  {
-    const FileLock Lock(Path);  // this copy is about to change the file...
-    const QByteArray Text = place.Get("x.ini");
-    Other = std::thread([&Info] { Info.WriteInfoValue("Theirs", "2"); });
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    EXPECT_TRUE(Info.ReadInfoValue("Theirs").isEmpty()) << "...so the other one waits";
-    ReplaceFile(Path, IniInfo::WithValue(Text, "Ours", "3"));
-  }
-  Other.join();
-  EXPECT_EQ(place.Get("x.ini"), QByteArray("[Info]\nOld=1\nOurs=3\nTheirs=2\n"));
-}
-
-TEST(FileAccess, ReplacesTheFileBehindALinkAndKeepsItsMode) {
+TEST(ReplaceFile, KeepsLinkOwnerAndMode) {
   const Place place;
   place.Put("real/x.ini", "old");
-  chmod(place.Path("real/x.ini").toLatin1().constData(), 0600);
+  const QByteArray Real = QFile::encodeName(place.Path("real/x.ini"));
+  chmod(Real.constData(), 0600);
+  const uid_t Owner = geteuid() == 0 ? 65534 : geteuid();
+  ASSERT_EQ(chown(Real.constData(), Owner, static_cast<gid_t>(-1)), 0);
   ASSERT_TRUE(QFile::link(place.Path("real/x.ini"), place.Path("x.ini")));
   EXPECT_TRUE(ReplaceFile(place.Path("x.ini"), "new"));
-  EXPECT_EQ(place.Get("real/x.ini"), QByteArray("new"));
+  EXPECT_EQ(place.Get("real/x.ini"), "new");
   EXPECT_TRUE(QFileInfo(place.Path("x.ini")).isSymLink());
-  EXPECT_EQ(QFile::permissions(place.Path("real/x.ini")) & 0x0FF, QFile::Permissions());
+  struct stat Found {};
+  ASSERT_EQ(stat(Real.constData(), &Found), 0);
+  EXPECT_EQ(Found.st_mode & 0777, 0600U);
+  EXPECT_EQ(Found.st_uid, Owner) << "also when the administrator saves";
 }
 
 }  // namespace

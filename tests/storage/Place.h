@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -55,20 +56,21 @@ class Unprivileged {
   const bool root = geteuid() == 0;
 };
 
-/// For a while no file can grow beyond a number of bytes, as on a full disk.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t Bytes) {
+/// From `Begin` to `End` no file can grow beyond a number of bytes, as on a full disk.
+struct FullDisk {
+  static void Begin(rlim_t Bytes) {
     std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit Now{Bytes, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &Now);
+    Set(Bytes);
   }
-  ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before); }
-  Q_DISABLE_COPY_MOVE(FullDisk)
+  static void End() { Set(RLIM_INFINITY); }
 
  private:
-  rlimit before{};
+  static void Set(rlim_t Bytes) {
+    rlimit Limit{};
+    getrlimit(RLIMIT_FSIZE, &Limit);
+    Limit.rlim_cur = std::min(Bytes, Limit.rlim_max);
+    setrlimit(RLIMIT_FSIZE, &Limit);
+  }
 };
 
 }  // namespace blunko::test
