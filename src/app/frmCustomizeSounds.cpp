@@ -127,6 +127,7 @@ void frmCustomizeSounds::cmdBrowse_Click() {
 void frmCustomizeSounds::cmdTest_Click() { game.desktop.PlaySoundFile(ChosenFile(), true); }
 
 void frmCustomizeSounds::cmdOK_Click() {
+  const WrittenTogether Save = settings.WriteTogether();
   for (std::size_t i = 0; i < SoundEvents.size(); ++i) settings.SetSound(SoundEvents[i].Name, EventFile[i]);
   accept();
 }

@@ -233,8 +233,11 @@ void OptionsPanel::lblColor_Click(int Index) {
 
 void OptionsPanel::ARCmdSaveOptions_Click() {
   if (!open) return;
-  StoreOptionControls();
-  ApplyOptions();
+  {
+    const WrittenTogether Save = settings.WriteTogether();
+    StoreOptionControls();
+    ApplyOptions();
+  }
   Close();
 }
 
@@ -271,6 +274,7 @@ void OptionsPanel::ApplyOptions() {
 }
 
 void OptionsPanel::RevertOptions() {
+  const WrittenTogether Save = settings.WriteTogether();
   settings.setBackground(SavedBackground);
   form.ShowBackground(SavedBackground);
   form.ColourLabels(settings.TextColour());

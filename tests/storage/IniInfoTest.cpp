@@ -133,7 +133,7 @@ TEST_F(IniInfoTest, MovesAwayWhatIsNoInfoFile) {
     testing::internal::CaptureStderr();
     EXPECT_EQ(Info.ReadInfoValue("Key", "default"), "default") << What;
     Aside << QStringLiteral("x.ini.damaged%1").arg(Aside.size() + 1);
-    EXPECT_EQ(place.Names(), Aside) << What;
+    ASSERT_EQ(place.Names(), Aside) << What;
     EXPECT_NE(testing::internal::GetCapturedStderr(), "") << What;
     Info.WriteInfoValue("Key", What);
     EXPECT_EQ(place.Get("x.ini"), QByteArray("[Info]\nKey=") + What + '\n');
