@@ -54,12 +54,13 @@ frmViewHRListYN::frmViewHRListYN(Module1& State, Desktop& Screen, const IniInfo&
 
   lblCheck = new TickBox(this);
   lblCheck->setObjectName(QStringLiteral("lblCheck"));
-  lblDontAsk = new FitLabel(QStringLiteral("Don't ask me this again today."), this);
+  lblDontAsk = new WordButton(QStringLiteral("Don't ask me this again today."), this);
   lblDontAsk->setObjectName(QStringLiteral("lblDontAsk"));
   lblDontAsk->setFont(FontOf(Typeface::Verdana, 8.25));
+  lblDontAsk->setFocusPolicy(Qt::NoFocus);  // the box has it
   lblCheck->setAccessibleName(lblDontAsk->text());
   connect(lblCheck, &QAbstractButton::clicked, this, &frmViewHRListYN::lblCheck_Click);
-  connect(lblDontAsk, &FitLabel::clicked, lblCheck, &QAbstractButton::click);
+  connect(lblDontAsk, &QPushButton::clicked, lblCheck, &QAbstractButton::click);
 
   auto* Buttons = new QHBoxLayout;
   Buttons->setSpacing(16);

@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QDialog>
+#include <QLabel>
 
 #include "engine/Desktop.h"
 #include "engine/Module1.h"
 #include "storage/IniInfo.h"
 #include "widgets/ButtonPlus.h"
-#include "widgets/FitLabel.h"
 #include "widgets/TickBox.h"
+#include "widgets/WordButton.h"
 
 namespace blunko {
 
@@ -24,7 +25,7 @@ class frmViewHRListYN : public QDialog {
   ButtonPlus* cmdYes;
   ButtonPlus* cmdNo;
   TickBox* lblCheck;  ///< empty at first: on a day for which it is ticked, nobody is asked
-  FitLabel* lblDontAsk;
+  WordButton* lblDontAsk;
 
  private:
   ButtonPlus* NewButton(const char* Name, const QString& Caption, const char* Word);

@@ -36,14 +36,15 @@ frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
   cmdExit->setBackColor(ExitColour);
   cmdExit->setDefault(true);
   lblCheck = Make<TickBox>(this, "lblCheck");
-  lblShowWelcome =
-      MakeText<FitLabel>(this, "lblShowWelcome", "Show this welcome window", FontOf(Typeface::Verdana, 8.25));
+  lblShowWelcome = Make<WordButton>(this, "lblShowWelcome", "Show this welcome window");
+  lblShowWelcome->setFont(FontOf(Typeface::Verdana, 8.25));
+  lblShowWelcome->setFocusPolicy(Qt::NoFocus);  // the box has it
   lblShowWelcome->setForeColor(palette().color(QPalette::WindowText));
   lblCheck->setAccessibleName(lblShowWelcome->text());
   const QString Stored = info.ReadInfoValue(WelcomeKey);
   lblCheck->setChecked(Stored.isEmpty() || Stored == QLatin1String("1"));
   connect(lblCheck, &QAbstractButton::clicked, this, &frmWelcome::lblCheck_Click);
-  connect(lblShowWelcome, &FitLabel::clicked, lblCheck, &QAbstractButton::click);
+  connect(lblShowWelcome, &QPushButton::clicked, lblCheck, &QAbstractButton::click);
   FixButtonColours(*this);
   LayOut();
   cmdExit->setFocus();

@@ -6,8 +6,8 @@
 #include "engine/Desktop.h"
 #include "storage/IniInfo.h"
 #include "widgets/ButtonPlus.h"
-#include "widgets/FitLabel.h"
 #include "widgets/TickBox.h"
+#include "widgets/WordButton.h"
 
 namespace blunko {
 
@@ -27,7 +27,7 @@ class frmWelcome : public QDialog {
   ButtonPlus* cmdWebSite;
   ButtonPlus* cmdExit;
   TickBox* lblCheck;
-  FitLabel* lblShowWelcome;
+  WordButton* lblShowWelcome;
 
  signals:
   /// A page of the help is wanted, "Name.htm" or "Name.htm#anchor".

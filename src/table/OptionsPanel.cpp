@@ -122,7 +122,7 @@ void OptionsPanel::Build() {
   auto* Grid = new QGridLayout;
   Grid->setSpacing(3);
   for (int i = 0; i < 8; ++i) {
-    lblColor[i] = new Swatch(QColor(SwatchColours[i]), i == 0 || i == 4 ? Qt::white : Qt::black);
+    lblColor[i] = new Swatch(QColor(SwatchColours[i]));
     lblColor[i]->setObjectName(QStringLiteral("lblColor(%1)").arg(i));
     lblColor[i]->setAccessibleName(QLatin1String(ColourNames[i]));
     lblColor[i]->setToolTip(QLatin1String(ColourNames[i]));

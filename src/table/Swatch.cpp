@@ -3,12 +3,12 @@
 #include <QPainter>
 
 #include "widgets/Colours.h"
+#include "widgets/FocusRing.h"
 #include "widgets/TickBox.h"
 
 namespace blunko {
 
-Swatch::Swatch(const QColor& Colour, const QColor& Tick, QWidget* Parent)
-    : QAbstractButton(Parent), colour(Colour), tick(Tick) {
+Swatch::Swatch(const QColor& Colour, QWidget* Parent) : QAbstractButton(Parent), colour(Colour) {
   setCheckable(true);
   setFocusPolicy(Qt::StrongFocus);
 }
@@ -16,11 +16,11 @@ Swatch::Swatch(const QColor& Colour, const QColor& Tick, QWidget* Parent)
 void Swatch::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
   Painter.setRenderHint(QPainter::Antialiasing);
-  Painter.setPen(hasFocus() ? QPen(FocusColour, 2) : QPen(QColor(60, 60, 60), 1));
+  Painter.setPen(QPen(QColor(60, 60, 60), 1));
   Painter.setBrush(colour);
-  const qreal Inset = hasFocus() ? 1 : 0.5;
-  Painter.drawRect(QRectF(rect()).adjusted(Inset, Inset, -Inset, -Inset));
-  if (isChecked()) DrawTick(Painter, QRectF(rect()), tick);
+  Painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+  if (hasFocus()) DrawFocusRing(Painter, rect(), 2);
+  if (isChecked()) DrawTick(Painter, QRectF(rect()), BestGround(colour));
 }
 
 }  // namespace blunko

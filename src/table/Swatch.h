@@ -10,7 +10,7 @@ class Swatch : public QAbstractButton {
   Q_OBJECT
 
  public:
-  Swatch(const QColor& Colour, const QColor& Tick, QWidget* Parent = nullptr);
+  explicit Swatch(const QColor& Colour, QWidget* Parent = nullptr);
 
   QSize sizeHint() const override { return {24, 22}; }
 
@@ -18,7 +18,7 @@ class Swatch : public QAbstractButton {
   void paintEvent(QPaintEvent* Event) override;
 
  private:
-  QColor colour, tick;
+  QColor colour;
 };
 
 }  // namespace blunko

@@ -143,12 +143,15 @@ void frmMain::PlaceControls() {
   lblTurnScoreLabel = Text("lblTurnScoreLabel", QStringLiteral("Score This Turn:"), QRect(13, 330, 178, 26), 11.25,
                            true, Qt::AlignRight);
   lblTurnScore = Text("lblTurnScore", {}, QRect(200, 330, 180, 26), 11.25, true, Qt::AlignLeft);
-  lblMnuGame = Text("lblMnuGame", QStringLiteral("Game"), QRect(12, 5, 38, 17), 8.25, false, Qt::AlignLeft);
-  lblMnuHelp = Text("lblMnuHelp", QStringLiteral("Help"), QRect(60, 5, 34, 17), 8.25, false, Qt::AlignLeft);
-  for (FitLabel* Menu : {lblMnuGame, lblMnuHelp}) {
-    Menu->setCursor(Qt::PointingHandCursor);
-    Menu->setFocusPolicy(Qt::TabFocus);
-  }
+  const auto MenuWord = [this](const char* Name, const QString& Caption, QRect Place) {
+    auto* Made = new WordButton(Caption, picGameTray);
+    Made->setObjectName(QLatin1String(Name));
+    Made->setGeometry(Place);
+    Made->setFont(FontOf(Typeface::Verdana, 8.25));
+    return Made;
+  };
+  lblMnuGame = MenuWord("lblMnuGame", QStringLiteral("Game"), QRect(6, 0, 50, 20));
+  lblMnuHelp = MenuWord("lblMnuHelp", QStringLiteral("Help"), QRect(58, 0, 44, 20));
 }
 
 void frmMain::BuildMenus() {
@@ -189,12 +192,10 @@ void frmMain::ConnectControls() {
   connect(cmdExit, &QPushButton::clicked, this, [this] { close(); });
   connect(cmdOptions, &QPushButton::clicked, this, &frmMain::optionsAsked);
   connect(cmdHighRollers, &QPushButton::clicked, this, &frmMain::highRollersAsked);
-  const auto PopUp = [this](FitLabel* Label, QMenu* Menu) {
-    connect(Label, &FitLabel::clicked, this,
-            [Label, Menu] { Menu->popup(Label->mapToGlobal(QPoint(0, Label->height()))); });
-  };
-  PopUp(lblMnuGame, mnuGame);
-  PopUp(lblMnuHelp, mnuHelpMe);
+  for (const auto& [Word, Menu] : {std::pair(lblMnuGame, mnuGame), {lblMnuHelp, mnuHelpMe}}) {
+    connect(Word, &QPushButton::clicked, this,
+            [Word = Word, Menu = Menu] { Menu->popup(Word->mapToGlobal(QPoint(0, Word->height()))); });
+  }
 }
 
 void frmMain::ShowControls() {
@@ -277,6 +278,7 @@ void frmMain::ColourLabels(std::uint32_t Colour) {
   for (FitLabel* Label : picGameTray->findChildren<FitLabel*>(Qt::FindDirectChildrenOnly)) {
     Label->setForeColor(OfBgr(Colour));
   }
+  for (WordButton* Menu : {lblMnuGame, lblMnuHelp}) Menu->setForeColor(OfBgr(Colour));
 }
 
 void frmMain::ShowSampleFaces(int Base) {

@@ -10,6 +10,7 @@
 #include "widgets/ButtonPlus.h"
 #include "widgets/FitLabel.h"
 #include "widgets/Pictures.h"
+#include "widgets/WordButton.h"
 
 class QMenu;
 
@@ -71,8 +72,8 @@ class frmMain : public QWidget {
   ButtonPlus* cmdOptions;
   ButtonPlus* cmdHighRollers;
   ButtonPlus* cmdExit;
-  FitLabel* lblMnuGame;
-  FitLabel* lblMnuHelp;
+  WordButton* lblMnuGame;
+  WordButton* lblMnuHelp;
   QMenu* mnuGame;
   QMenu* mnuHelpMe;
 

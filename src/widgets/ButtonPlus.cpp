@@ -1,14 +1,11 @@
 #include "widgets/ButtonPlus.h"
 
-#include <QEnterEvent>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QPainter>
-#include <QPainterPath>
-#include <QPalette>
 #include <QStyle>
-#include <QStyleOptionButton>
 
 #include "widgets/Colours.h"
+#include "widgets/FocusRing.h"
 #include "widgets/Fonts.h"
 
 namespace blunko {
@@ -18,10 +15,21 @@ namespace {
 constexpr qreal Radius = 6;      // px
 constexpr int CaptionSpace = 8;  // px at either side
 
+QColor Faded(QColor Colour, float Alpha) {
+  Colour.setAlphaF(Alpha);
+  return Colour;
+}
+
+/// The style of that name is the plain look of a desktop that has no theme; on a dark one, light faces would glare.
+bool IsThemeActive() {
+  constexpr double Light = 0.4;
+  return QApplication::style()->name() != QLatin1String("windows") &&
+         Luminance(QApplication::palette().color(QPalette::Button)) > Light;
+}
+
 }  // namespace
 
-ButtonPlus::ButtonPlus(const QString& Caption, QWidget* Parent)
-    : QPushButton(Caption, Parent), backColor(palette().color(QPalette::Button)) {
+ButtonPlus::ButtonPlus(const QString& Caption, QWidget* Parent) : QPushButton(Caption, Parent), backColor(ButtonBlue) {
   setFont(FontOf(Typeface::Verdana, 9.75));
   setAttribute(Qt::WA_Hover);
   setAutoDefault(true);  // Enter presses it, too
@@ -37,63 +45,53 @@ QSize ButtonPlus::sizeHint() const {
   return {Text.width() + 4 * CaptionSpace, Text.height() + 16};
 }
 
-void ButtonPlus::enterEvent(QEnterEvent* Event) {
-  QPushButton::enterEvent(Event);
-  update();
-}
-
-void ButtonPlus::leaveEvent(QEvent* Event) {
-  QPushButton::leaveEvent(Event);
-  update();
-}
-
 void ButtonPlus::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
   Painter.setRenderHint(QPainter::Antialiasing);
-  const bool Lit = isEnabled() && underMouse();
   const bool Down = isDown();
   const QRectF Face = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -2.5).translated(0, Down ? 1 : 0);
+  if (isEnabled()) {
+    DrawFace(Painter, Face);
+  } else {  // flat and see-through
+    Painter.setPen(QPen(Faded(backColor.darker(210), 0.45F), 1));
+    Painter.setBrush(Faded(backColor, 0.4F));
+    Painter.drawRoundedRect(Face, Radius, Radius);
+  }
+  if (hasFocus()) DrawFocusRing(Painter, rect(), Radius + 1.5);
 
-  if (!Down && isEnabled()) {  // a soft edge of shadow lifts the button off the table
-    Painter.setPen(Qt::NoPen);
-    Painter.setBrush(QColor(0, 0, 0, 70));
-    Painter.drawRoundedRect(Face.translated(0, 1.5), Radius, Radius);
-  }
-
-  QColor Base = backColor;
-  if (Lit) Base = Base.lighter(108);
-  QLinearGradient Light(Face.topLeft(), Face.bottomLeft());
-  Light.setColorAt(0, Base.lighter(Down ? 96 : 112));
-  Light.setColorAt(0.5, Base);
-  Light.setColorAt(1, Base.darker(Down ? 104 : 116));
-  Painter.setBrush(isEnabled() ? QBrush(Light) : QBrush(Base.darker(103)));
-  Painter.setPen(QPen(isEnabled() ? backColor.darker(210) : backColor.darker(150), 1));
-  Painter.drawRoundedRect(Face, Radius, Radius);
-  if (isEnabled() && !Down) {
-    Painter.setPen(QPen(QColor(255, 255, 255, 150), 1));
-    Painter.setBrush(Qt::NoBrush);
-    Painter.drawRoundedRect(Face.adjusted(1, 1, -1, -1), Radius - 1, Radius - 1);
-  }
-  if (hasFocus()) {
-    Painter.setPen(QPen(FocusColour, 2));
-    Painter.setBrush(Qt::NoBrush);
-    Painter.drawRoundedRect(Face.adjusted(1, 1, -1, -1), Radius - 1, Radius - 1);
-  }
-
-  const QRect Room = Face.toRect().adjusted(CaptionSpace, 0, -CaptionSpace, 0);
-  QFont Font = font();
-  while (Font.pixelSize() > 7 && QFontMetrics(Font).size(Qt::TextShowMnemonic, text()).width() > Room.width()) {
-    Font.setPixelSize(Font.pixelSize() - 1);
-  }
-  Painter.setFont(Font);
-  const QColor Ink = qGray(backColor.rgb()) > 110 ? QColor(24, 24, 32) : QColor(255, 255, 255);
-  Painter.setPen(isEnabled() ? Ink : QColor::fromRgbF(Ink.redF(), Ink.greenF(), Ink.blueF(), 0.42F));
+  const QRectF Room = Face.adjusted(CaptionSpace, 0, -CaptionSpace, 0);
+  Painter.setFont(FittedFont(font(), text(), Room.width()));
+  const bool DarkInk = BestGround(backColor) == QColor(Qt::black);
+  const QColor Ink = DarkInk ? QColor(20, 24, 48) : QColor(Qt::white);
+  Painter.setPen(isEnabled() ? Ink : Faded(Ink, 0.5F));
   const bool ShowLetter = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0;
   Painter.drawText(Room, Qt::AlignCenter | (ShowLetter ? Qt::TextShowMnemonic : Qt::TextHideMnemonic), text());
 }
 
+void ButtonPlus::DrawFace(QPainter& Painter, const QRectF& Face) const {
+  const bool Down = isDown();
+  if (!Down) {  // a soft edge of shadow lifts the button off the table
+    Painter.setPen(Qt::NoPen);
+    Painter.setBrush(Faded(Qt::black, 0.28F));
+    Painter.drawRoundedRect(Face.translated(0, 1.5), Radius, Radius);
+  }
+  const QColor Base = underMouse() && !Down ? backColor.lighter(109) : backColor;
+  QLinearGradient Light(Face.topLeft(), Face.bottomLeft());
+  Light.setColorAt(0, Down ? Base.darker(118) : Base.lighter(112));
+  Light.setColorAt(0.5, Down ? Base.darker(108) : Base);
+  Light.setColorAt(1, Down ? Base : Base.darker(116));
+  Painter.setBrush(Light);
+  Painter.setPen(QPen(backColor.darker(210), 1));
+  Painter.drawRoundedRect(Face, Radius, Radius);
+  if (Down) return;
+  Painter.setPen(QPen(Faded(Qt::white, 0.55F), 1));
+  Painter.setBrush(Qt::NoBrush);
+  Painter.drawRoundedRect(Face.adjusted(1, 1, -1, -1), Radius - 1, Radius - 1);
+}
+
 void FixButtonColours(QWidget& Form) {
-  const QColor Face = QGuiApplication::palette().color(QPalette::Button);
+  if (IsThemeActive()) return;
+  const QColor Face = QApplication::palette().color(QPalette::Button);
   for (ButtonPlus* Button : Form.findChildren<ButtonPlus*>()) Button->setBackColor(Face);
 }
 

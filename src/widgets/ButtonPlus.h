@@ -6,7 +6,7 @@
 namespace blunko {
 
 /// The button of all forms: a rounded face in its back colour, with a look of its own for hover, press, focus and
-/// disabled. Its caption shrinks rather than being cut.
+/// disabled; these differ in shape and light, not in colour alone. Its caption shrinks rather than being cut.
 class ButtonPlus : public QPushButton {
   Q_OBJECT
 
@@ -21,15 +21,15 @@ class ButtonPlus : public QPushButton {
 
  protected:
   void paintEvent(QPaintEvent* Event) override;
-  void enterEvent(QEnterEvent* Event) override;
-  void leaveEvent(QEvent* Event) override;
 
  private:
+  void DrawFace(QPainter& Painter, const QRectF& Face) const;
+
   QColor backColor;
 };
 
-/// Gives every button of the form the system's button-face colour: no desktop here has the one theme under which the
-/// forms' own colours stand.
+/// Buttons keep their own colours on a desktop with a theme, as long as it is a light one; else every button of the
+/// form gets the system's button-face colour.
 void FixButtonColours(QWidget& Form);
 
 }  // namespace blunko

@@ -7,7 +7,13 @@ namespace blunko {
 /// The blue ground of the score pad and of the dialogs that celebrate.
 inline const QColor FormBlue(2, 127, 255);
 
-/// Frame of whatever the keyboard acts on.
-inline const QColor FocusColour(255, 178, 36);
+/// The face of a button that has no colour of its own.
+inline const QColor ButtonBlue(159, 202, 255);
+
+/// How light a colour is: 0 for black to 1 for white, as contrasts are reckoned.
+double Luminance(const QColor& Colour);
+
+/// Black or white, whichever stands out better from the colour.
+QColor BestGround(const QColor& Ink);
 
 }  // namespace blunko

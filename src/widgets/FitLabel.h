@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+#include "widgets/HaloText.h"
+
 namespace blunko {
 
 /// A label on a picture: no background, and its text shrinks and narrows rather than being cut. Its colour is
@@ -16,17 +18,12 @@ class FitLabel : public QLabel {
   void setForeColor(const QColor& Colour);
   QColor ForeColor() const { return foreColor; }
 
- signals:
-  void clicked();
-
  protected:
   void paintEvent(QPaintEvent* Event) override;
-  void mouseReleaseEvent(QMouseEvent* Event) override;
-  void mousePressEvent(QMouseEvent* Event) override;
-  void keyPressEvent(QKeyEvent* Event) override;
 
  private:
   QColor foreColor = Qt::black;
+  HaloText words;
 };
 
 }  // namespace blunko

@@ -1,10 +1,13 @@
 #include "widgets/Fonts.h"
 
+#include <QFontMetricsF>
 #include <QStringList>
 
 namespace blunko {
 
 namespace {
+
+constexpr int SmallestText = 9;  // px
 
 QStringList Families(Typeface Face) {
   switch (Face) {
@@ -29,6 +32,13 @@ QFont FontOf(Typeface Face, double Points, bool Bold) {
   if (Face == Typeface::CourierNew) Font.setStyleHint(QFont::Monospace);
   Font.setPixelSize(qRound(Points * 20 / 15));
   Font.setBold(Bold);
+  return Font;
+}
+
+QFont FittedFont(QFont Font, const QString& Text, double Width) {
+  while (Font.pixelSize() > SmallestText && QFontMetricsF(Font).horizontalAdvance(Text) > Width) {
+    Font.setPixelSize(Font.pixelSize() - 1);
+  }
   return Font;
 }
 

@@ -10,4 +10,7 @@ enum class Typeface { Verdana, ComicSans, CourierNew };
 /// A font of the given size in points, taken as 20 twips each so that it keeps its proportion to the forms.
 QFont FontOf(Typeface Face, double Points, bool Bold = false);
 
+/// The font, made smaller as far as the text needs to fit the width (px), down to the least that can be read.
+QFont FittedFont(QFont Font, const QString& Text, double Width);
+
 }  // namespace blunko

@@ -2,14 +2,14 @@
 
 #include <QPainter>
 
-#include "widgets/Colours.h"
+#include "widgets/FocusRing.h"
 #include "widgets/Fonts.h"
 
 namespace blunko {
 
 namespace {
 
-constexpr int Margin = 4;  // px, room for the focus
+constexpr int Margin = FocusRingWidth + 1;  // px
 
 }  // namespace
 
@@ -30,10 +30,7 @@ void LinkLabel::paintEvent(QPaintEvent*) {
   const QColor Link = palette().color(QPalette::Link);
   Painter.setPen(isDown() ? Link.darker(130) : Link);
   Painter.drawText(rect(), Qt::AlignCenter, text());
-  if (!hasFocus()) return;
-  Painter.setRenderHint(QPainter::Antialiasing);
-  Painter.setPen(QPen(FocusColour, 2));
-  Painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), Margin, Margin);
+  if (hasFocus()) DrawFocusRing(Painter, rect(), Margin);
 }
 
 }  // namespace blunko

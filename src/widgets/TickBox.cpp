@@ -2,14 +2,13 @@
 
 #include <QPainter>
 
-#include "widgets/Colours.h"
+#include "widgets/FocusRing.h"
 
 namespace blunko {
 
 namespace {
 
 constexpr int Side = 15;  // px, of the square
-constexpr int Ring = 2;   // px around it, for the focus
 const QColor Frame(40, 40, 60);
 const QColor Tick(0, 0, 128);
 
@@ -17,7 +16,7 @@ const QColor Tick(0, 0, 128);
 
 TickBox::TickBox(QWidget* Parent) : QCheckBox(Parent) { setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); }
 
-QSize TickBox::sizeHint() const { return {Side + 2 * Ring, Side + 2 * Ring}; }
+QSize TickBox::sizeHint() const { return {Side + 2 * FocusRingWidth, Side + 2 * FocusRingWidth}; }
 
 void TickBox::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
@@ -25,8 +24,8 @@ void TickBox::paintEvent(QPaintEvent*) {
   Painter.translate((width() - Side) / 2.0, (height() - Side) / 2.0);
   const QRectF Square(0.5, 0.5, Side - 1, Side - 1);
   if (hasFocus()) {
-    Painter.setPen(QPen(FocusColour, 2));
-    Painter.drawRect(Square.adjusted(-1.5, -1.5, 1.5, 1.5));
+    constexpr qreal Around = FocusRingWidth + 0.5;
+    DrawFocusRing(Painter, Square.adjusted(-Around, -Around, Around, Around), FocusRingWidth);
   }
   Painter.setPen(QPen(Frame, 1));
   Painter.setBrush(isEnabled() && !isDown() ? Qt::white : QColor(222, 226, 234));
