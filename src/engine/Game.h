@@ -48,6 +48,11 @@ class Game {
   /// All dice take their pictures afresh from the dice set of the settings.
   void RedrawDice();
 
+  /// Whether a left click on the die box takes the die, or takes it back from the tray.
+  bool CanTake(int Index) const;
+  /// Whether a person may act at all.
+  bool PersonMayPlay() const;
+
   // Commands of a person. These look first whether a person may act at all.
   void PersonClicksDie(std::int16_t Index, std::int16_t Button);
   void PersonRolls();
@@ -85,7 +90,6 @@ class Game {
   bool PumpBeforeNewGame();
   void GiveUpGame();
   bool IsComputerTurn() const { return m.CurrentPlayer != Absent && m.PlayerIsComputer[m.CurrentPlayer]; }
-  bool PersonMayPlay() const;
   bool SomebodyIsAPerson() const;
 
   bool newGameIsPending = false;

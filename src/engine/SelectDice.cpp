@@ -98,11 +98,17 @@ void Game::MoveDieToTray(std::uint8_t Index) {
   m.TrayFace[Slot - 10] = m.DieFace[Index];
 }
 
+bool Game::CanTake(int Index) const {
+  if (Index < Dice) return m.DieUp[Index] && IsScorer(m.DieScoreCode[Index]);
+  const int FirstFree = 10 + m.TrayCountAtRoll % Dice;  // the slots before it hold dice of earlier rolls
+  const bool AnyDieUp = std::any_of(m.DieUp.begin(), m.DieUp.end(), [](bool Up) { return Up; });
+  return Index >= FirstFree && m.TrayUsed[Index - 10] && AnyDieUp;
+}
+
 void Game::UndoSelection(int Index) {
   if (m.TrayCountAtRoll == Dice) m.TrayCountAtRoll = 0;
-  const int FirstFree = 10 + m.TrayCountAtRoll;  // the slots before it hold dice of earlier rolls
-  const bool AnyDieUp = std::any_of(m.DieUp.begin(), m.DieUp.end(), [](bool Up) { return Up; });
-  if (Index < FirstFree || !m.TrayUsed[Index - 10] || !AnyDieUp) return;
+  if (!CanTake(Index)) return;
+  const int FirstFree = 10 + m.TrayCountAtRoll;
 
   for (int Slot = FirstFree; Slot <= 15; ++Slot) {
     if (!m.TrayUsed[Slot - 10]) continue;

@@ -12,6 +12,7 @@ void Game::ShowBust() {
   desktop.SetMousePointer(MousePointer::Hourglass);
   Pause(250);
   desktop.PlaySoundFile(Settings.GetSound("Blunko"), false);
+  t.Busted = t.lblStatus.Loud = true;
   for (int Blink = 0; Blink < 3; ++Blink) {
     SetStatus("BLUNKO !!!");
     Pause(100);
@@ -21,8 +22,9 @@ void Game::ShowBust() {
   SetStatus("BLUNKO !!!");
 
   constexpr std::string_view Sentence = "BLUNKO - Passing the dice.";
+  if (!Hurried) desktop.Sleep(300);
+  t.lblStatus.Loud = false;
   if (!Hurried) {
-    desktop.Sleep(300);
     for (std::size_t Length = Sentence.find('P') + 1; Length < Sentence.size() - 1; ++Length) {
       if (Sentence[Length - 1] == ' ') continue;  // a blank comes together with the letter behind it
       SetStatus(Sentence.substr(0, Length));
@@ -36,6 +38,7 @@ void Game::ShowBust() {
   desktop.Refresh();
 
   if (!Computer) desktop.Sleep(300);
+  t.Busted = false;
   desktop.SetMousePointer(MousePointer::Normal);
   if (!Computer) cmdPassDice_Click();
 }

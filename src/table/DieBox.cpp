@@ -3,9 +3,17 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <random>
+
+#include "widgets/FocusRing.h"
+
 namespace blunko {
 
 namespace {
+
+constexpr qreal RingRadius = 10;  // px
+constexpr int Roughness = 9;      // of 255: how far a thread of the felt is lighter or darker than the felt
+constexpr int ShadowDepth = 12;   // px, of the border's shadow on the felt
 
 int ButtonNumber(Qt::MouseButton Button) {
   switch (Button) {
@@ -15,9 +23,32 @@ int ButtonNumber(Qt::MouseButton Button) {
   }
 }
 
+/// Felt of the colour: every dot a little off it, to both sides alike.
+QImage Threads(const QSize& Size, const QColor& Colour) {
+  QImage Felt(Size, QImage::Format_RGB32);
+  std::minstd_rand Chance;  // the same felt every time
+  for (int y = 0; y < Felt.height(); ++y) {
+    auto* Line = reinterpret_cast<QRgb*>(Felt.scanLine(y));
+    int Before = 0;
+    for (int x = 0; x < Felt.width(); ++x) {
+      const int Fresh = static_cast<int>(Chance() % (2 * Roughness + 1)) - Roughness;
+      const int Off = (Fresh + Before) / 2;  // short threads, not dust
+      Before = Fresh;
+      Line[x] = qRgb(qBound(0, Colour.red() + Off, 255), qBound(0, Colour.green() + Off, 255),
+                     qBound(0, Colour.blue() + Off, 255));
+    }
+  }
+  return Felt;
+}
+
 }  // namespace
 
-DieBox::DieBox(int Index, Bitmaps& Pictures, QWidget* Parent) : QWidget(Parent), index(Index), bitmaps(Pictures) {}
+DieBox::DieBox(int Index, Bitmaps& Pictures, QWidget* Parent)
+    : QAbstractButton(Parent), index(Index), bitmaps(Pictures) {
+  setAttribute(Qt::WA_Hover);
+  setFocusPolicy(Qt::NoFocus);
+  connect(this, &QAbstractButton::clicked, this, [this] { emit mouseUp(index, ButtonNumber(Qt::LeftButton)); });
+}
 
 void DieBox::setPicture(int Number) {
   if (picture == Number) return;
@@ -25,35 +56,81 @@ void DieBox::setPicture(int Number) {
   update();
 }
 
-void DieBox::setBackColor(const QColor& Colour) {
-  backColor = Colour;
+void DieBox::setTakeable(bool Takeable) {
+  if (takeable == Takeable) return;
+  takeable = Takeable;
+  setCursor(takeable ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  update();
+}
+
+void DieBox::setPale(bool Pale) {
+  if (pale == Pale) return;
+  pale = Pale;
   update();
 }
 
 void DieBox::paintEvent(QPaintEvent*) {
+  if (picture == 0) return;
   QPainter Painter(this);
-  Painter.fillRect(rect(), backColor);
-  const QPixmap& Die = bitmaps.Get(picture, devicePixelRatioF());
-  Painter.drawPixmap(0, 0, Die);
+  const qreal Scale = devicePixelRatioF();
+  const QPixmap& Die = bitmaps.Get(picture, Scale);
+  Painter.setOpacity(pale ? 0.3 : 1);
+  Painter.drawPixmap(QPoint(), bitmaps.ShadowOf(picture, Scale));
+  Painter.drawPixmap(QPoint(), Die);
+  if (takeable && underMouse()) {
+    Painter.setRenderHint(QPainter::Antialiasing);
+    Painter.setPen(QPen(QColor(255, 255, 255, 230), 1.5));
+    Painter.drawRoundedRect(QRectF(QPointF(), Die.deviceIndependentSize()).adjusted(0.75, 0.75, -0.75, -0.75),
+                            RingRadius, RingRadius);
+  }
+  if (hasFocus()) DrawFocusRing(Painter, rect(), RingRadius);
 }
 
-void DieBox::mousePressEvent(QMouseEvent* Event) { Event->accept(); }
+void DieBox::mousePressEvent(QMouseEvent* Event) {
+  QAbstractButton::mousePressEvent(Event);
+  Event->accept();  // the tray below has clicks of its own
+}
 
 void DieBox::mouseReleaseEvent(QMouseEvent* Event) {
-  if (rect().contains(Event->position().toPoint())) emit mouseUp(index, ButtonNumber(Event->button()));
+  QAbstractButton::mouseReleaseEvent(Event);
+  Event->accept();
+  if (Event->button() == Qt::LeftButton) return;
+  if (hitButton(Event->position().toPoint())) emit mouseUp(index, ButtonNumber(Event->button()));
 }
 
 void DiceTray::setBackColor(const QColor& Colour) {
+  if (backColor == Colour) return;
   backColor = Colour;
+  felt = {};
   update();
 }
 
 void DiceTray::paintEvent(QPaintEvent*) {
-  QPainter Painter(this);
-  Painter.fillRect(rect(), backColor);
-  const qreal Line = 1 / devicePixelRatioF();
+  if (felt.isNull() || felt.devicePixelRatio() != devicePixelRatioF()) DrawFelt(devicePixelRatioF());
+  QPainter(this).drawPixmap(QPoint(), felt);
+}
+
+/// The felt, the shadow that the border throws on it, mostly from above, and the border.
+void DiceTray::DrawFelt(qreal Scale) {
+  felt = QPixmap::fromImage(Threads((QSizeF(size()) * Scale).toSize(), backColor));
+  felt.setDevicePixelRatio(Scale);
+  QPainter Painter(&felt);
+  const QRectF Inside(rect());
+  const auto Shade = [&](QPointF Edge, QPointF Inner, int Alpha) {
+    QLinearGradient Shadow(Edge, Inner);
+    Shadow.setColorAt(0, QColor(0, 0, 0, Alpha));
+    Shadow.setColorAt(0.4, QColor(0, 0, 0, Alpha / 4));
+    Shadow.setColorAt(1, Qt::transparent);
+    Painter.fillRect(Inside, Shadow);
+  };
+  Shade(Inside.topLeft(), Inside.topLeft() + QPointF(0, ShadowDepth), 110);
+  Shade(Inside.topLeft(), Inside.topLeft() + QPointF(ShadowDepth, 0), 80);
+  Shade(Inside.topRight(), Inside.topRight() - QPointF(ShadowDepth, 0), 50);
+  Shade(Inside.bottomLeft(), Inside.bottomLeft() - QPointF(0, ShadowDepth / 2), 40);
+
+  const qreal Line = 1 / Scale;
   Painter.setPen(QPen(QColor(0, 0, 0, 190), Line));
-  Painter.drawRect(QRectF(rect()).adjusted(Line / 2, Line / 2, -Line / 2, -Line / 2));
+  Painter.drawRect(Inside.adjusted(Line / 2, hasTrayAbove ? -Line : Line / 2, -Line / 2, -Line / 2));
 }
 
 void DiceTray::mousePressEvent(QMouseEvent* Event) { Event->accept(); }

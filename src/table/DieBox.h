@@ -1,13 +1,14 @@
 #pragma once
 
-#include <QWidget>
+#include <QAbstractButton>
 
 #include "widgets/Pictures.h"
 
 namespace blunko {
 
-/// One box of the dice array: shows the die's bitmap in its top left corner and reports clicks.
-class DieBox : public QWidget {
+/// One box of the dice array: shows the die's bitmap in its top left corner, on the tray's felt, and reports clicks. A
+/// press from the keyboard is a left click.
+class DieBox : public QAbstractButton {
   Q_OBJECT
 
  public:
@@ -16,8 +17,10 @@ class DieBox : public QWidget {
   /// Number of the bitmap, 0 for an empty box.
   void setPicture(int Number);
   int Picture() const { return picture; }
-  void setBackColor(const QColor& Colour);
-  QColor BackColor() const { return backColor; }
+  /// Whether a left click takes the die, or takes it back: then hand and ring show it under the mouse.
+  void setTakeable(bool Takeable);
+  /// A die that is lost is pale.
+  void setPale(bool Pale);
 
  signals:
   /// `Button`: 1 left, 2 right, 4 middle.
@@ -32,15 +35,16 @@ class DieBox : public QWidget {
   int index;
   Bitmaps& bitmaps;
   int picture = 0;
-  QColor backColor;
+  bool takeable = false, pale = false;
 };
 
-/// A row of die boxes: flat, with a thin border. Clicks beside the dice are its own.
+/// A row of die boxes on felt, with a thin border. Clicks beside the dice are its own.
 class DiceTray : public QWidget {
   Q_OBJECT
 
  public:
-  using QWidget::QWidget;
+  /// A tray that touches another above it leaves the line between the two to that one.
+  explicit DiceTray(QWidget* Parent, bool HasTrayAbove = false) : QWidget(Parent), hasTrayAbove(HasTrayAbove) {}
 
   void setBackColor(const QColor& Colour);
   QColor BackColor() const { return backColor; }
@@ -54,7 +58,11 @@ class DiceTray : public QWidget {
   void mouseReleaseEvent(QMouseEvent* Event) override;
 
  private:
+  void DrawFelt(qreal Scale);
+
+  bool hasTrayAbove;
   QColor backColor;
+  QPixmap felt;
 };
 
 }  // namespace blunko

@@ -77,7 +77,7 @@ void frmMain::PlaceControls() {
 
   picTray1 = new DiceTray(picGameTray);
   Panel(picTray1, "picTray1", TwipsRect(TrayLeft, Tray1Top, TrayWidth, TrayHeight));
-  picTray2 = new DiceTray(picGameTray);
+  picTray2 = new DiceTray(picGameTray, true);
   Panel(picTray2, "picTray2", TwipsRect(TrayLeft, Tray2Top, TrayWidth, TrayHeight));
   for (int i = 0; i < 6; ++i) {
     for (const int Index : {i, 10 + i}) {
@@ -208,13 +208,18 @@ void frmMain::ShowControls() {
   Show(cmdPassDice, t.cmdPassDice);
   picTray1->setEnabled(t.picTray1.Enabled);
   picTray2->setEnabled(t.picTray2.Enabled);
+  const bool PersonPlays = game.PersonMayPlay();
   for (int i = 0; i < 6; ++i) {
     Picture1[i]->setPicture(sampleBase == 0 ? t.Picture1(i) : sampleBase + i + 1);
     Picture1[6 + i]->setPicture(t.Picture1(10 + i));
+    Picture1[i]->setTakeable(PersonPlays && game.CanTake(i));
+    Picture1[6 + i]->setTakeable(PersonPlays && game.CanTake(10 + i));
+    Picture1[i]->setPale(t.Busted);
     picMarker[i]->setVisible(t.picMarker[i] && picSampleDice->isHidden());
   }
   pctDivider->move(Pixels(t.pctDivider.Left), pctDivider->y());
   pctDivider->setVisible(t.pctDivider.Visible);
+  lblStatus->setLoud(t.lblStatus.Loud);
   Show(lblStatus, t.lblStatus.Caption, t.lblStatus.Visible, Pixels(t.lblStatus.Top));
   Show(lblLastRoll, t.lblLastRoll.Caption, t.lblLastRoll.Visible, lblLastRoll->y());
   Show(lblPlayer, t.lblPlayer.Caption, t.lblPlayer.Visible, lblPlayer->y());
@@ -266,10 +271,6 @@ void frmMain::DescribeDice() {
 void frmMain::PaintTrays(const QColor& Tray1, const QColor& Tray2) {
   picTray1->setBackColor(Tray1);
   picTray2->setBackColor(Tray2);
-  for (int i = 0; i < 6; ++i) {
-    Picture1[i]->setBackColor(Tray1);
-    Picture1[6 + i]->setBackColor(Tray2);
-  }
 }
 
 void frmMain::ShowBackground(const QString& Path) { Image1->Load(Path == NoBackground ? QString() : Path); }

@@ -4,16 +4,33 @@
 
 namespace blunko {
 
+namespace {
+
+const QColor LoudRed(176, 0, 24);
+
+}  // namespace
+
 void FitLabel::setForeColor(const QColor& Colour) {
   if (foreColor == Colour) return;
   foreColor = Colour;
   update();
 }
 
+void FitLabel::setLoud(bool Loud) {
+  if (loud == Loud) return;
+  loud = Loud;
+  update();
+}
+
 void FitLabel::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
   const QRectF Room = QRectF(contentsRect()).adjusted(HaloText::Reach, 0, -HaloText::Reach, 0);
-  words.Draw(Painter, Room, alignment(), text(), font(), foreColor);
+  QFont Letters = font();
+  if (loud) {
+    Letters.setPixelSize(Letters.pixelSize() * 5 / 4);
+    Letters.setBold(true);
+  }
+  words.Draw(Painter, Room, alignment(), text(), Letters, loud ? LoudRed : foreColor);
 }
 
 }  // namespace blunko

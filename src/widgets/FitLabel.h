@@ -17,12 +17,15 @@ class FitLabel : public QLabel {
 
   void setForeColor(const QColor& Colour);
   QColor ForeColor() const { return foreColor; }
+  /// Larger letters in a colour that cries out, for a moment.
+  void setLoud(bool Loud);
 
  protected:
   void paintEvent(QPaintEvent* Event) override;
 
  private:
   QColor foreColor = Qt::black;
+  bool loud = false;
   HaloText words;
 };
 

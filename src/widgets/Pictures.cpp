@@ -26,6 +26,30 @@ const QPixmap& Bitmaps::Get(int Number, qreal Scale) {
   return Entry->second;
 }
 
+const QPixmap& Bitmaps::ShadowOf(int Number, qreal Scale) {
+  const auto [Entry, New] = shadows.try_emplace({Number, Scale});
+  if (!New) return Entry->second;
+  constexpr int Blur = 3;  // px
+  const QPixmap& Picture = Get(Number, Scale);
+  const QSizeF Size = Picture.deviceIndependentSize() + QSizeF(ShadowRoom, ShadowRoom);
+  QImage Shadow((Size * Scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+  Shadow.setDevicePixelRatio(Scale);
+  Shadow.fill(Qt::transparent);
+  QPainter Painter(&Shadow);
+  Painter.drawPixmap(QPointF(1.5, 2.5), Picture);
+  Painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+  Painter.fillRect(QRectF(QPointF(), Size), QColor(0, 0, 0, 130));
+  Painter.end();
+  const QSize Full = Shadow.size();
+  for (int Pass = 0; Pass < 2; ++Pass) {  // smaller and large again is a blur
+    Shadow = Shadow.scaled(Full / (Blur * Scale), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                 .scaled(Full, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  }
+  Entry->second = QPixmap::fromImage(Shadow);
+  Entry->second.setDevicePixelRatio(Scale);
+  return Entry->second;
+}
+
 SvgBox::SvgBox(const QString& Resource, QWidget* Parent)
     : QWidget(Parent), resource(Resource), natural(QSvgRenderer(Resource).defaultSize()) {}
 

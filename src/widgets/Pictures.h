@@ -21,9 +21,12 @@ QPixmap RenderSvg(const QString& Resource, qreal Scale, QSize Size = {});
 class Bitmaps {
  public:
   const QPixmap& Get(int Number, qreal Scale);
+  /// The soft shadow of what the bitmap shows, lit from above; `ShadowRoom` px wider and higher than it.
+  const QPixmap& ShadowOf(int Number, qreal Scale);
+  static constexpr int ShadowRoom = 6;
 
  private:
-  std::map<std::pair<int, qreal>, QPixmap> rendered;
+  std::map<std::pair<int, qreal>, QPixmap> rendered, shadows;
 };
 
 /// Shows an SVG of the resources stretched over the whole widget, sharp at every scale.

@@ -109,7 +109,6 @@ TEST(OptionsPanel, TrayColoursFollowTheMomentAtWhichASetIsPainted) {
     if (Click != nullptr) Dressed.ChooseSet(Click);
     Dressed.Close(Save);
     EXPECT_EQ(Dressed.Form.picTray1->BackColor(), End);
-    EXPECT_EQ(Dressed.Form.Picture1[0]->BackColor(), End);
     EXPECT_EQ(GameSettings(Dressed.Where).DieColour(), Base) << "a set off the list stays in the settings";
   }
 }
