@@ -10,7 +10,9 @@
 #include <QTimer>
 
 #include "engine/ScoreDice.h"
+#include "storage/FileAccess.h"
 #include "storage/GameSettings.h"
+#include "table/JpegCheck.h"
 #include "table/KeyCodes.h"
 #include "widgets/Fonts.h"
 #include "widgets/PlacedDialog.h"
@@ -273,7 +275,10 @@ void frmMain::PaintTrays(const QColor& Tray1, const QColor& Tray2) {
   picTray2->setBackColor(Tray2);
 }
 
-void frmMain::ShowBackground(const QString& Path) { Image1->Load(Path == NoBackground ? QString() : Path); }
+void frmMain::ShowBackground(const QString& Path) {
+  const bool Shown = Path != NoBackground && IsModestJpeg(ReadWholeFile(Path, LargestJpeg).value_or(QByteArray()));
+  Image1->Load(Shown ? Path : QString());
+}
 
 void frmMain::ColourLabels(std::uint32_t Colour) {
   for (FitLabel* Label : picGameTray->findChildren<FitLabel*>(Qt::FindDirectChildrenOnly)) {

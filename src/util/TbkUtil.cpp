@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QVersionNumber>
 
+#include <memory>
 #include <optional>
 
 #include "storage/FileAccess.h"
@@ -46,6 +47,12 @@ std::optional<QVersionNumber> ParseVersion(const QByteArray& Text) {
   return Version;
 }
 
+/// A server that sends without a pause keeps Qt's thread busy, and the end of the object would wait for that.
+void Abandon(std::unique_ptr<QNetworkAccessManager> Network) {
+  static auto* const Abandoned = new QList<QNetworkAccessManager*>;
+  *Abandoned << Network.release();
+}
+
 }  // namespace
 
 TbkUtil::TbkUtil(QString VersionAddress, int TimeLimit)
@@ -72,13 +79,13 @@ void TbkUtil::UtilSurveyHardware() const {
 TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revision) const {
   const QUrl Address(versionAddress);
   if (Address.scheme() != QLatin1String("http") && Address.scheme() != QLatin1String("https")) return VersionError;
-  QNetworkAccessManager Network;
+  auto Network = std::make_unique<QNetworkAccessManager>();
   QNetworkRequest Request(Address);
   Request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
   Request.setMaximumRedirectsAllowed(MostRedirects);
 
   QEventLoop Loop;
-  QNetworkReply* Reply = Network.get(Request);
+  QNetworkReply* Reply = Network->get(Request);
   QObject::connect(Reply, &QNetworkReply::finished, &Loop, &QEventLoop::quit);
   QObject::connect(Reply, &QNetworkReply::readyRead, &Loop, [&Loop, Reply] {
     if (Reply->bytesAvailable() > LongestVersionText) Loop.quit();
@@ -86,10 +93,12 @@ TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revis
   QTimer::singleShot(timeLimit, Qt::PreciseTimer, &Loop, &QEventLoop::quit);
   if (!Reply->isFinished()) Loop.exec(QEventLoop::ExcludeUserInputEvents);
 
-  const bool Answered = Reply->isFinished() && Reply->error() == QNetworkReply::NoError &&
+  const bool Finished = Reply->isFinished();
+  const bool Answered = Finished && Reply->error() == QNetworkReply::NoError &&
                         Reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == 200;
   const QByteArray Text = Answered ? Reply->read(LongestVersionText + 1) : QByteArray();
   Reply->abort();
+  if (!Finished) Abandon(std::move(Network));
   const auto Newest = Text.size() <= LongestVersionText ? ParseVersion(Text) : std::nullopt;
   if (!Newest) return VersionError;
   return *Newest > QVersionNumber(Major, Minor, Revision) ? NewerExists : UpToDate;

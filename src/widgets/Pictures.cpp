@@ -7,6 +7,12 @@
 
 namespace blunko {
 
+namespace {
+
+constexpr int LargestPicture = 64;  // MB, of one that is decoded as small as it can be, but isn't yet stretched
+
+}  // namespace
+
 QPixmap RenderSvg(const QString& Resource, qreal Scale, QSize Size) {
   QSvgRenderer Svg(Resource);
   if (!Svg.isValid()) return {};
@@ -71,6 +77,7 @@ void StretchedPicture::Load(const QString& Path) {
 void StretchedPicture::Draw() {
   if (!QFileInfo(path).isFile()) return;
   const qreal Scale = devicePixelRatioF();
+  QImageReader::setAllocationLimit(LargestPicture);
   QImageReader Reader(path);
   Reader.setAutoTransform(true);
   const QSize Wanted = (QSizeF(size()) * Scale).toSize();

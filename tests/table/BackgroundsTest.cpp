@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include "table/Backgrounds.h"
+#include "table/JpegCheck.h"
 #include "tests/storage/Place.h"
 #include "widgets/Pictures.h"
 
@@ -67,6 +68,42 @@ TEST(Backgrounds, FiveThousandPicturesStayWithinTheList) {
   Found.ScanBackgrounds();
   ASSERT_EQ(Found.BackgroundFiles.size(), 255) << "256 entries with (None)";
   EXPECT_EQ(Found.BackgroundFiles.back(), "0254.jpg");
+}
+
+/// The markers of a picture, with nothing in its scans; the samples of a component are given as 0x11, 0x21...
+QByteArray Jpeg(int Width, int Height, char Frame, int Scans, const QByteArray& Samples = "\x11\x11\x11") {
+  QByteArray Made("\xFF\xD8\xFF\xE1\x00\x06\xFF\xDA..", 10);  // a scan of the thumbnail isn't one
+  Made += QByteArray("\xFF", 1) + Frame + '\0' + static_cast<char>(8 + 3 * Samples.size()) + '\x08';
+  for (const int Size : {Height, Width}) Made += QByteArray(1, static_cast<char>(Size >> 8)) + static_cast<char>(Size);
+  Made += static_cast<char>(Samples.size());
+  for (const char Sample : Samples) Made += QByteArray("\1", 1) + Sample + '\0';
+  for (int i = 0; i < Scans; ++i) Made += QByteArray("\xFF\xFF\xDA\x00\x02.\xFF\x00.\xFF\xD0..", 14);
+  return Made + "\xFF\xD9" + QByteArray("\xFF\xDA\0\2", 4).repeated(500);
+}
+
+TEST(Backgrounds, APictureIsRefusedByItsSizeBeforeItIsDecoded) {
+  const std::pair<QByteArray, bool> Rows[] = {
+      {Jpeg(20000, 20000, '\xC0', 1), true},
+      {Jpeg(20001, 20000, '\xC0', 1), false},
+      {Jpeg(65535, 65535, '\xC1', 1), false},
+      {Jpeg(5000, 4000, '\xC2', 12), true},
+      {Jpeg(5000, 4300, '\xC2', 1), false},                 // 123 MB in three components
+      {Jpeg(7000, 5900, '\xC2', 9, "\x22\x11\x11"), true},  // two of them of a quarter
+      {Jpeg(7000, 5900, '\xCA', 1), false},
+      {Jpeg(8000, 6000, '\xC0', 3), false},  // isn't progressive, but kept as well
+      {Jpeg(100, 100, '\xC2', 40000), true},
+      {Jpeg(100, 100, '\xC2', 40001), false},
+      {Jpeg(100, 100, '\xC0', 1) + QByteArray(31 << 20, '.'), true},
+      {Jpeg(100, 100, '\xC0', 1) + QByteArray(32 << 20, '.'), false},
+      {Jpeg(100, 100, '\xC2', 9) + QByteArray(12 << 20, '.'), false},
+      {Jpeg(0, 100, '\xC0', 1), false},
+      {Jpeg(100, 100, '\xC4', 1), false},  // no frame
+      {Jpeg(100, 100, '\xC0', 0), false},
+      {Jpeg(100, 100, '\xC0', 1).left(16), false},
+      {"\x89PNG" + Jpeg(100, 100, '\xC0', 1), false}};
+  for (const auto& [File, Modest] : Rows) {
+    EXPECT_EQ(IsModestJpeg(File), Modest) << File.left(40).toHex().constData();
+  }
 }
 
 TEST(Backgrounds, AnyFileLeavesTheTableUsable) {

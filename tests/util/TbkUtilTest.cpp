@@ -5,9 +5,12 @@
 #include <QTcpSocket>
 #include <QTimer>
 
+#include <atomic>
 #include <functional>
+#include <future>
 #include <gtest/gtest.h>
 #include <pwd.h>
+#include <thread>
 
 #include "tests/storage/Place.h"
 #include "util/TbkUtil.h"
@@ -122,6 +125,27 @@ TEST(UtilCheckVersion, AnswersWithinTheLimit) {
     EXPECT_LT(Clock.elapsed(), Limit + Patience) << Trouble;
     EXPECT_GE(Clock.elapsed(), Limit - 5) << Trouble << ": a slow server has that long";
   }
+}
+
+TEST(UtilCheckVersion, ALimitIsALimitForAServerThatFloods) {
+  std::promise<quint16> Port;
+  std::atomic<bool> Enough = false;
+  std::thread Flood([&] {
+    QTcpServer Tcp;
+    if (!Tcp.listen(QHostAddress::LocalHost)) abort();
+    Port.set_value(Tcp.serverPort());
+    if (!Tcp.waitForNewConnection(Patience)) return;
+    QTcpSocket* const Client = Tcp.nextPendingConnection();
+    Client->write("HTTP/1.1 200 OK\r\n");
+    do Client->write(QByteArray("X-Head: y\r\n").repeated(10000));
+    while (!Enough && Client->waitForBytesWritten(Patience));
+  });
+  QElapsedTimer Clock;
+  Clock.start();
+  EXPECT_EQ(Ask(QStringLiteral("http://127.0.0.1:%1/").arg(Port.get_future().get()), Limit), TbkUtil::VersionError);
+  EXPECT_LT(Clock.elapsed(), Limit + Patience - 500) << "the library's own end waits for 5 s";
+  Enough = true;
+  Flood.join();
 }
 
 TEST(UtilCheckVersion, TakesWebAddressesOnly) {
