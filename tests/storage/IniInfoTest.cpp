@@ -156,7 +156,7 @@ TEST_F(IniInfoTest, WhatCannotBeSavedHoldsForTheRunAndGoesWithTheNextWrite) {
       {"read-only file", [&] { Mode("x.ini", 0444); }},
       {"secret file", [&] { Mode("x.ini", 0); }},
       // Short texts wait in a buffer until the flush, long ones are written at once: both must be noticed.
-      {"full disk", [] { FullDisk::Begin(500); }}};
+      {"full disk", [] { LimitFiles(500); }}};
   for (const auto& [What, Spoil] : Rows) {
     for (const QByteArray& Text : {Old, Old.left(600) + '\n'}) {
       place.Put("x.ini", Text);
@@ -166,7 +166,7 @@ TEST_F(IniInfoTest, WhatCannotBeSavedHoldsForTheRunAndGoesWithTheNextWrite) {
         Info.WriteInfoValue("Key", "new");
         EXPECT_EQ(Info.ReadInfoValue("Key"), "new") << What;
       }
-      FullDisk::End();
+      LimitFiles(RLIM_INFINITY);
       Mode("", 0755);
       Mode("x.ini", 0644);
       EXPECT_TRUE(place.Get("x.ini") == Text) << What;

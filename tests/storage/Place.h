@@ -56,21 +56,13 @@ class Unprivileged {
   const bool root = geteuid() == 0;
 };
 
-/// From `Begin` to `End` no file can grow beyond a number of bytes, as on a full disk.
-struct FullDisk {
-  static void Begin(rlim_t Bytes) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    Set(Bytes);
-  }
-  static void End() { Set(RLIM_INFINITY); }
-
- private:
-  static void Set(rlim_t Bytes) {
-    rlimit Limit{};
-    getrlimit(RLIMIT_FSIZE, &Limit);
-    Limit.rlim_cur = std::min(Bytes, Limit.rlim_max);
-    setrlimit(RLIMIT_FSIZE, &Limit);
-  }
-};
+/// From now on no file can grow beyond a number of bytes, as on a full disk.
+inline void LimitFiles(rlim_t Bytes) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit Limit{};
+  getrlimit(RLIMIT_FSIZE, &Limit);
+  Limit.rlim_cur = std::min(Bytes, Limit.rlim_max);
+  setrlimit(RLIMIT_FSIZE, &Limit);
+}
 
 }  // namespace blunko::test
