@@ -59,7 +59,7 @@ QVariant HelpPage::loadResource(int Type, const QUrl& Address) {
 }
 
 const QStringList HelpWindow::Pages{QStringLiteral("PlayingBlunko.htm"), QStringLiteral("StrategyAndHints.htm"),
-                                    QStringLiteral("Overview.htm")};
+                                    QStringLiteral("FairDice.htm"), QStringLiteral("Overview.htm")};
 
 HelpWindow::HelpWindow(const QString& Folder, const QWidget* Beside) : folder(Folder) {
   setObjectName(QStringLiteral("HelpWindow"));
