@@ -70,10 +70,10 @@ bool Application::Main() {
 /// Makes the table's window, dresses it as the settings say, and connects it with the rest.
 void Application::LoadForm() {
   Form = std::make_unique<frmMain>(Table);
-  const QColor Trays = StartColour(Settings.DieColour());
-  Form->PaintTrays(Trays, Trays);
-  Form->ShowBackground(Settings.Background());
-  Form->ColourLabels(Settings.TextColour());
+  Form->Wears.Trays = StartColour(Settings.DieColour());
+  Form->Wears.Background = Settings.Background();
+  Form->Wears.TextColour = Settings.TextColour();
+  Form->ShowControls();
   Form->CentreOnScreen();
   Rollers.LoadHighRollers();
 
@@ -81,6 +81,9 @@ void Application::LoadForm() {
   On(&frmMain::firstShown, [this] { Form_Activate(); });
   On(&frmMain::minimised, [this] { Form_Resize(); });
   On(&frmMain::optionsAsked, [this] { Options().cmdOptions_Click(); });
+  On(&frmMain::scorePadAsked, [this] {
+    if (State.ScorePadShown) ScorePad().show();
+  });
   On(&frmMain::highRollersAsked, [this] { ViewLists(); });
   On(&frmMain::howToPlayAsked, [this] { ShowHelpTopic(QStringLiteral("PlayingBlunko.htm")); });
   On(&frmMain::helpAsked, [this] { ShowHelpTopic(QStringLiteral("Overview.htm")); });
@@ -183,12 +186,10 @@ void Application::ShowScorePad() {
 void Application::FocusTable() { Form->activateWindow(); }
 
 void Application::CheckHighTurn(const std::string& Name, std::int16_t Score) {
-  Form->ShowControls();
   RollersCheck.CheckHighTurn(Name, Score);
 }
 
 void Application::CheckWhoopin(const std::string& Name, std::int16_t Margin) {
-  Form->ShowControls();
   RollersCheck.CheckWhoopin(Name, Margin);
 }
 
@@ -204,15 +205,9 @@ void Application::ViewLists() {
 
 QString Application::Today() const { return DayNumber(QDate::currentDate()); }
 
-void Application::ShowCongrats() {
-  Form->ShowControls();
-  frmCongrats(Table, *Form).exec();
-}
+void Application::ShowCongrats() { frmCongrats(Table, *Form).exec(); }
 
-void Application::ShowNewGame() {
-  Form->ShowControls();
-  NewGame().ShowModal();
-}
+void Application::ShowNewGame() { NewGame().ShowModal(); }
 
 void Application::RunComputerTurn() { Players.RunComputerTurn(); }
 

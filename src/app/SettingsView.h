@@ -2,6 +2,7 @@
 
 #include "engine/GameOptions.h"
 #include "storage/GameSettings.h"
+#include "table/DiceSets.h"
 
 namespace blunko {
 
@@ -12,7 +13,7 @@ class SettingsView : public GameOptions {
   int ComputerSpeed() const override { return settings.ComputerSpeed(); }
   bool SortDice() const override { return settings.SortDice(); }
   bool MarkScorers() const override { return settings.MarkScorers(); }
-  int DieColour() const override { return settings.DieColour(); }
+  int DieColour() const override { return DrawableSet(settings.DieColour()); }
   bool SoundDisabled() const override { return settings.SoundDisabled(); }
   const std::string& GetSound(std::string_view Name) const override { return settings.GetSound(Name); }
 

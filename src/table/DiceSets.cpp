@@ -27,6 +27,8 @@ constexpr DiceSet Sets[] = {
     Same("Roman", 190, qRgb(0, 0, 0)),
 };
 
+constexpr int DefaultSet = 112;
+
 constexpr const char* Offered[] = {"Blue",  "Red",    "Clouds",  "Antique",  "Marbles", "Patriot",
                                    "Pablo", "Clocks", "Bubbles", "Computer", "Digital"};
 
@@ -47,6 +49,8 @@ const DiceSet* FindDiceSet(int Base) {
 const DiceSet* FindDiceSet(const QString& Name) {
   return Find([&Name](const DiceSet& Set) { return Name == QLatin1String(Set.Name); });
 }
+
+int DrawableSet(int Base) { return FindDiceSet(Base) == nullptr ? DefaultSet : Base; }
 
 QColor StartColour(int Base) {
   const DiceSet* Set = FindDiceSet(Base);

@@ -44,7 +44,7 @@ class DiceTray : public QWidget {
 
  public:
   /// A tray that touches another above it leaves the line between the two to that one.
-  explicit DiceTray(QWidget* Parent, bool HasTrayAbove = false) : QWidget(Parent), hasTrayAbove(HasTrayAbove) {}
+  DiceTray(bool HasTrayAbove, QWidget* Parent) : QWidget(Parent), hasTrayAbove(HasTrayAbove) {}
 
   void setBackColor(const QColor& Colour);
   QColor BackColor() const { return backColor; }

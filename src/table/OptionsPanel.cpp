@@ -11,6 +11,7 @@
 #include "table/DiceSets.h"
 #include "table/frmMain.h"
 #include "widgets/Fonts.h"
+#include "widgets/FormBuilder.h"
 #include "widgets/Twips.h"
 
 namespace blunko {
@@ -40,109 +41,128 @@ OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QS
   setObjectName(QStringLiteral("picOptionsTray"));
   setGeometry(TwipsRect(0, 0, PanelWidth, PanelHeight));
   setFont(FontOf(Typeface::Verdana, 8.25));
-  QPalette Colours = palette();
-  Colours.setColor(QPalette::Window, Colours.color(QPalette::Highlight));
-  Colours.setColor(QPalette::WindowText, Colours.color(QPalette::HighlightedText));
-  setPalette(Colours);
+  SetColours(*this, {{QPalette::Window, palette().color(QPalette::Highlight)},
+                     {QPalette::WindowText, palette().color(QPalette::HighlightedText)}});
   setAutoFillBackground(true);
   setStyleSheet(FrameStyle);
-  Build();
-  FixButtonColours(*this);
+  frames = new QVBoxLayout(this);
+  frames->setContentsMargins(6, 3, 6 + width() - Pixels(StripWidth), 6);
+  frames->setSpacing(3);
+  BuildSwitches();
+  BuildLists();
+  BuildSwatches();
+  BuildCommands();
+  ColourControls();
   lower();
   hide();
 }
 
-void OptionsPanel::Build() {
-  auto* Outer = new QVBoxLayout(this);
-  Outer->setContentsMargins(6, 3, 6 + width() - Pixels(StripWidth), 6);
-  Outer->setSpacing(3);
+/// A box with a caption; returns what its controls stand in.
+QVBoxLayout* OptionsPanel::AddFrame(const QString& Caption) {
+  auto* Box = new QGroupBox(Caption, this);
+  auto* Inside = new QVBoxLayout(Box);
+  Inside->setContentsMargins(6, 6, 5, 5);
+  Inside->setSpacing(2);
+  frames->addWidget(Box);
+  return Inside;
+}
 
-  const auto Frame = [&](const QString& Caption) {
-    auto* Box = new QGroupBox(Caption, this);
-    auto* Inside = new QVBoxLayout(Box);
-    Inside->setContentsMargins(6, 6, 5, 5);
-    Inside->setSpacing(2);
-    Outer->addWidget(Box);
-    return Inside;
-  };
-  const auto Add = [](QVBoxLayout* Inside, auto* Made, const QString& Name) {
-    Made->setObjectName(Name);
-    Inside->addWidget(Made);
+void OptionsPanel::BuildSwitches() {
+  const auto AddTo = [](QVBoxLayout* Frame, auto* Made) {
+    Frame->addWidget(Made);
     return Made;
   };
-
-  auto* Speed = Frame(QStringLiteral("Speed:"));
+  auto* Speed = AddFrame(QStringLiteral("Speed:"));
   const QString Speeds[] = {QStringLiteral("Normal"), QStringLiteral("Fast"), QStringLiteral("Ridiculous")};
   for (int i = 0; i < 3; ++i) {
-    optComputerSpeed[i] = Add(Speed, new QRadioButton(Speeds[i]), QStringLiteral("optComputerSpeed(%1)").arg(i));
+    const QString Name = QStringLiteral("optComputerSpeed(%1)").arg(i);
+    optComputerSpeed[i] = AddTo(Speed, Make<QRadioButton>(this, Name, Speeds[i]));
   }
-  auto* Misc = Frame(QStringLiteral("Misc:"));
-  chkSortDice = Add(Misc, new QCheckBox(QStringLiteral("Sort Dice")), QStringLiteral("chkSortDice"));
-  chkMarkScorers = Add(Misc, new QCheckBox(QStringLiteral("Mark Points")), QStringLiteral("chkMarkScorers"));
+  auto* Misc = AddFrame(QStringLiteral("Misc:"));
+  chkSortDice = AddTo(Misc, Make<QCheckBox>(this, QStringLiteral("chkSortDice"), QStringLiteral("Sort Dice")));
+  chkMarkScorers = AddTo(Misc, Make<QCheckBox>(this, QStringLiteral("chkMarkScorers"), QStringLiteral("Mark Points")));
 
-  auto* Sound = Frame(QStringLiteral("Sound FX:"));
+  auto* Sound = AddFrame(QStringLiteral("Sound FX:"));
   auto* OnOff = new QHBoxLayout;
   for (const int i : {1, 0}) {
-    optSound[i] = new QRadioButton(i == 1 ? QStringLiteral("On") : QStringLiteral("Off"));
-    optSound[i]->setObjectName(QStringLiteral("optSound(%1)").arg(i));
+    optSound[i] = Make<QRadioButton>(this, QStringLiteral("optSound(%1)").arg(i),
+                                     i == 1 ? QStringLiteral("On") : QStringLiteral("Off"));
     OnOff->addWidget(optSound[i]);
   }
   Sound->addLayout(OnOff);
-  cmdCustomizeSounds = Add(Sound, new ButtonPlus(QStringLiteral("Customize")), QStringLiteral("cmdCustomizeSounds"));
+  cmdCustomizeSounds = AddTo(Sound, MakeButton(this, QStringLiteral("cmdCustomizeSounds"), QStringLiteral("Customize"),
+                                               &OptionsPanel::customizeSoundsAsked));
   cmdCustomizeSounds->setFixedHeight(CommandHeight);
-  connect(cmdCustomizeSounds, &QPushButton::clicked, this, &OptionsPanel::customizeSoundsAsked);
+}
 
-  auto* DiceFrame = Frame(QStringLiteral("Dice:"));
-  cboDiceColor = Add(DiceFrame, new QComboBox, QStringLiteral("cboDiceColor"));
+void OptionsPanel::BuildLists() {
+  cboDiceColor = Make<QComboBox>(this, QStringLiteral("cboDiceColor"));
   cboDiceColor->setAccessibleName(QStringLiteral("Dice"));
   for (const char* Name : OfferedDiceSets()) cboDiceColor->addItem(QLatin1String(Name));
   cboDiceColor->setMaxVisibleItems(cboDiceColor->count());
+  AddFrame(QStringLiteral("Dice:"))->addWidget(cboDiceColor);
   connect(cboDiceColor, &QComboBox::activated, this, &OptionsPanel::cboDiceColor_Click);
 
-  auto* Skin = Frame(QStringLiteral("Background:"));
-  lstSkin = Add(Skin, new QListWidget, QStringLiteral("lstSkin"));
+  lstSkin = Make<QListWidget>(this, QStringLiteral("lstSkin"));
   lstSkin->setAccessibleName(QStringLiteral("Background"));
   lstSkin->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstSkin->setMinimumHeight(60);
+  auto* Skin = AddFrame(QStringLiteral("Background:"));
+  Skin->addWidget(lstSkin, 1);
+  Skin->addStretch();
+  frames->setStretchFactor(lstSkin->parentWidget(), 1);
   connect(lstSkin, &QListWidget::currentRowChanged, this, &OptionsPanel::lstSkin_Click);
   // A click on the picture that is shown already brings its text colour back.
   connect(lstSkin, &QListWidget::itemClicked, this, [this] { lstSkin_Click(lstSkin->currentRow()); });
-  for (QWidget* List : std::initializer_list<QWidget*>{cboDiceColor, cboDiceColor->view(), lstSkin}) {
-    QPalette Ink = List->palette();
-    for (const QPalette::ColorRole Letters : {QPalette::Text, QPalette::ButtonText}) Ink.setColor(Letters, ListText);
-    for (const QPalette::ColorRole Ground : {QPalette::Base, QPalette::Button}) Ink.setColor(Ground, ListGround);
-    List->setPalette(Ink);
-  }
+}
 
-  for (auto* Option : findChildren<QAbstractButton*>()) {
-    if (Option != cmdCustomizeSounds) Option->setPalette(palette());  // a style sheet keeps it from being inherited
-  }
-
-  auto* Text = Frame(QStringLiteral("Text Color:"));
+void OptionsPanel::BuildSwatches() {
   auto* Grid = new QGridLayout;
   Grid->setSpacing(3);
   for (int i = 0; i < 8; ++i) {
-    lblColor[i] = new Swatch(QColor(SwatchColours[i]));
-    lblColor[i]->setObjectName(QStringLiteral("lblColor(%1)").arg(i));
+    lblColor[i] = Make<Swatch>(this, QStringLiteral("lblColor(%1)").arg(i), QColor(SwatchColours[i]));
     lblColor[i]->setAccessibleName(QLatin1String(ColourNames[i]));
     lblColor[i]->setToolTip(QLatin1String(ColourNames[i]));
     Grid->addWidget(lblColor[i], i / 4, i % 4);
     connect(lblColor[i], &QAbstractButton::clicked, this, [this, i] { lblColor_Click(i); });
   }
-  Text->addLayout(Grid);
-  Outer->setStretchFactor(Skin->parentWidget(), 1);
+  AddFrame(QStringLiteral("Text Color:"))->addLayout(Grid);
+}
 
-  const auto Command = [&](const char* Name, const QString& Caption) {
-    auto* Made = new ButtonPlus(Caption, this);
-    Made->setObjectName(QLatin1String(Name));
-    Made->setFixedHeight(CommandHeight);
-    Outer->addWidget(Made);
-    return Made;
+void OptionsPanel::BuildCommands() {
+  ARCmdSaveOptions = MakeButton(this, QStringLiteral("ARCmdSaveOptions"), QStringLiteral("Save"),
+                                &OptionsPanel::ARCmdSaveOptions_Click);
+  ARCmdCancelOptions = MakeButton(this, QStringLiteral("ARCmdCancelOptions"), QStringLiteral("Cancel"),
+                                  &OptionsPanel::ARCmdCancelOptions_Click);
+  for (ButtonPlus* Command : {ARCmdSaveOptions, ARCmdCancelOptions}) {
+    Command->setFixedHeight(CommandHeight);
+    frames->addWidget(Command);
+  }
+}
+
+void OptionsPanel::ColourControls() {
+  FixButtonColours(*this);
+  for (QWidget* List : std::initializer_list<QWidget*>{cboDiceColor, cboDiceColor->view(), lstSkin}) {
+    SetColours(*List, {{QPalette::Text, ListText},
+                       {QPalette::ButtonText, ListText},
+                       {QPalette::Base, ListGround},
+                       {QPalette::Button, ListGround}});
+  }
+  // A style sheet keeps the panel's colours from being inherited.
+  for (auto* Option : findChildren<QRadioButton*>()) Option->setPalette(palette());
+  for (auto* Option : findChildren<QCheckBox*>()) Option->setPalette(palette());
+}
+
+/// The list of the backgrounds ends with a whole row, whatever height the style gives a row.
+void OptionsPanel::ShowWholeRows() {
+  const auto LayOut = [this](int Highest) {
+    lstSkin->setMaximumHeight(Highest);
+    for (QWidget* Form : {static_cast<QWidget*>(this), lstSkin->parentWidget()}) Form->layout()->activate();
   };
-  ARCmdSaveOptions = Command("ARCmdSaveOptions", QStringLiteral("Save"));
-  ARCmdCancelOptions = Command("ARCmdCancelOptions", QStringLiteral("Cancel"));
-  connect(ARCmdSaveOptions, &QPushButton::clicked, this, &OptionsPanel::ARCmdSaveOptions_Click);
-  connect(ARCmdCancelOptions, &QPushButton::clicked, this, &OptionsPanel::ARCmdCancelOptions_Click);
+  LayOut(QWIDGETSIZE_MAX);
+  const int Row = qMax(lstSkin->sizeHintForRow(0), 1), Frame = 2 * lstSkin->frameWidth();
+  LayOut((lstSkin->height() - Frame) / Row * Row + Frame);
+  lstSkin->scrollToItem(lstSkin->currentItem());
 }
 
 void OptionsPanel::cmdOptions_Click() {
@@ -150,12 +170,13 @@ void OptionsPanel::cmdOptions_Click() {
   open = true;
   game.m.PauseComputer = true;
   game.t.picGameTray.Enabled = false;  // and with it everything on the table
-  game.m.ResizeBlocked = true;
-  show();
-  form.SetStripWidth(Pixels(StripWidth));
-  game.m.ResizeBlocked = false;
   ShowSampleDice();
   LoadOptionControls();
+  show();
+  ShowWholeRows();
+  game.m.ResizeBlocked = true;
+  form.OpenStrip(grab(QRect(0, 0, Pixels(StripWidth), height())));
+  game.m.ResizeBlocked = false;
   form.ShowControls();
   ARCmdSaveOptions->setFocus();
   game.desktop.PlaySoundFile(game.Settings.GetSound("GameOver"), false);
@@ -165,14 +186,14 @@ void OptionsPanel::cmdOptions_Click() {
 void OptionsPanel::ShowSampleDice() {
   SnapshotOptions();
   lblColor_Click(settings.TextColourIndex());
-  form.CoverTray(true);
-  if (const DiceSet* Set = FindDiceSet(cboDiceColor->currentText())) ShowSet(*Set, QColor(Set->Open));
+  form.Wears.Covered = true;
+  if (const DiceSet* Set = FindDiceSet(cboDiceColor->currentText())) ShowSet(*Set, Set->Open);
   game.desktop.PlaySoundFile(game.Settings.GetSound("GameOver"), false);
 }
 
 void OptionsPanel::SnapshotOptions() {
   backgrounds.ScanBackgrounds();
-  SavedBackground = settings.Background();
+  const QString Background = settings.Background();
   const QSignalBlocker Filling(lstSkin);
   lstSkin->clear();
   lstSkin->addItem(NoBackground);
@@ -180,14 +201,13 @@ void OptionsPanel::SnapshotOptions() {
   for (const QString& Name : backgrounds.BackgroundFiles) {
     lstSkin->addItem(FileBaseName(Name));
     lstSkin->item(lstSkin->count() - 1)->setToolTip(Name);
-    const bool IsShown = SavedBackground != NoBackground && FileBaseName(Name) == FileBaseName(SavedBackground);
+    const bool IsShown = Background != NoBackground && FileBaseName(Name) == FileBaseName(Background);
     if (IsShown && Current == 0) Current = lstSkin->count() - 1;
   }
   lstSkin->setCurrentRow(Current);
   backgroundChosen = false;
 
-  SavedTray1Colour = form.picTray1->BackColor();
-  SavedTray2Colour = form.picTray2->BackColor();
+  before = form.Wears;
   SavedDieColour = settings.DieColour();
   const DiceSet* Set = FindDiceSet(SavedDieColour);
   cboDiceColor->setCurrentIndex(Set == nullptr ? -1 : cboDiceColor->findText(QLatin1String(Set->Name)));
@@ -201,34 +221,30 @@ void OptionsPanel::LoadOptionControls() {
 }
 
 void OptionsPanel::cboDiceColor_Click() {
-  if (const DiceSet* Set = FindDiceSet(cboDiceColor->currentText())) ShowSet(*Set, QColor(Set->Pick));
+  if (const DiceSet* Set = FindDiceSet(cboDiceColor->currentText())) ShowSet(*Set, Set->Pick);
+  form.ShowControls();
 }
 
 /// The set is stored at once; Cancel takes it back out of the settings.
-void OptionsPanel::ShowSet(const DiceSet& Set, const QColor& Colour) {
+void OptionsPanel::ShowSet(const DiceSet& Set, QRgb Colour) {
   settings.setDieColour(static_cast<std::int16_t>(Set.Base));
-  form.PaintTrays(Colour, Colour);
-  form.picSampleDice->setBackColor(Colour);
-  form.ShowSampleFaces(Set.Base);
+  form.Wears.Trays = form.Wears.Cover = Colour;
+  form.Wears.SampleSet = Set.Base;
 }
 
 void OptionsPanel::lstSkin_Click(int Entry) {
   if (Entry < 0) return;
   backgroundChosen = true;
-  if (Entry == 0) {
-    form.ShowBackground(NoBackground);
-    lblColor_Click(0);
-    return;
-  }
-  const QString& Name = backgrounds.BackgroundFiles[Entry - 1];
-  form.ShowBackground(backgrounds.PathOf(Name));
-  lblColor_Click(backgrounds.ColourIndexOf(Name));
+  const QString Name = Entry == 0 ? QString() : backgrounds.BackgroundFiles[Entry - 1];
+  form.Wears.Background = Entry == 0 ? NoBackground : backgrounds.PathOf(Name);
+  lblColor_Click(Entry == 0 ? 0 : backgrounds.ColourIndexOf(Name));
 }
 
 /// Ticks the swatch, none for a number that is no index, and shows the colour.
 void OptionsPanel::lblColor_Click(int Index) {
   for (int i = 0; i < 8; ++i) lblColor[i]->setChecked(i == Index);
-  form.ColourLabels(ColourOfIndex(Index));
+  form.Wears.TextColour = ColourOfIndex(Index);
+  if (form.Wears.Covered) form.ShowControls();
 }
 
 void OptionsPanel::ARCmdSaveOptions_Click() {
@@ -258,44 +274,39 @@ void OptionsPanel::StoreOptionControls() {
 
 void OptionsPanel::ApplyOptions() {
   if (!settings.MarkScorers()) game.t.picMarker.fill(false);
-  if (backgroundChosen) {  // else it stays as it is, also one that the list doesn't hold
-    const int Entry = lstSkin->currentRow();
-    settings.setBackground(Entry > 0 ? backgrounds.PathOf(backgrounds.BackgroundFiles[Entry - 1]) : NoBackground);
-  }
-  form.ShowBackground(settings.Background());
+  if (backgroundChosen)
+    settings.setBackground(form.Wears.Background);  // else also one that the list doesn't hold stays
   for (int i = 0; i < 8; ++i) {
     if (lblColor[i]->isChecked()) settings.setTextColourIndex(i);
   }
-  form.ColourLabels(settings.TextColour());
+  form.Wears.TextColour = settings.TextColour();
   if (const DiceSet* Set = FindDiceSet(cboDiceColor->currentText())) {
     settings.setDieColour(static_cast<std::int16_t>(Set->Base));
   }
-  game.RedrawDice();
 }
 
 void OptionsPanel::RevertOptions() {
   const WrittenTogether Save = settings.WriteTogether();
-  settings.setBackground(SavedBackground);
-  form.ShowBackground(SavedBackground);
-  form.ColourLabels(settings.TextColour());
+  form.Wears = before;
+  settings.setBackground(before.Background);
   settings.setDieColour(SavedDieColour);
-  form.PaintTrays(SavedTray1Colour, SavedTray2Colour);
-  game.RedrawDice();
 }
 
 /// The window shrinks again. What the buttons may do now is the game's record, not what they could at the opening.
 void OptionsPanel::Close() {
   open = false;
-  form.ShowSampleFaces(0);
-  form.CoverTray(false);
+  form.Wears.SampleSet = 0;
+  form.Wears.Covered = false;
+  game.RedrawDice();
+  game.t.picGameTray.Enabled = true;
+  form.ShowControls();
   game.m.ResizeBlocked = true;
-  form.SetStripWidth(0);
+  form.CloseStrip();
   hide();
   game.m.ResizeBlocked = false;
-  game.t.picGameTray.Enabled = true;
   game.m.PauseComputer = false;
-  form.setFocus();
   form.ShowControls();
+  form.setFocus();
 }
 
 }  // namespace blunko

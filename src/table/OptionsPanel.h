@@ -7,6 +7,7 @@
 #include "engine/Game.h"
 #include "storage/GameSettings.h"
 #include "table/Backgrounds.h"
+#include "table/Dress.h"
 #include "table/Swatch.h"
 #include "widgets/ButtonPlus.h"
 
@@ -14,13 +15,14 @@ class QCheckBox;
 class QComboBox;
 class QListWidget;
 class QRadioButton;
+class QVBoxLayout;
 
 namespace blunko {
 
 class frmMain;
 struct DiceSet;
 
-/// The options: a panel that comes to light at the left of the table, which stands frozen beside it and shows every
+/// The options: a panel that comes to light at the left of the table, which stands frozen beside it and wears every
 /// choice at once. Save makes the choices permanent, Cancel takes them back.
 ///
 /// The game's own record of the table isn't touched by the preview: a computer that plays on meanwhile, or the end of
@@ -53,7 +55,13 @@ class OptionsPanel : public QWidget {
   void customizeSoundsAsked();
 
  private:
-  void Build();
+  QVBoxLayout* AddFrame(const QString& Caption);
+  void BuildSwitches();
+  void BuildLists();
+  void BuildSwatches();
+  void BuildCommands();
+  void ColourControls();
+  void ShowWholeRows();
   void Close();
   void ShowSampleDice();
   void SnapshotOptions();
@@ -64,19 +72,19 @@ class OptionsPanel : public QWidget {
   void cboDiceColor_Click();
   void lstSkin_Click(int Entry);
   void lblColor_Click(int Index);
-  void ShowSet(const DiceSet& Set, const QColor& Colour);
+  void ShowSet(const DiceSet& Set, QRgb Colour);
 
   frmMain& form;
   Game& game;
   GameSettings& settings;
   Backgrounds backgrounds;
+  QVBoxLayout* frames;
   bool open = false;
   bool backgroundChosen = false;  ///< a picture, or none, has been clicked since the opening
 
   // How things were at the opening.
-  QString SavedBackground;
+  Dress before;
   std::int16_t SavedDieColour = 0;
-  QColor SavedTray1Colour, SavedTray2Colour;
 };
 
 }  // namespace blunko

@@ -8,6 +8,11 @@
 #include <QPainter>
 #include <QScreen>
 #include <QTimer>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <functional>
+#include <utility>
 
 #include "engine/ScoreDice.h"
 #include "storage/FileAccess.h"
@@ -15,8 +20,10 @@
 #include "table/JpegCheck.h"
 #include "table/KeyCodes.h"
 #include "widgets/Fonts.h"
+#include "widgets/FormBuilder.h"
 #include "widgets/PlacedDialog.h"
 #include "widgets/Twips.h"
+#include "widgets/X11.h"
 
 namespace blunko {
 
@@ -57,8 +64,10 @@ frmMain::frmMain(Game& Table) : QWidget(nullptr, Qt::Window), game(Table) {
   setWindowTitle(QStringLiteral(" Tollmoor Blunko"));
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
-  setFocusPolicy(Qt::StrongFocus);
-  PlaceControls();
+  setFocusPolicy(Qt::ClickFocus);  // keys work without a control; Tab stops on what is seen
+  PlaceTrays();
+  PlaceButtons();
+  PlaceLabels();
   BuildMenus();
   ConnectControls();
   setFixedSize(Pixels(WindowWidth), Pixels(WindowHeight));
@@ -66,69 +75,55 @@ frmMain::frmMain(Game& Table) : QWidget(nullptr, Qt::Window), game(Table) {
   ShowControls();
 }
 
-void frmMain::PlaceControls() {
-  const auto Panel = [](QWidget* Made, const char* Name, QRect Place) {
-    Made->setObjectName(QLatin1String(Name));
-    Made->setGeometry(Place);
-    return Made;
-  };
-  picGameTray = Panel(new QWidget(this), "picGameTray", TwipsRect(0, 0, TableWidth, 7725));
+void frmMain::PlaceTrays() {
+  picGameTray = Placed(Make<QWidget>(this, QStringLiteral("picGameTray")), TwipsRect(0, 0, TableWidth, 7725));
   picGameTray->setAutoFillBackground(true);
-  Image1 = new StretchedPicture(picGameTray);
-  Panel(Image1, "Image1", TwipsRect(0, 0, TableWidth, WindowHeight));
-
-  picTray1 = new DiceTray(picGameTray);
-  Panel(picTray1, "picTray1", TwipsRect(TrayLeft, Tray1Top, TrayWidth, TrayHeight));
-  picTray2 = new DiceTray(picGameTray, true);
-  Panel(picTray2, "picTray2", TwipsRect(TrayLeft, Tray2Top, TrayWidth, TrayHeight));
+  Image1 =
+      Placed(Make<StretchedPicture>(picGameTray, QStringLiteral("Image1")), TwipsRect(0, 0, TableWidth, WindowHeight));
+  const auto Tray = [this](const QString& Name, int Top, bool HasTrayAbove) {
+    return Placed(Make<DiceTray>(picGameTray, Name, HasTrayAbove), TwipsRect(TrayLeft, Top, TrayWidth, TrayHeight));
+  };
+  picTray1 = Tray(QStringLiteral("picTray1"), Tray1Top, false);
+  picTray2 = Tray(QStringLiteral("picTray2"), Tray2Top, true);
   for (int i = 0; i < 6; ++i) {
     for (const int Index : {i, 10 + i}) {
-      auto* Box = new DieBox(Index, Pictures, Index < 10 ? picTray1 : picTray2);
-      Panel(Box, "", TwipsRect(DieBoxLeft[i], DieTop, DieSide, DieSide));
-      Box->setObjectName(QStringLiteral("Picture1(%1)").arg(Index));
-      Picture1[Index < 10 ? i : 6 + i] = Box;
+      auto* Box = Make<DieBox>(Index < 10 ? picTray1 : picTray2, QStringLiteral("Picture1(%1)").arg(Index), Index,
+                               std::ref(Pictures));
+      Picture1[Index < 10 ? i : 6 + i] = Placed(Box, TwipsRect(DieBoxLeft[i], DieTop, DieSide, DieSide));
     }
-    picMarker[i] = new BitmapBox(MarkerBitmap, Pictures, picGameTray);
-    Panel(picMarker[i], "", TwipsRect(MarkerLeft[i], MarkerTop, MarkerSide, MarkerSide));
-    picMarker[i]->setObjectName(QStringLiteral("picMarker(%1)").arg(i));
+    auto* Mark = Make<BitmapBox>(picGameTray, QStringLiteral("picMarker(%1)").arg(i), MarkerBitmap, std::ref(Pictures));
+    picMarker[i] = Placed(Mark, TwipsRect(MarkerLeft[i], MarkerTop, MarkerSide, MarkerSide));
   }
-  pctDivider = Panel(new BitmapBox(DividerBitmap, Pictures, picTray2), "pctDivider",
-                     TwipsRect(0, DividerTop, DividerWidth, DividerHeight));
+  pctDivider = Placed(Make<BitmapBox>(picTray2, QStringLiteral("pctDivider"), DividerBitmap, std::ref(Pictures)),
+                      TwipsRect(0, DividerTop, DividerWidth, DividerHeight));
+  picSampleDice = Tray(QStringLiteral("picSampleDice"), SampleTop, false);
+  PlaceCover();
+}
 
-  picSampleDice = new DiceTray(picGameTray);
-  Panel(picSampleDice, "picSampleDice", TwipsRect(TrayLeft, SampleTop, TrayWidth, TrayHeight));
-  picSampleDice->setBackColor(QColor(0, 0, 128));
-  picSampleDice->hide();
-  auto* lblSampleDice = new QLabel(QStringLiteral("(Sample Dice)"), picSampleDice);
-  lblSampleDice->setObjectName(QStringLiteral("lblSampleDice"));
-  lblSampleDice->setFont(FontOf(Typeface::Verdana, 11.25, true));
-  lblSampleDice->setAlignment(Qt::AlignCenter);
+/// The words on the plate that covers the lower tray.
+void frmMain::PlaceCover() {
+  auto* lblSampleDice = MakeText(picSampleDice, QStringLiteral("lblSampleDice"), QStringLiteral("(Sample Dice)"),
+                                 FontOf(Typeface::Verdana, 11.25, true));
   lblSampleDice->setAutoFillBackground(true);
-  QPalette Plate = lblSampleDice->palette();  // dark blue letters need a light ground on every set's colour
-  Plate.setColor(QPalette::Window, QColor(232, 238, 250));
-  Plate.setColor(QPalette::WindowText, QColor(0, 0, 128));
-  Plate.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0, 0, 128));
-  lblSampleDice->setPalette(Plate);
+  // Dark blue letters need a light ground on every set's colour.
+  SetColours(*lblSampleDice, {{QPalette::Window, QColor(232, 238, 250)}, {QPalette::WindowText, QColor(0, 0, 128)}});
   lblSampleDice->setGeometry(QRect(picSampleDice->width() / 2 - 75, picSampleDice->height() / 2 - 13, 150, 26));
+}
 
-  const auto Button = [this](const char* Name, const QString& Caption, QRect Place) {
-    auto* Made = new ButtonPlus(Caption, picGameTray);
-    Made->setObjectName(QLatin1String(Name));
-    Made->setGeometry(Place);
-    return Made;
+void frmMain::PlaceButtons() {
+  const auto Add = [this](const char* Name, const QString& Caption, const QRect& Place) {
+    return Placed(Make<ButtonPlus>(picGameTray, QLatin1String(Name), Caption), Place);
   };
-  const auto BigButton = [&](const char* Name, const QString& Caption, int Left) {
-    ButtonPlus* Made = Button(Name, Caption, QRect(Left, 162, 175, 37));
-    Made->setFont(FontOf(Typeface::Verdana, 11.25, true));
-    return Made;
-  };
-  ARCmdNewGame = BigButton("ARCmdNewGame", QStringLiteral("New Game"), 108);
-  cmdRoll = BigButton("cmdRoll", QStringLiteral("Roll Dice"), 13);
-  cmdPassDice = BigButton("cmdPassDice", QStringLiteral("Pass Dice"), 203);
-  cmdOptions = Button("cmdOptions", QStringLiteral("Options"), QRect(13, 464, 115, 36));
-  cmdHighRollers = Button("cmdHighRollers", QStringLiteral("High Rollers"), QRect(138, 464, 115, 36));
-  cmdExit = Button("cmdExit", QStringLiteral("Exit"), QRect(263, 464, 115, 36));
+  ARCmdNewGame = Add("ARCmdNewGame", QStringLiteral("New Game"), QRect(108, 162, 175, 37));
+  cmdRoll = Add("cmdRoll", QStringLiteral("Roll Dice"), QRect(13, 162, 175, 37));
+  cmdPassDice = Add("cmdPassDice", QStringLiteral("Pass Dice"), QRect(203, 162, 175, 37));
+  for (ButtonPlus* Big : {ARCmdNewGame, cmdRoll, cmdPassDice}) Big->setFont(FontOf(Typeface::Verdana, 11.25, true));
+  cmdOptions = Add("cmdOptions", QStringLiteral("Options"), QRect(13, 464, 115, 36));
+  cmdHighRollers = Add("cmdHighRollers", QStringLiteral("High Rollers"), QRect(138, 464, 115, 36));
+  cmdExit = Add("cmdExit", QStringLiteral("Exit"), QRect(263, 464, 115, 36));
+}
 
+void frmMain::PlaceLabels() {
   const auto Text = [this](const char* Name, const QString& Caption, QRect Place, double Points, bool Bold,
                            Qt::Alignment Side) {
     auto* Made = new FitLabel(Caption, picGameTray);
@@ -145,10 +140,11 @@ void frmMain::PlaceControls() {
   lblTurnScoreLabel = Text("lblTurnScoreLabel", QStringLiteral("Score This Turn:"), QRect(13, 330, 178, 26), 11.25,
                            true, Qt::AlignRight);
   lblTurnScore = Text("lblTurnScore", {}, QRect(200, 330, 180, 26), 11.25, true, Qt::AlignLeft);
-  const auto MenuWord = [this](const char* Name, const QString& Caption, QRect Place) {
-    auto* Made = new WordButton(Caption, picGameTray);
-    Made->setObjectName(QLatin1String(Name));
-    Made->setGeometry(Place);
+  for (FitLabel* Score : {Label1, lblPlayer, lblTurnScoreLabel, lblTurnScore}) {
+    Score->setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+  const auto MenuWord = [this](const char* Name, const QString& Caption, const QRect& Place) {
+    auto* Made = Placed(Make<WordButton>(picGameTray, QLatin1String(Name), Caption), Place);
     Made->setFont(FontOf(Typeface::Verdana, 8.25));
     return Made;
   };
@@ -212,12 +208,12 @@ void frmMain::ShowControls() {
   picTray2->setEnabled(t.picTray2.Enabled);
   const bool PersonPlays = game.PersonMayPlay();
   for (int i = 0; i < 6; ++i) {
-    Picture1[i]->setPicture(sampleBase == 0 ? t.Picture1(i) : sampleBase + i + 1);
+    Picture1[i]->setPicture(Wears.SampleSet == 0 ? t.Picture1(i) : Wears.SampleSet + i + 1);
     Picture1[6 + i]->setPicture(t.Picture1(10 + i));
     Picture1[i]->setTakeable(PersonPlays && game.CanTake(i));
     Picture1[6 + i]->setTakeable(PersonPlays && game.CanTake(10 + i));
-    Picture1[i]->setPale(t.Busted);
-    picMarker[i]->setVisible(t.picMarker[i] && picSampleDice->isHidden());
+    Picture1[i]->setPale(t.Busted && !Wears.Covered);
+    picMarker[i]->setVisible(t.picMarker[i] && !Wears.Covered);
   }
   pctDivider->move(Pixels(t.pctDivider.Left), pctDivider->y());
   pctDivider->setVisible(t.pctDivider.Visible);
@@ -226,6 +222,7 @@ void frmMain::ShowControls() {
   Show(lblLastRoll, t.lblLastRoll.Caption, t.lblLastRoll.Visible, lblLastRoll->y());
   Show(lblPlayer, t.lblPlayer.Caption, t.lblPlayer.Visible, lblPlayer->y());
   Show(lblTurnScore, t.lblTurnScore.Caption, t.lblTurnScore.Visible, lblTurnScore->y());
+  DrawDress();
   DescribeDice();
   // The handlers may not return to the event loop for a while: what was marked for painting is painted now.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
@@ -235,9 +232,15 @@ void frmMain::Show(ButtonPlus* Widget, const Button& Control) {
   const bool Usable = Control.Enabled && Control.Visible;
   // A button that goes off hands the focus to the table, not to the button that happens to come next; also while a
   // dialog is active.
-  if (!Usable && focusWidget() == Widget) setFocus();
+  if (!Usable && focusWidget() == Widget) {
+    setFocus();
+    rollHadFocus = Widget == cmdRoll;
+  }
   Widget->setEnabled(Control.Enabled);
   Widget->setVisible(Control.Visible);
+  if (Widget == cmdRoll && Widget->isEnabled() && std::exchange(rollHadFocus, false) && focusWidget() == this) {
+    Widget->setFocus();
+  }
 }
 
 void frmMain::Show(FitLabel* Widget, const std::string& Caption, bool Visible, int Top) {
@@ -270,43 +273,92 @@ void frmMain::DescribeDice() {
   }
 }
 
-void frmMain::PaintTrays(const QColor& Tray1, const QColor& Tray2) {
-  picTray1->setBackColor(Tray1);
-  picTray2->setBackColor(Tray2);
-}
-
+/// The picture of a path; none for "(None)", and for a file that is no picture or costs too much.
 void frmMain::ShowBackground(const QString& Path) {
   const bool Shown = Path != NoBackground && IsModestJpeg(ReadWholeFile(Path, LargestJpeg).value_or(QByteArray()));
   Image1->Load(Shown ? Path : QString());
 }
 
-void frmMain::ColourLabels(std::uint32_t Colour) {
+void frmMain::DrawDress() {
+  if (drawn == Wears) return;
+  for (DiceTray* Tray : {picTray1, picTray2}) Tray->setBackColor(Wears.Trays);
+  picSampleDice->setBackColor(Wears.Cover);
+  picSampleDice->setVisible(Wears.Covered);
+  if (!drawn || drawn->Background != Wears.Background) ShowBackground(Wears.Background);
   for (FitLabel* Label : picGameTray->findChildren<FitLabel*>(Qt::FindDirectChildrenOnly)) {
-    Label->setForeColor(OfBgr(Colour));
+    Label->setForeColor(OfBgr(Wears.TextColour));
   }
-  for (WordButton* Menu : {lblMnuGame, lblMnuHelp}) Menu->setForeColor(OfBgr(Colour));
+  for (WordButton* Menu : {lblMnuGame, lblMnuHelp}) Menu->setForeColor(OfBgr(Wears.TextColour));
+  drawn = Wears;
 }
 
-void frmMain::ShowSampleFaces(int Base) {
-  sampleBase = Base;
-  ShowControls();
+void frmMain::OpenStrip(const QPixmap& Picture) {
+  const int Width = Picture.deviceIndependentSize().toSize().width();
+  QImage Whole((size() + QSize(Width, 0)) * devicePixelRatioF(), QImage::Format_RGB32);
+  Whole.setDevicePixelRatio(devicePixelRatioF());
+  QPainter Painter(&Whole);
+  Painter.drawPixmap(0, 0, Picture);
+  Painter.drawPixmap(Width, 0, picGameTray->grab(rect()));
+  SetStripWidth(Width, Whole);
 }
 
-void frmMain::SetStripWidth(int Width) {
-  const int Wider = Width - picGameTray->x();
-  const QRect Place = geometry().adjusted(-Wider, 0, 0, 0);
-  setFixedSize(Place.size());
+void frmMain::CloseStrip() {
+  SetStripWidth(0, picGameTray->grab(QRect(0, 0, width() - picGameTray->x(), height())).toImage());
+}
+
+/// The left edge moves, everything on the table stays where it is on the screen. `Whole`: the window in its new size.
+/// Nothing is painted before the window has it.
+void frmMain::SetStripWidth(int Width, const QImage& Whole) {
+  HoldRightEdge(*this, Whole);
+  const QRect Place = geometry().adjusted(picGameTray->x() - Width, 0, 0, 0);
+  setMinimumSize(minimumSize().boundedTo(Place.size()));
+  setMaximumSize(maximumSize().expandedTo(Place.size()));
   setGeometry(Place);
+  setFixedSize(Place.size());
   picGameTray->move(Width, 0);
+  AwaitSize(*this);
 }
 
 void frmMain::CentreOnScreen() { CentreFrame(*this, screen()->geometry()); }
+
+/// On a screen that is lower than the table the window moves up and down, so that all of it can be reached.
+void frmMain::Shift(int Down) {
+  const QRect Screen = screen()->availableGeometry(), Frame = frameGeometry();
+  if (Frame.height() <= Screen.height()) return;
+  move(x(), std::clamp(Frame.top() + Down, Screen.bottom() + 1 - Frame.height(), Screen.top()));
+}
+
+void frmMain::wheelEvent(QWheelEvent* Event) { Shift(Event->angleDelta().y() / 2); }
+
+bool frmMain::focusNextPrevChild(bool Next) {
+  const bool Moved = QWidget::focusNextPrevChild(Next);
+  if (const QWidget* Focus = focusWidget()) {
+    const QRect Screen = screen()->availableGeometry(), Seen(Focus->mapToGlobal(QPoint()), Focus->size());
+    if (Seen.bottom() > Screen.bottom()) Shift(Screen.bottom() - Seen.bottom());
+    if (Seen.top() < Screen.top()) Shift(Screen.top() - Seen.top());
+  }
+  return Moved;
+}
+
+/// A click on what the table tells of the scores brings a score pad back that was closed.
+void frmMain::mouseReleaseEvent(QMouseEvent* Event) {
+  const QRect Scores = Label1->geometry() | lblTurnScore->geometry();
+  const bool Counts = Event->button() == Qt::LeftButton && picGameTray->isEnabled();
+  if (Counts && Scores.contains(picGameTray->mapFrom(this, Event->position().toPoint()))) {
+    emit scorePadAsked();
+  }
+}
+
+bool frmMain::event(QEvent* Event) {
+  if (Event->type() == QEvent::WindowBlocked) ShowControls();  // behind a dialog the table stands as the game has it
+  return QWidget::event(Event);
+}
 
 void frmMain::showEvent(QShowEvent* Event) {
   QWidget::showEvent(Event);
   if (activatedBefore) return;
   activatedBefore = true;
-  setFocus();
+  ARCmdNewGame->setFocus();
   QTimer::singleShot(0, this, &frmMain::firstShown);
 }
 

@@ -4,9 +4,11 @@
 
 #include <array>
 #include <map>
+#include <optional>
 
 #include "engine/Game.h"
 #include "table/DieBox.h"
+#include "table/Dress.h"
 #include "widgets/ButtonPlus.h"
 #include "widgets/FitLabel.h"
 #include "widgets/Pictures.h"
@@ -24,21 +26,14 @@ class frmMain : public QWidget {
  public:
   explicit frmMain(Game& Table);
 
-  /// Copies the record of the controls to the widgets; what has changed is on the screen when it returns.
+  /// What the table wears. Shown with the next ShowControls.
+  Dress Wears;
+  /// Draws the records of the controls and of the dress; what has changed is on the screen when it returns.
   void ShowControls();
 
-  /// Gives trays and die boxes the colour of the dice set at program start.
-  void PaintTrays(const QColor& Tray1, const QColor& Tray2);
-  /// Shows the background picture at the path; none for "(None)".
-  void ShowBackground(const QString& Path);
-  /// Gives the labels of the table the text colour, 0xBBGGRR.
-  void ColourLabels(std::uint32_t Colour);
-  /// Shows the faces 1 to 6 of a set in the upper tray, in place of the game's dice; 0 brings those back.
-  void ShowSampleFaces(int Base);
-  /// Covers the lower tray, or uncovers it.
-  void CoverTray(bool Covered) { picSampleDice->setVisible(Covered); }
-  /// Opens a strip of this many pixels at the left of the table, which keeps its place on the screen.
-  void SetStripWidth(int Width);
+  /// Opens a strip at the left of the table, which keeps its place on the screen. `Picture`: what will be seen in it.
+  void OpenStrip(const QPixmap& Picture);
+  void CloseStrip();
   /// The table's part of the window, frame included, in screen coordinates.
   QPoint TableCorner() const { return pos() + QPoint(picGameTray->x(), 0); }
   /// Moves the window to the middle of its screen.
@@ -91,8 +86,13 @@ class frmMain : public QWidget {
   void howToPlayAsked();
   void helpAsked();
   void aboutAsked();
+  void scorePadAsked();
 
  protected:
+  bool event(QEvent* Event) override;
+  bool focusNextPrevChild(bool Next) override;
+  void wheelEvent(QWheelEvent* Event) override;
+  void mouseReleaseEvent(QMouseEvent* Event) override;
   void showEvent(QShowEvent* Event) override;
   void closeEvent(QCloseEvent* Event) override;
   void changeEvent(QEvent* Event) override;
@@ -100,17 +100,25 @@ class frmMain : public QWidget {
   void keyReleaseEvent(QKeyEvent* Event) override;
 
  private:
-  void PlaceControls();
+  void PlaceTrays();
+  void PlaceCover();
+  void PlaceButtons();
+  void PlaceLabels();
   void BuildMenus();
   void ConnectControls();
   void Show(ButtonPlus* Widget, const Button& Control);
   void Show(FitLabel* Widget, const std::string& Caption, bool Visible, int Top);
+  void DrawDress();
+  void ShowBackground(const QString& Path);
   void DescribeDice();
+  void SetStripWidth(int Width, const QImage& Whole);
+  void Shift(int Down);
 
   Game& game;
   /// Keys pressed in this window, each with its Shift mask then: only their release is a command.
   std::map<int, std::int16_t> keysDown;
-  int sampleBase = 0;
+  std::optional<Dress> drawn;
+  bool rollHadFocus = false;  ///< Roll Dice went off with the focus: it takes it back when it comes on again
   bool activatedBefore = false;
 };
 

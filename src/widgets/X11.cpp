@@ -99,11 +99,26 @@ void HoldRightEdge(QWidget& Window, const QImage& Whole) {
   XDestroyImage(Sent);
 }
 
+void AwaitSize(const QWidget& Window) {
+  Display* const To = Server();
+  if (To == nullptr || !Window.isVisible()) return;
+  const QSize Wanted = Window.size() * Window.devicePixelRatioF();
+  XWindowAttributes Is{};
+  for (int Waited = 0; Waited < LongestWait; Waited += LookEvery) {
+    XSync(To, False);
+    if (XGetWindowAttributes(To, Window.winId(), &Is) == 0) return;
+    if (qAbs(Is.width - Wanted.width()) <= 1 && qAbs(Is.height - Wanted.height()) <= 1) break;
+    QThread::msleep(LookEvery);
+  }
+  XSetWindowBackgroundPixmap(To, Window.winId(), None);
+}
+
 #else
 
 std::optional<QMargins> FrameToCome(QWidget&) { return {}; }
 void HearKeysReleasedOnce() {}
 void HoldRightEdge(QWidget&, const QImage&) {}
+void AwaitSize(const QWidget&) {}
 
 #endif
 

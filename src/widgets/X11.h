@@ -18,7 +18,10 @@ std::optional<QMargins> FrameToCome(QWidget& Window);
 void HearKeysReleasedOnce();
 
 /// Prepares a window that will change its width at its left edge: what it shows stays at the right edge, and what comes
-/// to light at the left shows `Whole`, the window in its new size, before the program has painted anything.
+/// to light shows `Whole`, the window in its new size, before the program has painted anything.
 void HoldRightEdge(QWidget& Window, const QImage& Whole);
+
+/// Waits until the window so prepared has got the size that it has asked for.
+void AwaitSize(const QWidget& Window);
 
 }  // namespace blunko

@@ -38,8 +38,9 @@ struct DressedTable : Home, TableForm {
 
   explicit DressedTable(const QByteArray& InfoText) : Home(InfoText), TableForm(&*View) {
     Screen.OnEvents = [this] { Form.ShowControls(); };
-    const QColor Start = StartColour(Settings->DieColour());
-    Form.PaintTrays(Start, Start);
+    Form.Wears.Trays = StartColour(Settings->DieColour());
+    Form.Wears.TextColour = Settings->TextColour();
+    Form.Wears.Background = Settings->Background();
   }
   /// With the given dice on the table; the first `Taken` of them lie in the tray.
   void Play(const char* Faces, int Taken) {
@@ -71,7 +72,7 @@ TEST(OptionsPanel, SaveKeepsEveryChoiceAndCancelTakesItBack) {
     EXPECT_EQ(Form.lblStatus->ForeColor(), QColor(Qt::white)) << "the colour of the picture shows at once";
     Panel.lblColor[6]->click();
     EXPECT_EQ(Form.lblStatus->ForeColor(), QColor(128, 255, 255)) << "the text is paler than the swatch";
-    EXPECT_EQ(Form.picTray1->BackColor(), QColor(128, 128, 255));
+    EXPECT_EQ(Form.Wears.Trays, QColor(128, 128, 255));
     EXPECT_EQ(Form.Picture1[4]->Picture(), 154 + 5) << "the sample shows the clicked set";
     Dressed.Close(Save);
 
@@ -84,7 +85,7 @@ TEST(OptionsPanel, SaveKeepsEveryChoiceAndCancelTakesItBack) {
     EXPECT_EQ(Again.Background(), Dressed.Picture(Save ? "Forest.jpg" : "Satin.jpg"));
     EXPECT_EQ(Again.TextColourIndex(), Save ? 6 : 3) << "the ticked swatch wins over the picture's colour";
     EXPECT_EQ(Form.lblStatus->ForeColor(), Save ? QColor(128, 255, 255) : QColor(255, 255, 0));
-    EXPECT_EQ(Form.picTray1->BackColor(), Save ? QColor(128, 128, 255) : QColor(166, 2, 2));
+    EXPECT_EQ(Form.Wears.Trays, Save ? QColor(128, 128, 255) : QColor(166, 2, 2));
     EXPECT_EQ(Form.Picture1[4]->Picture(), 0) << "no game, no dice";
     EXPECT_FALSE(Panel.isVisible());
   }
@@ -98,17 +99,19 @@ TEST(OptionsPanel, TrayColoursFollowTheMomentAtWhichASetIsPainted) {
       {"Pablo, saved", 118, nullptr, true, {0, 0, 128}, {236, 238, 228}, {236, 238, 228}},
       {"Pablo, clicked and saved", 118, "Pablo", true, {0, 0, 128}, {236, 238, 228}, {0, 0, 128}},
       {"a set that isn't offered", 166, nullptr, true, {0, 128, 0}, {0, 128, 0}, {0, 128, 0}},
-      {"no set at all", 55, nullptr, true, {0, 0, 0}, {0, 0, 0}, {0, 0, 0}},
+      {"no set at all", 101, nullptr, true, {0, 0, 0}, {0, 0, 0}, {0, 0, 0}},
   };
   for (const auto& [Why, Base, Click, Save, Start, Open, End] : Rows) {
     SCOPED_TRACE(Why);
     DressedTable Dressed("DieColor=" + QByteArray::number(Base) + "\n");
-    EXPECT_EQ(Dressed.Form.picTray2->BackColor(), Start);
+    EXPECT_EQ(Dressed.Form.Wears.Trays, Start);
     Dressed.Panel->cmdOptions_Click();
-    EXPECT_EQ(Dressed.Form.picTray2->BackColor(), Open);
+    EXPECT_EQ(Dressed.Form.Wears.Trays, Open);
     if (Click != nullptr) Dressed.ChooseSet(Click);
     Dressed.Close(Save);
-    EXPECT_EQ(Dressed.Form.picTray1->BackColor(), End);
+    Dressed.Play("123446", 0);
+    EXPECT_NE(FindDiceSet(Dressed.Box(1)->Picture() - 2), nullptr) << "a two doesn't look like another face";
+    EXPECT_EQ(Dressed.Form.Wears.Trays, End);
     EXPECT_EQ(GameSettings(Dressed.Where).DieColour(), Base) << "a set off the list stays in the settings";
   }
 }

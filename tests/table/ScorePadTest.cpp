@@ -13,22 +13,6 @@ class ScorePad : public testing::Test, public TableForm {
   FitLabel* Label(const QString& Name) { return Pad.findChild<FitLabel*>(Name); }
 };
 
-TEST_F(ScorePad, EveryLabelIsAtItsPlace) {
-  const QString Parent = "frmScorePad";
-  std::vector<Geometry> Rows{{"lblGoal", Parent, 120, 90, 2250, 375},
-                             {"label_break_in", Parent, 120, 480, 2250, 375},
-                             {"Label2", Parent, 240, 960, 1095, 375},
-                             {"Label3", Parent, 1800, 960, 615, 375}};
-  for (const Geometry& Each : Rows) EXPECT_EQ(Label(Each.Name)->ForeColor(), QColor(Qt::yellow));
-  for (int i = 0; i < 8; ++i) {
-    Rows.push_back({QStringLiteral("lblPlayer(%1)").arg(i), Parent, 240, 1380 + 420 * i, 1560, 375});
-    Rows.push_back({QStringLiteral("lblScore(%1)").arg(i), Parent, 1800, 1380 + 420 * i, 750, 255});
-  }
-  ExpectPlaces(Pad, Rows);
-  EXPECT_EQ(Pad.windowTitle(), " Score Pad");
-  EXPECT_EQ(Pad.grab().toImage().pixelColor(3, 3), QColor(2, 127, 255));
-}
-
 TEST_F(ScorePad, ShowsLimitsNamesScoresAndTheSeatOnTurn) {
   Begin({"WWWWWWWWWWWWWW", "Genius", "Bob", "Moron"});
   m.PlayToScore = 10000;

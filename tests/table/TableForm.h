@@ -17,7 +17,7 @@ struct TableForm : Table {
   frmMain Form{game};
 
   explicit TableForm(const GameOptions* Instead = nullptr) : Table(Instead) {
-    Form.PaintTrays(Qt::darkRed, Qt::darkRed);
+    Form.Wears.Trays = Qt::darkRed;
     Form.show();
     Form.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Form, 2000));
@@ -67,22 +67,6 @@ inline std::string Difference(const frmMain& Form, const TableControls& t) {
   Compare(Form.pctDivider, "visible", Form.pctDivider->isVisible(), t.pctDivider.Visible);
   if (t.pctDivider.Visible) Compare(Form.pctDivider, "left", Form.pctDivider->x(), Pixels(t.pctDivider.Left));
   return All;
-}
-
-struct Geometry {
-  QString Name, Parent;
-  int Left, Top, Width, Height;  ///< twips
-};
-inline void ExpectPlaces(const QWidget& Form, const std::vector<Geometry>& Rows) {
-  const auto Edge = [](int Twips) { return qRound(Twips / 15.0); };
-  for (const Geometry& Each : Rows) {
-    SCOPED_TRACE(Each.Name.toStdString());
-    const auto* Control = Form.findChild<QWidget*>(Each.Name);
-    ASSERT_NE(Control, nullptr);
-    EXPECT_EQ(Control->parent()->objectName(), Each.Parent);
-    EXPECT_EQ(Control->geometry(), QRect(QPoint(Edge(Each.Left), Edge(Each.Top)),
-                                         QPoint(Edge(Each.Left + Each.Width) - 1, Edge(Each.Top + Each.Height) - 1)));
-  }
 }
 
 /// The part of a widget that is drawn in something like the colour.
