@@ -32,9 +32,9 @@ std::int16_t To16Bits(int LogicalPixels) {
 
 }  // namespace
 
-Application::Application(const Folders& Where, std::unique_ptr<NumberSource> Dice)
+Application::Application(const Folders& Where, const IniInfo& Info, std::unique_ptr<NumberSource> Dice)
     : folders(Where),
-      InfoFile(Where.InfoPath()),
+      InfoFile(Info),
       Settings(Where, InfoFile),
       Numbers(std::move(Dice)),
       Uniform(0),

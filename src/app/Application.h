@@ -27,7 +27,11 @@ namespace blunko {
 class Application : public Program, private HighRollersScreen {
  public:
   /// `Numbers` replaces the dice and `Where` the folders, for tests.
-  explicit Application(const Folders& Where, std::unique_ptr<NumberSource> Numbers = std::make_unique<FairDice>());
+  explicit Application(const Folders& Where, std::unique_ptr<NumberSource> Numbers = std::make_unique<FairDice>())
+      : Application(Where, IniInfo(Where.InfoPath()), std::move(Numbers)) {}
+  /// Shares what `Info` has read of the info file.
+  Application(const Folders& Where, const IniInfo& Info,
+              std::unique_ptr<NumberSource> Numbers = std::make_unique<FairDice>());
   ~Application() override;
 
   /// The start, up to the shown table. False: the program ends without having shown it.
