@@ -1,6 +1,7 @@
 #include "app/Application.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QTime>
 
@@ -161,7 +162,12 @@ frmScorePad& Application::ScorePad() {
 
 OptionsPanel& Application::Options() {
   if (options == nullptr) {
-    options = new OptionsPanel(*Form, Table, Settings, folders.Shipped(QStringLiteral("Background")));
+    QStringList Pictures{folders.Shipped(QStringLiteral("Background"))};
+    if (const QString Own = folders.OwnBackground(); !Own.isEmpty()) {
+      QDir().mkpath(Own);  // for the player to find
+      Pictures.prepend(Own);
+    }
+    options = new OptionsPanel(*Form, Table, Settings, Pictures);
     QObject::connect(options, &OptionsPanel::customizeSoundsAsked, options, [this] { CustomizeSounds(); });
   }
   return *options;

@@ -19,11 +19,17 @@ constexpr qint64 LargestColourFile = 1 << 16;  // bytes
 }  // namespace
 
 void Backgrounds::ScanBackgrounds() {
-  BackgroundFiles = SortNames(QDir(folder).entryList({QStringLiteral("*.jpg")}, QDir::Files, QDir::Unsorted));
-  BackgroundFiles = BackgroundFiles.mid(0, MostFiles);
+  PictureFolders.clear();
+  for (const QString& Folder : folders) {
+    for (const QString& Name : QDir(Folder).entryList({QStringLiteral("*.jpg")}, QDir::Files, QDir::Unsorted)) {
+      if (!PictureFolders.contains(Name)) PictureFolders[Name] = Folder;
+    }
+  }
+  BackgroundFiles = SortNames(PictureFolders.keys()).mid(0, MostFiles);
   BackgroundColours.clear();
   for (const QString& Name : BackgroundFiles) {
-    BackgroundColours.emplace(Name, ReadColourFile(PathOf(FileBaseName(Name) + QStringLiteral(".clr"))));
+    const QString Base = PictureFolders[Name] + QLatin1Char('/') + FileBaseName(Name);
+    BackgroundColours.emplace(Name, ReadColourFile(Base + QStringLiteral(".clr")));
   }
 }
 

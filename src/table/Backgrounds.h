@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -8,22 +9,23 @@
 
 namespace blunko {
 
-/// The background pictures of a folder, each with the text colour that suits it.
+/// The background pictures of some folders as one list, each with the text colour that suits it.
 class Backgrounds {
  public:
   /// The list that offers the pictures holds no more of them, "(None)" not counted.
   static constexpr int MostFiles = 255;
 
-  explicit Backgrounds(QString Folder) : folder(std::move(Folder)) {}
+  /// Of pictures with the same name that in the folder named first counts.
+  explicit Backgrounds(QStringList Folders) : folders(std::move(Folders)) {}
 
-  /// Looks through the folder afresh. A missing one is an empty one.
+  /// Looks through the folders afresh. A missing one is an empty one.
   void ScanBackgrounds();
 
   /// Names of the pictures without their folder, sorted by character code.
   QStringList BackgroundFiles;
   /// Index in the list of text colours that goes with a picture; 0, black, without a colour file.
   std::int16_t ColourIndexOf(const QString& Name) const;
-  QString PathOf(const QString& Name) const { return folder + QLatin1Char('/') + Name; }
+  QString PathOf(const QString& Name) const { return PictureFolders.value(Name) + QLatin1Char('/') + Name; }
 
  private:
   struct IgnoringCase {
@@ -32,7 +34,8 @@ class Backgrounds {
     }
   };
 
-  QString folder;
+  QStringList folders;
+  QHash<QString, QString> PictureFolders;  ///< of each name
   std::map<QString, std::int16_t, IgnoringCase> BackgroundColours;
 };
 

@@ -36,8 +36,8 @@ const char* const ColourNames[] = {"Black", "Red", "Green", "Yellow", "Blue", "M
 
 }  // namespace
 
-OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QString BackgroundFolder)
-    : QWidget(&Main), form(Main), game(Table), settings(Options), backgrounds(std::move(BackgroundFolder)) {
+OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QStringList BackgroundFolders)
+    : QWidget(&Main), form(Main), game(Table), settings(Options), backgrounds(std::move(BackgroundFolders)) {
   setObjectName(QStringLiteral("picOptionsTray"));
   setGeometry(TwipsRect(0, 0, PanelWidth, PanelHeight));
   setFont(FontOf(Typeface::Verdana, 8.25));

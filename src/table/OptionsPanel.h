@@ -31,7 +31,8 @@ class OptionsPanel : public QWidget {
   Q_OBJECT
 
  public:
-  OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QString BackgroundFolder);
+  /// The pictures of all the folders are offered; of two with the same name that in the folder named first.
+  OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QStringList BackgroundFolders);
 
   bool IsOpen() const { return open; }
   /// Opens the panel; the table window grows to the left.

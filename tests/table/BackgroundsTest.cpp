@@ -39,21 +39,27 @@ TEST(Backgrounds, AColourFileCountsByTheNumberItBeginsWith) {
   EXPECT_EQ(ReadColourFile(Pipe(Folder, "Pipe.clr")), 0);
 }
 
-TEST(Backgrounds, TheFolderIsLookedThroughAfreshAndSortedByCharacterCode) {
+TEST(Backgrounds, TheFoldersAreLookedThroughAfreshAsOneListSortedByCharacterCode) {
   Place Folder;
-  Backgrounds Found(Folder.Path("Background"));
+  Backgrounds Found({Folder.Path("Own"), Folder.Path("Background")});
   Found.ScanBackgrounds();
   EXPECT_TRUE(Found.BackgroundFiles.isEmpty()) << "no folder";
 
   Folder.Mkdir("Background/Folder.jpg", 0755);
+  for (const char* Name : {"Own/Z.jpg", "Own/b.jpg"}) Folder.Put(Name, "no picture");
   for (const char* Name : {"sea.JPG", "a.jpg", "Old.Glory.jpg", "Äpfel.jpg", "Z.jpg", "Sea.jpg", "n.txt", "p.jpeg"})
     Folder.Put(QStringLiteral("Background/") + Name, "no picture");
   Folder.Put("Background/Old.clr", "4");
   Folder.Put("Background/Sea.clr", "6");
+  Folder.Put("Background/Z.clr", "3");
   Found.ScanBackgrounds();
-  EXPECT_EQ(Found.BackgroundFiles, (QStringList{"Old.Glory.jpg", "Sea.jpg", "Z.jpg", "a.jpg", "sea.JPG", "Äpfel.jpg"}));
+  EXPECT_EQ(Found.BackgroundFiles,
+            (QStringList{"Old.Glory.jpg", "Sea.jpg", "Z.jpg", "a.jpg", "b.jpg", "sea.JPG", "Äpfel.jpg"}));
+  EXPECT_EQ(Found.PathOf("Z.jpg"), Folder.Path("Own/Z.jpg")) << "the player's own comes first";
+  EXPECT_EQ(Found.PathOf("a.jpg"), Folder.Path("Background/a.jpg"));
   EXPECT_EQ(Found.ColourIndexOf("Old.Glory.jpg"), 4) << "the name up to its first dot";
   EXPECT_EQ(Found.ColourIndexOf("SEA.JPG"), 6) << "without regard to case";
+  EXPECT_EQ(Found.ColourIndexOf("Z.jpg"), 0) << "the colour goes with the picture";
 }
 
 TEST(Backgrounds, FiveThousandPicturesStayWithinTheList) {
@@ -64,7 +70,7 @@ TEST(Backgrounds, FiveThousandPicturesStayWithinTheList) {
     const QString Name = QStringLiteral("%1.jpg").arg(i, 4, 10, QChar('0'));
     ASSERT_EQ(link(One.constData(), QFile::encodeName(Folder.Path(Name)).constData()), 0);
   }
-  Backgrounds Found(Folder.Path());
+  Backgrounds Found({Folder.Path()});
   Found.ScanBackgrounds();
   ASSERT_EQ(Found.BackgroundFiles.size(), 255) << "256 entries with (None)";
   EXPECT_EQ(Found.BackgroundFiles.back(), "0254.jpg");

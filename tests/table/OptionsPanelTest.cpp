@@ -34,7 +34,7 @@ struct Home {
 
 /// A table with an options panel, and a person's game that may run.
 struct DressedTable : Home, TableForm {
-  OptionsPanel* Panel = new OptionsPanel(Form, game, *Settings, Folder.Path("Background"));
+  OptionsPanel* Panel = new OptionsPanel(Form, game, *Settings, {Folder.Path("Background")});
 
   explicit DressedTable(const QByteArray& InfoText) : Home(InfoText), TableForm(&*View) {
     Screen.OnEvents = [this] { Form.ShowControls(); };
