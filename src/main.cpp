@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "app/Application.h"
+#include "app/Scale.h"
 #include "widgets/X11.h"
 
 namespace {
@@ -21,9 +22,14 @@ int main(int argc, char** argv) {
                           qEnvironmentVariableIsSet("WAYLAND_DISPLAY") && qEnvironmentVariableIsSet("DISPLAY");
   if (PrefersX11) qputenv("QT_QPA_PLATFORM", "xcb");
   QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*=false"));  // a broken picture is no news
+  const blunko::Folders Where = blunko::Folders::OfProgram();
+  const int Scale = blunko::ReadScale(blunko::IniInfo(Where.InfoPath()));
+  blunko::ScaleWindows(Scale, argc, argv);
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication app(argc, argv);
-  if (PrefersX11) qunsetenv("QT_QPA_PLATFORM");  // a browser that the game opens chooses for itself
+  // A browser that the game opens chooses for itself.
+  if (PrefersX11) qunsetenv("QT_QPA_PLATFORM");
+  if (Scale != 100) qunsetenv("QT_SCALE_FACTOR");
   blunko::HearKeysReleasedOnce();
   QApplication::setApplicationName(QStringLiteral("TollmoorBlunko"));
   QApplication::setDesktopFileName(QStringLiteral("tollmoor-blunko"));
@@ -33,7 +39,7 @@ int main(int argc, char** argv) {
   int Result = 0;
   bool AnswerIsDue = false;
   {
-    blunko::Application Program(blunko::Folders::OfProgram());
+    blunko::Application Program(Where);
     if (Program.Main()) Result = QApplication::exec();
     AnswerIsDue = Program.VersionCheckFailed();
   }

@@ -1,6 +1,7 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
+#include "app/Scale.h"
 #include "app/frmCongrats.h"
 #include "tests/app/Run.h"
 
@@ -144,6 +145,12 @@ TEST_F(Playing, TheScorePadGoesAndComesBackToItsPlaceWithTheTable) {
   Run->Form->showNormal();
   EXPECT_TRUE(QTest::qWaitFor([&] { return Pad()->isVisible(); }, 5000));
   EXPECT_EQ(Pad()->pos(), Before);
+}
+
+TEST(Scale, MakesNoWindowLargerThanTheScreenNorSmallerThanItIs) {
+  const std::tuple<int, QSize, double> Rows[] = {
+      {150, {1920, 1080}, 1.5}, {400, {5300, 1120}, 2}, {400, {1590, 5600}, 3}, {200, {800, 480}, 1}};
+  for (const auto& [PerCent, Screen, Scale] : Rows) EXPECT_DOUBLE_EQ(FittingScale(PerCent, Screen), Scale) << PerCent;
 }
 
 TEST_F(TheProgram, AsksItsTwoQuestionsAtTheFirstStartAlone) {
