@@ -23,7 +23,8 @@ int main(int argc, char** argv) {
   if (PrefersX11) qputenv("QT_QPA_PLATFORM", "xcb");
   QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*=false"));  // a broken picture is no news
   const blunko::Folders Where = blunko::Folders::OfProgram();
-  const int Scale = blunko::ReadScale(blunko::IniInfo(Where.InfoPath()));
+  const blunko::IniInfo Info(Where.InfoPath());
+  const int Scale = blunko::ReadScale(Info);
   blunko::ScaleWindows(Scale, argc, argv);
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication app(argc, argv);
@@ -39,7 +40,7 @@ int main(int argc, char** argv) {
   int Result = 0;
   bool AnswerIsDue = false;
   {
-    blunko::Application Program(Where);
+    blunko::Application Program(Where, Info);
     if (Program.Main()) Result = QApplication::exec();
     AnswerIsDue = Program.VersionCheckFailed();
   }

@@ -81,7 +81,6 @@ TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revis
   if (Address.scheme() != QLatin1String("http") && Address.scheme() != QLatin1String("https")) return VersionError;
   auto Network = std::make_unique<QNetworkAccessManager>();
   QNetworkRequest Request(Address);
-  Request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
   Request.setMaximumRedirectsAllowed(MostRedirects);
 
   QEventLoop Loop;

@@ -74,6 +74,7 @@ TEST_F(GameSettingsTest, TakesWhateverStandsInTheFile) {
                       {"DieColor=32768", Dice, 112},
                       {"DieColor=1e999", Dice, 112},
                       {"DieColor=nan", Dice, 112},
+                      {"TextColor=1", Colour, 0x0000FF},
                       {"TextColor=6", Colour, 0xFFFF80},
                       {"TextColor=16711680", Colour, 0xFF0000},
                       {"TextColor=12345", Colour, 0},
@@ -189,7 +190,7 @@ TEST_F(GameSettingsTest, AHandEditedSetupTakesTheDefaultForEachUnusableField) {
       {"3", "A|B|~|", "False|True|~|", "00|2|22|", 3, {A, {"B", true, 2}, {"Player3", false, 0}}},
       {"2", "A|B|", "true|yes|", "1|1|", 2, {A, B}},
       {"2", "A|B|", "True|True|", "7|x|", 2, {{"A", true, 0}, {"B", true, 0}}},
-      {"2", "A\tB\xAD\xFF|FifteenLettersX|", "|", "|", 2, {{"AB", false, 0}, {"FifteenLetters", false, 0}}},
+      {"2", "A\t\xF6\xAD\xFF|FifteenLettersX|", "|", "|", 2, {{"A\u00F6", false, 0}, {"FifteenLetters", false, 0}}},
       {"2", "|\t\xAD|", "|", "|", 2, {{"", false, 0}, {"Player2", false, 0}}}};
   for (const Row& row : Rows) {
     const QByteArray Text = QByteArray("[Info]\ndefNumPlayers=") + row.Count + "\ndefPlayerNameString=" + row.Names +
