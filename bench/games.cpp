@@ -172,7 +172,6 @@ class Match : public QuietProgram {
     lastSeat = 0;
     banked.fill(0);
   }
-  void RunComputerTurn() override { players.RunComputerTurn(); }
   void ShowCongrats() override {
     ++counts.Games;
     ++counts.Wins[state.Winner];

@@ -215,8 +215,6 @@ void Application::ShowCongrats() { frmCongrats(Table, *Form).exec(); }
 
 void Application::ShowNewGame() { NewGame().ShowModal(); }
 
-void Application::RunComputerTurn() { Players.RunComputerTurn(); }
-
 void Application::CancelOptions() { Options().ARCmdCancelOptions_Click(); }
 
 void Application::UnloadOtherForms() {

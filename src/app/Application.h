@@ -49,7 +49,6 @@ class Application : public Program, private HighRollersScreen {
   void CheckWhoopin(const std::string& Name, std::int16_t Margin) override;
   void ShowCongrats() override;
   void ShowNewGame() override;
-  void RunComputerTurn() override;
   void CancelOptions() override;
   void UnloadOtherForms() override;
   void ExitProgram() override;

@@ -19,7 +19,9 @@ void ComputerPlayers::RunComputerTurn() {
   Running = true;
   while (std::exchange(SeatIsDue, false) && !m.Quitting) {
     const bool GameGoesOn = m.CurrentPlayer != Absent && t.cmdRoll.Visible;  // not ended or given up since the call
-    if (GameGoesOn && m.PlayerIsComputer[m.CurrentPlayer]) PlayStyle(m.PlayerStyle[m.CurrentPlayer]);
+    if (!GameGoesOn || !m.PlayerIsComputer[m.CurrentPlayer]) continue;
+    m.ActionSet = "r";  // whatever was left behind: the handlers around a nested call have ended only now
+    PlayStyle(m.PlayerStyle[m.CurrentPlayer]);
   }
   Running = false;
 }
@@ -44,36 +46,35 @@ void ComputerPlayers::PlayStyle(int PlayerStyle) {
 
 void ComputerPlayers::CountDiceLeft(std::uint8_t& Count) const {
   Count = 0;
-  for (int i = 0; i < Dice; ++i) Count += (m.DieScoreCode[i] != NoDie) & !m.BotTake[i];
+  for (int i = 0; i < Dice; ++i) Count += m.DieScoreCode[i] != NoDie && !m.BotTake[i];
 }
 
-bool ComputerPlayers::BotRoll() {
-  if (!PumpAndGoOn()) return false;
+void ComputerPlayers::BotRoll() {
+  if (!PumpAndGoOn()) return;
   m.BotTake.fill(false);
-  return Roll();
+  Roll();
 }
 
-bool ComputerPlayers::BotPass() { return PumpAndGoOn() && Pass(); }
+void ComputerPlayers::BotPass() {
+  if (PumpAndGoOn()) Pass();
+}
 
-bool ComputerPlayers::Roll() {
-  if (!MayGoOn()) return false;
+void ComputerPlayers::Roll() {
+  if (!MayGoOn()) return;
   game.cmdRoll_Click();
   if (Settings.ComputerSpeed() == SpeedNormal) desktop.Sleep(PauseAfterRoll);
-  return true;
 }
 
-bool ComputerPlayers::Pass() {
-  if (!MayGoOn()) return false;
+void ComputerPlayers::Pass() {
+  if (!MayGoOn()) return;
   m.TurnOver = true;
   game.cmdPassDice_Click();
-  return true;
 }
 
-bool ComputerPlayers::ClickDie(int Position) {
-  if (!MayGoOn()) return false;
+void ComputerPlayers::ClickDie(int Position) {
+  if (!MayGoOn()) return;
   game.Picture1_MouseUp(static_cast<std::int16_t>(Position), LeftButton, 0, 100.0F, 100.0F);
   PauseAfterClick();
-  return true;
 }
 
 void ComputerPlayers::MarkAndClick(int Position) {
@@ -91,7 +92,7 @@ void ComputerPlayers::FindLeader() {
 }
 
 bool ComputerPlayers::PumpAndGoOn() {
-  desktop.PumpEvents();
+  game.PumpEvents();
   return MayGoOn();
 }
 

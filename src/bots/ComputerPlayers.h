@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "engine/Game.h"
+#include "engine/ThisGame.h"
 
 namespace blunko {
 
@@ -15,14 +16,17 @@ struct TableStyle {
 
 /// The computer seats. A style plays a turn through the handlers of the table, exactly as a person would, and goes by
 /// `ActionSet`, the score codes and the banked scores alone.
-class ComputerPlayers {
+class ComputerPlayers : public ComputerSeats {
  public:
+  /// Takes the computer seats at the table.
   ComputerPlayers(Game& Table, UniformSource& Uniform)
-      : game(Table), m(Table.m), t(Table.t), Settings(Table.Settings), desktop(Table.desktop), uniform(Uniform) {}
+      : game(Table), m(Table.m), t(Table.t), Settings(Table.Settings), desktop(Table.desktop), uniform(Uniform) {
+    Table.SeatComputers(*this);
+  }
 
   /// Plays the turn of the seat on turn, and those of the computer seats that follow it, one after the other. A call
   /// that comes from inside such a turn only notes that the next seat is due: the call chain doesn't grow.
-  void RunComputerTurn();
+  void RunComputerTurn() override;
 
   /// Dice that the style on turn would leave on the table: positions with a die that it hasn't marked as taken.
   void CountDiceLeft(std::uint8_t& Count) const;
@@ -39,22 +43,22 @@ class ComputerPlayers {
   void Bot_Moron();
 
   void PlayTableStyle(const TableStyle& Style);
-  bool ActAtTable(const TableStyle& Style);
-  bool DecideToPass(const TableStyle& Style);
-  bool TakeDice(int TakeAllBelow);
+  void ActAtTable(const TableStyle& Style);
+  void DecideToPass(const TableStyle& Style);
+  void TakeDice(int TakeAllBelow);
   void TakeAll(bool ClickEmptyToo);
   bool TakeFirst(const Word& Code);
 
-  /// The loop of a turn: `Act` acts once on the action set as it stands, and returns false to leave the turn at once.
+  /// The loop of a turn: `Act` acts once on the action set as it stands.
   template <typename Action>
   void PlayTurn(bool WaitsWhilePaused, Action Act);
 
-  // Actions. They return false when the turn must be left without acting.
-  bool BotRoll();
-  bool BotPass();
-  bool Roll();
-  bool Pass();
-  bool ClickDie(int Position);
+  // Actions. Once the turn is over, or the program quits, nothing comes of them.
+  void BotRoll();
+  void BotPass();
+  void Roll();
+  void Pass();
+  void ClickDie(int Position);
   void MarkAndClick(int Position);
 
   void PauseAfterClick();
@@ -77,22 +81,19 @@ class ComputerPlayers {
 template <typename Action>
 void ComputerPlayers::PlayTurn(bool WaitsWhilePaused, Action Act) {
   constexpr int PauseBeforeAction = 100;  // ms
-  const auto Played = m.GameNumber;
+  const ThisGame Played(m);
   if (m.Quitting) return;
   t.picTray1.Enabled = false;
   m.TurnOver = false;
-  while (!m.TurnOver) {
-    while (WaitsWhilePaused && m.PauseComputer && MayGoOn()) desktop.WaitForEvents();
-    if (m.TurnOver) break;
+  while (MayGoOn()) {
+    while (WaitsWhilePaused && m.PauseComputer && MayGoOn()) game.WaitForEvents();
+    if (!MayGoOn()) break;
     if (Settings.ComputerSpeed() < SpeedRidiculous) desktop.Sleep(PauseBeforeAction);
-    if (!Act()) {
-      if (m.Quitting) return;
-      continue;
-    }
-    if (!m.TurnOver) desktop.PumpEvents();
+    Act();
+    if (MayGoOn()) game.PumpEvents();
   }
   // A table that was given up stays closed, and a new game has opened its own.
-  if (!m.Quitting && m.GameNumber == Played) t.picTray1.Enabled = true;
+  if (Played.GoesOn()) t.picTray1.Enabled = true;
 }
 
 }  // namespace blunko

@@ -18,9 +18,8 @@ void ComputerPlayers::Bot_Simple() {
     if (Actions == "p") return Pass();
     if (Actions == "rp") return m.TurnScore > SimpleRollsUpTo ? Pass() : Roll();
     for (int i = 0; i < Dice; ++i) {
-      if (m.DieScoreCode[i] != NoScore && !ClickDie(i)) return false;
+      if (m.DieScoreCode[i] != NoScore) ClickDie(i);
     }
-    return true;
   });
 }
 
@@ -32,12 +31,11 @@ void ComputerPlayers::Bot_Moron() {
     if (Actions != "s") return Pass();
     for (int i = 0; i < Dice; ++i) {
       if (m.DieScoreCode[i] == NoScore) continue;
-      if (!ClickDie(i)) return false;
+      ClickDie(i);
       bool NonScorerUp = false;
       for (int j = 0; j < Dice; ++j) NonScorerUp = NonScorerUp || (m.DieScoreCode[j] == NoScore && m.DieUp[j]);
-      if (NonScorerUp) break;
+      if (NonScorerUp) return;
     }
-    return true;
   });
 }
 

@@ -29,7 +29,7 @@ void ComputerPlayers::PlayTableStyle(const TableStyle& Style) {
   PlayTurn(Style.WaitsWhilePaused, [this, &Style] { return ActAtTable(Style); });
 }
 
-bool ComputerPlayers::ActAtTable(const TableStyle& Style) {
+void ComputerPlayers::ActAtTable(const TableStyle& Style) {
   const Word Actions = m.ActionSet;
   if (Actions == "r") return BotRoll();
   if (Actions == "p") return BotPass();
@@ -40,16 +40,16 @@ bool ComputerPlayers::ActAtTable(const TableStyle& Style) {
     if (Hungry || m.NumDiceUp < Style.TakeAllBelow) return TakeDice(Style.TakeAllBelow);
     return BotRoll();
   }
-  if (Actions == "rp") return DecideToPass(Style);
-  return true;
+  if (Actions == "rp") DecideToPass(Style);
 }
 
 /// No scorer is up and the seat may bank: pass or roll on.
-bool ComputerPlayers::DecideToPass(const TableStyle& Style) {
+void ComputerPlayers::DecideToPass(const TableStyle& Style) {
   if (m.OutPlayer != Absent) {
     FindLeader();
     const int OwnTotal = m.PlayerScore[m.CurrentPlayer] + m.TurnScore;
-    return m.LeaderScore < OwnTotal ? BotPass() : BotRoll();
+    m.LeaderScore < OwnTotal ? BotPass() : BotRoll();
+    return;
   }
   if (m.PlayerScore[m.CurrentPlayer] == 0) return BotPass();
   CountDiceLeft(m.NumDiceUp);
@@ -57,53 +57,36 @@ bool ComputerPlayers::DecideToPass(const TableStyle& Style) {
     desktop.MessageBox("NumDiceUp = " + std::to_string(m.NumDiceUp) +
                        "\nError 529 - Bot Click - Please contact Tollmoor Games.");
     game.Form_Unload();
-    return MayGoOn();
+    return;
   }
-  return m.TurnScore >= Style.StopAt[m.NumDiceUp] ? BotPass() : BotRoll();
+  m.TurnScore >= Style.StopAt[m.NumDiceUp] ? BotPass() : BotRoll();
 }
 
 /// Takes one die, or one batch of dice: everything when every die scores, when few dice are left or when there is a
 /// combination; else a single one, else a single five, and three twos last.
-bool ComputerPlayers::TakeDice(int TakeAllBelow) {
-  if (!PumpAndGoOn()) return false;
+void ComputerPlayers::TakeDice(int TakeAllBelow) {
+  if (!PumpAndGoOn()) return;
   CountDiceLeft(m.NumDiceUp);
   bool AllScore = true;
   bool Combination = false;
-  bool One = false;
-  bool Five = false;
   for (int i = 0; i < Dice; ++i) {
+    if (m.BotTake[i]) continue;
     const Word Code = m.DieScoreCode[i];
-    const bool Open = !m.BotTake[i];
-    AllScore &= !(Open & (Code == NoScore));
-    Combination |= Open & IsCombination(Code) & (Code != ThreeTwos);
-    One |= Open & (Code == "1");
-    Five |= Open & (Code == "5");
+    if (Code == NoScore) AllScore = false;
+    if (IsCombination(Code) && Code != ThreeTwos) Combination = true;
   }
-  if (AllScore) {
-    TakeAll(false);
-    return true;
+  if (AllScore) return TakeAll(false);
+  if (!PumpAndGoOn()) return;
+  if (m.NumDiceUp < TakeAllBelow) return TakeAll(false);
+  if (!PumpAndGoOn()) return;
+  if (Combination) return TakeAll(true);
+  for (const Word& Code : {Word("1"), Word("5"), ThreeTwos}) {
+    if (!PumpAndGoOn() || TakeFirst(Code)) return;
   }
-  if (!PumpAndGoOn()) return false;
-  if (m.NumDiceUp < TakeAllBelow) {
-    TakeAll(false);
-    return true;
-  }
-  if (!PumpAndGoOn()) return false;
-  if (Combination) {
-    TakeAll(true);
-    return true;
-  }
-  if (!PumpAndGoOn()) return false;
-  if (One) return TakeFirst("1");
-  if (!PumpAndGoOn()) return false;
-  if (Five) return TakeFirst("5");
-  if (!PumpAndGoOn()) return false;
-  if (TakeFirst(ThreeTwos)) return true;
 
   desktop.MessageBox("Msg 519 -- Please contact Tollmoor Games Tech Support.");
   m.Quitting = true;
   game.program.Abort();
-  return false;
 }
 
 void ComputerPlayers::TakeAll(bool ClickEmptyToo) {

@@ -21,22 +21,53 @@ enum Key : std::int16_t {
 
 }  // namespace
 
-/// A person's hands are off the dice while a computer plays, and on a table that is closed or given up.
+/// A person's hands are off the dice while a handler is at work, from the first step of a pass to its last, while a
+/// computer plays, and on a table that is closed or given up.
 bool Game::PersonMayPlay() const {
-  return m.CurrentPlayer != Absent && !IsComputerTurn() && !m.Quitting && t.cmdRoll.Visible && t.picGameTray.Enabled &&
-         t.picTray1.Enabled;
+  return gate == Gate::Open && m.CurrentPlayer != Absent && !IsComputerTurn() && !m.Quitting && t.cmdRoll.Visible &&
+         t.picGameTray.Enabled && t.picTray1.Enabled;
+}
+
+template <typename Action>
+void Game::TouchDice(Action Run) {
+  if (PersonMayPlay()) Command(Run);
 }
 
 void Game::PersonClicksDie(std::int16_t Index, std::int16_t Button) {
-  if (PersonMayPlay()) Picture1_MouseUp(Index, Button, 0, 100.0F, 100.0F);
+  TouchDice([=, this] { Picture1_MouseUp(Index, Button, 0, 100.0F, 100.0F); });
+}
+
+void Game::PersonClicksTray(int Row, std::int16_t Button) {
+  TouchDice([=, this] { Row == 1 ? picTray1_MouseUp(Button, 0, 0, 0) : picTray2_MouseUp(Button, 0, 0, 0); });
 }
 
 void Game::PersonRolls() {
-  if (PersonMayPlay() && t.CanPress(t.cmdRoll)) cmdRoll_Click();
+  if (t.CanPress(t.cmdRoll)) TouchDice([this] { cmdRoll_Click(); });
 }
 
 void Game::PersonPasses() {
-  if (PersonMayPlay() && t.CanPress(t.cmdPassDice)) cmdPassDice_Click();
+  if (t.CanPress(t.cmdPassDice)) TouchDice([this] { cmdPassDice_Click(); });
+}
+
+void Game::ARCmdNewGame_Click() {
+  if (!t.CanPress(t.ARCmdNewGame)) return;
+  Command([this] {
+    desktop.PumpEvents();
+    program.ShowNewGame();
+  });
+}
+
+void Game::PersonBeginsGame(bool AtOnce) {
+  if (!t.picGameTray.Enabled) return;  // the options panel is open, and the menus with it out of reach
+  Command([=, this] {
+    if (AtOnce) m.FormMessage = "RestartGame";
+    mnuNewGame_Click();
+  });
+}
+
+bool Game::PersonCloses() {
+  Command([this] { Form_Unload(); });
+  return m.Quitting;
 }
 
 void Game::Form_KeyUp(std::int16_t KeyCode, std::int16_t Shift) {
@@ -58,19 +89,13 @@ void Game::Form_KeyUp(std::int16_t KeyCode, std::int16_t Shift) {
   }
   switch (KeyCode) {
     case Escape:
-      if (m.Quitting) break;
-      if (!t.picGameTray.Enabled) {
-        program.CancelOptions();
-        break;
-      }
-      program.UnloadOtherForms();
-      Form_Unload();
+      Command([this] {
+        if (!t.picGameTray.Enabled) return program.CancelOptions();
+        program.UnloadOtherForms();
+        Form_Unload();
+      });
       break;
-    case F2:
-      if (!t.picGameTray.Enabled) break;  // the options panel is open, and the menus with it out of reach
-      if (Shift == ShiftAlone) m.FormMessage = "RestartGame";
-      mnuNewGame_Click();
-      break;
+    case F2: PersonBeginsGame(Shift == ShiftAlone); break;
     case LetterR:
     case NumPad0: PersonRolls(); break;
     case LetterP:

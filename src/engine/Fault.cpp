@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <sstream>
 
 #include "engine/Game.h"
@@ -39,8 +41,11 @@ std::string Game::Fault() const {
     } else {
       Demand(t.Picture1(i) == 0 && t.Picture1(10 + i) == 0, "a table without a game is empty");
     }
-    Demand(!t.picMarker[i] || (m.DieUp[i] && IsScorer(m.DieScoreCode[i])), "a mark stands over a scorer that is up");
+    Demand(!t.picMarker[i] || (Running && m.DieUp[i] && IsScorer(m.DieScoreCode[i])),
+           "a mark stands over a scorer that is up");
   }
+  const bool DiceOfEarlierRoll = m.TrayCountAtRoll >= 1 && m.TrayCountAtRoll < Dice && m.TrayCountAtRoll <= InTray;
+  Demand(!t.pctDivider.Visible || DiceOfEarlierRoll, "the divider stands behind dice of an earlier roll");
   Demand(m.TurnScore >= 0 && (m.TurnScore % 50 == 0 || m.TurnScore == INT16_MAX), "a turn scores in steps of 50");
   for (const int Score : m.PlayerScore) {
     Demand(Score >= 0 && (Score % 50 == 0 || Score == INT16_MAX), "a seat scores in steps of 50");
@@ -69,6 +74,16 @@ std::string Game::Fault() const {
     Demand(CanRoll || CanPass || Up > 0, "there is always a move");
   }
   return Wrong.str();
+}
+
+void Game::AssertSound() const {
+#ifndef NDEBUG
+  if (gate == Gate::Closed) return;  // inside a handler, which may be half done
+  const std::string Wrong = Fault();
+  if (Wrong.empty()) return;
+  std::fprintf(stderr, "the table is unsound: %s\n", Wrong.c_str());
+  std::abort();
+#endif
 }
 
 }  // namespace blunko

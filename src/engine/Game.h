@@ -4,9 +4,11 @@
 #include <string>
 #include <string_view>
 
+#include "engine/ComputerSeats.h"
 #include "engine/Desktop.h"
 #include "engine/GameOptions.h"
 #include "engine/GameSetup.h"
+#include "engine/Gate.h"
 #include "engine/Module1.h"
 #include "engine/Program.h"
 #include "engine/RandomSources.h"
@@ -26,6 +28,9 @@ class Game {
   Game(Module1& State, TableControls& Controls, const GameOptions& Options, Desktop& Screen, Program& Others,
        NumberSource& Numbers)
       : m(State), t(Controls), Settings(Options), desktop(Screen), program(Others), numbers(Numbers) {}
+
+  /// Hands the computer seats to whoever plays them.
+  void SeatComputers(ComputerSeats& Players) { computers = &Players; }
 
   // A fresh game and the end of one.
   void ClearAtStart();
@@ -50,22 +55,54 @@ class Game {
 
   /// Whether a left click on the die box takes the die, or takes it back from the tray.
   bool CanTake(int Index) const;
-  /// Whether a person may act at all.
+  /// Whether a person may touch the dice at all.
   bool PersonMayPlay() const;
 
-  // Commands of a person. These look first whether a person may act at all.
+  // A new game, and the end of the program.
+  void mnuNewGame_Click();
+  /// The program ends, unless the person, asked while a game runs, wants to play on. False: play goes on.
+  bool Form_Unload();
+
+  // Commands of a person. These look first whether the table takes them at the moment.
   void PersonClicksDie(std::int16_t Index, std::int16_t Button);
+  /// A click beside the dice, on row 1 (the table) or 2 (the tray).
+  void PersonClicksTray(int Row, std::int16_t Button);
   void PersonRolls();
   void PersonPasses();
   void Form_KeyUp(std::int16_t KeyCode, std::int16_t Shift);
   void ARCmdNewGame_Click();
-  void mnuNewGame_Click();
-  /// The table's window is about to close. False: the person wants to play on.
-  bool Form_Unload();
+  /// `AtOnce`: with the saved defaults, without a question.
+  void PersonBeginsGame(bool AtOnce = false);
+  /// By the Exit button, the menu or the window's close box. True: the program ends.
+  bool PersonCloses();
+
+  /// Whether a person's commands are carried out at the moment. Those that come while a handler sleeps, or while one of
+  /// its boxes or dialogs is open, come to nothing.
+  bool TakesCommands() const { return gate != Gate::Closed && !m.Quitting; }
+  /// Carries out a person's command if the table takes it. Until it is done no other is taken, unless it lets them in.
+  template <typename Action>
+  void Command(Action Run) {
+    if (!TakesCommands()) return;
+    const GateHeld AtWork(gate, Gate::Closed);
+    Run();
+  }
+  /// Lets events into a handler, and with them every command but those that touch the dice. Afterwards the game may
+  /// have been given up, or the program may be quitting.
+  void PumpEvents() {
+    const GateHeld LettingIn(gate, Gate::Ajar);
+    desktop.PumpEvents();
+  }
+  /// The same, but sleeps until there is an event.
+  void WaitForEvents() {
+    const GateHeld LettingIn(gate, Gate::Ajar);
+    desktop.WaitForEvents();
+  }
 
   /// Whether state and controls agree with each other and with the rules, between any two events; empty if they do,
-  /// else what is wrong. For tests.
+  /// else what is wrong.
   std::string Fault() const;
+  /// Ends the program with the fault in words, if there is one between two events. Not in release builds.
+  void AssertSound() const;
 
   Module1& m;
   TableControls& t;
@@ -87,12 +124,15 @@ class Game {
   void FlashLastRoll();
   void HideMarkers();
   void ClearDice();
-  bool PumpBeforeNewGame();
   void GiveUpGame();
   bool IsComputerTurn() const { return m.CurrentPlayer != Absent && m.PlayerIsComputer[m.CurrentPlayer]; }
+  template <typename Action>
+  void TouchDice(Action Run);
   bool SomebodyIsAPerson() const;
 
-  bool newGameIsPending = false;
+  ComputerSeats nobody;
+  ComputerSeats* computers = &nobody;
+  Gate gate = Gate::Open;
 };
 
 }  // namespace blunko

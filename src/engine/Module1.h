@@ -76,7 +76,7 @@ struct Module1 {
   std::uint8_t NumDiceUp = 0;
   std::int16_t LeaderScore = 0;
 
-  /// Counts the games begun and given up. A handler that was suspended compares it: in another game it writes nothing.
+  /// Counts the games begun and given up.
   std::uint32_t GameNumber = 0;
 };
 

@@ -16,7 +16,7 @@ void Game::ClearAtStart() {
 }
 
 void Game::FreshGame(const GameSetup& Setup) {
-  const auto Game = ++m.GameNumber;
+  ++m.GameNumber;
   t.ARCmdNewGame.Visible = false;
   t.cmdRoll.Visible = t.cmdPassDice.Visible = true;
   t.picTray1.Enabled = t.picTray2.Enabled = true;
@@ -50,28 +50,12 @@ void Game::FreshGame(const GameSetup& Setup) {
   m.ScorePadShown = true;
   m.TurnOver = true;  // ends the loop of a computer turn of the game before
   desktop.PumpEvents();
-  if (m.Quitting || m.GameNumber != Game) return;
   program.FocusTable();
-  if (IsComputerTurn()) program.RunComputerTurn();
-}
-
-/// Delivers the waiting events. False: a command that came in with them has begun another game, or this is the second
-/// of two that were given in a hurry, and the first goes on by itself.
-bool Game::PumpBeforeNewGame() {
-  if (newGameIsPending) return false;
-  newGameIsPending = true;
-  const auto Played = m.GameNumber;
-  desktop.PumpEvents();
-  newGameIsPending = false;
-  return !m.Quitting && m.GameNumber == Played;
-}
-
-void Game::ARCmdNewGame_Click() {
-  if (PumpBeforeNewGame()) program.ShowNewGame();
+  if (IsComputerTurn()) computers->RunComputerTurn();
 }
 
 void Game::mnuNewGame_Click() {
-  if (!PumpBeforeNewGame()) return;
+  desktop.PumpEvents();
   if (m.CurrentPlayer != Absent) {
     desktop.Beep();
     if (m.FormMessage != "RestartGame" &&

@@ -3,6 +3,7 @@
 
 #include "engine/Game.h"
 #include "engine/ScoreDice.h"
+#include "engine/ThisGame.h"
 
 namespace blunko {
 
@@ -16,7 +17,7 @@ constexpr int SmallestStep = 50;               // points: what puts a seat stric
 }  // namespace
 
 void Game::cmdPassDice_Click() {
-  const auto Played = m.GameNumber;
+  const ThisGame Played(m);
   m.ActionSet = "r";
   t.pctDivider.Visible = false;
   if (Settings.MarkScorers()) HideMarkers();
@@ -51,15 +52,14 @@ void Game::cmdPassDice_Click() {
   t.lblLastRoll.Caption += m.NumPlayers == 2 ? " To Win)" : " To Take The Lead)";
   if (!IsComputerTurn() && t.lblLastRoll.Visible) {
     FlashLastRoll();
-    if (m.Quitting || m.GameNumber != Played) return;
+    if (!Played.GoesOn()) return;
   }
-  // Only now: a roll during the flash would be overwritten by what follows.
   t.cmdRoll.Enabled = !IsComputerTurn();
   SetStatus("Roll the dice.");
 
   if (IsComputerTurn()) {
     if (Settings.ComputerSpeed() == SpeedNormal) desktop.Sleep(PauseBeforeComputerTurn);
-    if (!m.GameOver) program.RunComputerTurn();
+    if (!m.GameOver) computers->RunComputerTurn();
   }
 }
 
@@ -85,12 +85,12 @@ std::int16_t Game::PointsNeeded() const {
 
 /// Blinks the last-roll line three times for the person whose last turn it is. Events come in meanwhile.
 void Game::FlashLastRoll() {
-  const auto Played = m.GameNumber;
+  const ThisGame Played(m);
   const std::string Caption = t.lblLastRoll.Caption;
   const auto Show = [&](std::string_view Text) {
     t.lblLastRoll.Caption = Text;
-    desktop.PumpEvents();
-    return !m.Quitting && m.GameNumber == Played;
+    PumpEvents();
+    return Played.GoesOn();
   };
   t.lblStatus.Caption.clear();
   for (int Blink = 1;; ++Blink) {

@@ -23,8 +23,6 @@ class Program {
   virtual void ShowCongrats() = 0;
   /// The new game dialog, modal: begins a fresh game, or doesn't.
   virtual void ShowNewGame() = 0;
-  /// The seat on turn is a computer: its style plays.
-  virtual void RunComputerTurn() = 0;
   /// The options panel, which is open, takes its preview back and closes.
   virtual void CancelOptions() = 0;
   /// Every loaded form but the table is unloaded.
@@ -45,7 +43,6 @@ class QuietProgram : public Program {
   void CheckWhoopin(const std::string&, std::int16_t) override {}
   void ShowCongrats() override {}
   void ShowNewGame() override {}
-  void RunComputerTurn() override {}
   void CancelOptions() override {}
   void UnloadOtherForms() override {}
   void ExitProgram() override {}

@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "engine/Game.h"
 #include "engine/ScoreDice.h"
+#include "engine/ThisGame.h"
 
 namespace blunko {
 
@@ -57,9 +59,9 @@ void Game::cmdRoll_Click() {
     }
   }
 
-  const auto Played = m.GameNumber;
+  const ThisGame Played(m);
   CheckRoll();
-  if (m.GameNumber != Played) return;  // a bust has passed the dice, and another game has begun since
+  if (!Played.GoesOn()) return;  // a bust has passed the dice, and another game has begun since
   m.SavedActionSet = m.ActionSet;
   m.SavedTurnScore = m.TurnScore;
 }
@@ -107,10 +109,9 @@ void Game::Bubble(std::int16_t SortHowMany) {
   for (int Limit = SortHowMany - 1; Swapped; --Limit) {
     Swapped = false;
     for (int i = 0; i < Limit; ++i) {
-      const std::int16_t Left = m.DieFace[i], Right = m.DieFace[i + 1];
-      m.DieFace[i] = std::min(Left, Right);
-      m.DieFace[i + 1] = std::max(Left, Right);
-      Swapped |= Left > Right;
+      if (m.DieFace[i] <= m.DieFace[i + 1]) continue;
+      std::swap(m.DieFace[i], m.DieFace[i + 1]);
+      Swapped = true;
     }
   }
 }

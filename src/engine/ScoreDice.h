@@ -11,6 +11,6 @@ inline constexpr Word NoDie = "99";
 /// Points that a scorer, or the whole group that bears the code, adds to the turn; 0 for every other code.
 int PointsOf(const Word& Code);
 
-constexpr bool IsScorer(const Word& Code) { return (Code != NoScore) & (Code != NoDie); }
+constexpr bool IsScorer(const Word& Code) { return Code != NoScore && Code != NoDie; }
 
 }  // namespace blunko

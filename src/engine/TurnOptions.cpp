@@ -2,6 +2,7 @@
 
 #include "engine/Game.h"
 #include "engine/ScoreDice.h"
+#include "engine/ThisGame.h"
 
 namespace blunko {
 
@@ -14,10 +15,9 @@ struct Upside {
 
   explicit Upside(const Module1& m) {
     for (int i = 0; i < Dice; ++i) {
-      const bool Dead = m.DieScoreCode[i] == NoScore;
-      Any |= m.DieUp[i];
-      Scorer |= m.DieUp[i] & !Dead;
-      NonScorer |= m.DieUp[i] & Dead;
+      if (!m.DieUp[i]) continue;
+      Any = true;
+      (m.DieScoreCode[i] == NoScore ? NonScorer : Scorer) = true;
     }
   }
   bool AllScore() const { return Any && !NonScorer; }
@@ -41,9 +41,9 @@ void Game::CheckRoll() {
     SetStatus("Select Dice.");
   } else if (m.RollIsBust) {
     t.cmdPassDice.Enabled = false;
-    const auto Played = m.GameNumber;
+    const ThisGame Played(m);
     ShowBust();
-    if (m.CurrentPlayer != Absent && m.GameNumber == Played) m.ActionSet = "p";
+    if (m.CurrentPlayer != Absent && Played.GoesOn()) m.ActionSet = "p";
   } else if (m.MayPass && !TrayIsEmpty) {  // cmdPassDice is enabled already, from before the roll
     m.ActionSet = "sp";
     SetStatus("Select Dice or Pass Dice.");

@@ -161,16 +161,16 @@ void frmMain::BuildMenus() {
   mnuGame = new QMenu(this);
   mnuGame->setObjectName(QStringLiteral("mnuGame"));
   Entry(mnuGame, "mnuNewGame", QStringLiteral("&New Game  (F2)"),
-        [this] { Handle([this] { game.mnuNewGame_Click(); }); });
-  Entry(mnuGame, "mnuOptions", QStringLiteral("&Options..."), [this] { emit optionsAsked(); });
+        [this] { Handle([this] { game.PersonBeginsGame(); }); });
+  Entry(mnuGame, "mnuOptions", QStringLiteral("&Options..."), [this] { Ask(&frmMain::optionsAsked); });
   mnuGame->addSeparator()->setObjectName(QStringLiteral("mnuSep1"));
-  Entry(mnuGame, "mnuExit", QStringLiteral("&Exit"), [this] { close(); });
+  Entry(mnuGame, "mnuExit", QStringLiteral("&Exit"), [this] { Handle([this] { game.PersonCloses(); }); });
   mnuHelpMe = new QMenu(this);
   mnuHelpMe->setObjectName(QStringLiteral("mnuHelpMe"));
-  Entry(mnuHelpMe, "mnuHowToPlay", QStringLiteral("How to Play..."), [this] { emit howToPlayAsked(); });
-  Entry(mnuHelpMe, "mnuGoHelp", QStringLiteral("&Show Tollmoor Blunko Help..."), [this] { emit helpAsked(); });
+  Entry(mnuHelpMe, "mnuHowToPlay", QStringLiteral("How to Play..."), [this] { Ask(&frmMain::howToPlayAsked); });
+  Entry(mnuHelpMe, "mnuGoHelp", QStringLiteral("&Show Tollmoor Blunko Help..."), [this] { Ask(&frmMain::helpAsked); });
   mnuHelpMe->addSeparator()->setObjectName(QStringLiteral("mnuSep99"));
-  Entry(mnuHelpMe, "mnuAbout", QStringLiteral("About Tollmoor Blunko..."), [this] { emit aboutAsked(); });
+  Entry(mnuHelpMe, "mnuAbout", QStringLiteral("About Tollmoor Blunko..."), [this] { Ask(&frmMain::aboutAsked); });
 }
 
 void frmMain::ConnectControls() {
@@ -180,20 +180,25 @@ void frmMain::ConnectControls() {
     });
   }
   for (DiceTray* Tray : {picTray1, picTray2}) {
-    connect(Tray, &DiceTray::mouseUp, this, [this](int Button) {
-      if (Button == RightButton) Handle([this] { game.PersonRolls(); });
+    connect(Tray, &DiceTray::mouseUp, this, [this, Row = Tray == picTray1 ? 1 : 2](int Button) {
+      Handle([=, this] { game.PersonClicksTray(Row, static_cast<std::int16_t>(Button)); });
     });
   }
   connect(cmdRoll, &QPushButton::clicked, this, [this] { Handle([this] { game.PersonRolls(); }); });
   connect(cmdPassDice, &QPushButton::clicked, this, [this] { Handle([this] { game.PersonPasses(); }); });
   connect(ARCmdNewGame, &QPushButton::clicked, this, [this] { Handle([this] { game.ARCmdNewGame_Click(); }); });
-  connect(cmdExit, &QPushButton::clicked, this, [this] { close(); });
-  connect(cmdOptions, &QPushButton::clicked, this, &frmMain::optionsAsked);
-  connect(cmdHighRollers, &QPushButton::clicked, this, &frmMain::highRollersAsked);
+  connect(cmdExit, &QPushButton::clicked, this, [this] { Handle([this] { game.PersonCloses(); }); });
+  connect(cmdOptions, &QPushButton::clicked, this, [this] { Ask(&frmMain::optionsAsked); });
+  connect(cmdHighRollers, &QPushButton::clicked, this, [this] { Ask(&frmMain::highRollersAsked); });
   for (const auto& [Word, Menu] : {std::pair(lblMnuGame, mnuGame), {lblMnuHelp, mnuHelpMe}}) {
     connect(Word, &QPushButton::clicked, this,
             [Word = Word, Menu = Menu] { Menu->popup(Word->mapToGlobal(QPoint(0, Word->height()))); });
   }
+}
+
+/// A command that isn't one of the game's own goes through the game's gate as well.
+void frmMain::Ask(void (frmMain::*Signal)()) {
+  Handle([=, this] { game.Command([=, this] { emit(this->*Signal)(); }); });
 }
 
 void frmMain::ShowControls() {
@@ -359,12 +364,12 @@ void frmMain::showEvent(QShowEvent* Event) {
   if (activatedBefore) return;
   activatedBefore = true;
   ARCmdNewGame->setFocus();
-  QTimer::singleShot(0, this, &frmMain::firstShown);
+  QTimer::singleShot(0, this, [this] { Ask(&frmMain::firstShown); });
 }
 
 void frmMain::closeEvent(QCloseEvent* Event) {
   bool Goes = false;
-  Handle([&] { Goes = game.Form_Unload(); });
+  Handle([&] { Goes = game.PersonCloses(); });
   Event->setAccepted(Goes);
 }
 

@@ -44,6 +44,7 @@ class frmMain : public QWidget {
   void Handle(Handler Run) {
     Run();
     ShowControls();
+    game.AssertSound();
   }
 
   // The controls.
@@ -106,6 +107,7 @@ class frmMain : public QWidget {
   void PlaceLabels();
   void BuildMenus();
   void ConnectControls();
+  void Ask(void (frmMain::*Signal)());
   void Show(ButtonPlus* Widget, const Button& Control);
   void Show(FitLabel* Widget, const std::string& Caption, bool Visible, int Top);
   void DrawDress();

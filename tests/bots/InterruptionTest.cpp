@@ -12,7 +12,6 @@ class Vandal {
   explicit Vandal(std::uint32_t Seed) : chance(Seed) {
     screen.OnEvents = [this] { Deliver(); };
     screen.Answer = true;
-    others.OnComputerTurn = [this] { players.RunComputerTurn(); };
     others.OnNewGame = [this] { NewGameDialog(); };
     others.OnCongrats = [this] {
       static const char* const Words[] = {"SameGame", "DifferentGame", "Quit", "", "SameGame"};

@@ -21,25 +21,32 @@ class ScriptedUniform : public UniformSource {
 struct PlayingTable : Table {
   ScriptedUniform Uniform;
   ComputerPlayers Players{game, Uniform};
-  bool Starts = true;
 
-  PlayingTable() {
-    Others.OnComputerTurn = [this] {
-      if (Starts) Players.RunComputerTurn();
-    };
+  /// Begins a game against a person, in which the turn of the computer hasn't begun.
+  void Seat(const char* Style, int Banked) {
+    game.SeatComputers(Seats);
+    Begin({Style, "Ann"});
+    game.SeatComputers(Players);
+    m.PlayerScore[0] = static_cast<std::int16_t>(Banked);
+    TakeLog();
   }
   /// Seat 0 plays one turn of the style with these scripted faces, against a person.
   void PlayTurn(const char* Style, const char* Faces, int Banked, int OpponentBanked = 0, int Out = Absent) {
-    Starts = false;
-    Begin({Style, "Ann"});
-    Starts = true;
-    m.PlayerScore[0] = static_cast<std::int16_t>(Banked);
+    Seat(Style, Banked);
     m.PlayerScore[1] = static_cast<std::int16_t>(OpponentBanked);
     m.OutPlayer = static_cast<std::uint8_t>(Out);
     Options.Sort = false;
     const auto Script = Digits(Faces);
     Numbers.Faces.assign(Script.begin(), Script.end());
-    TakeLog();
+    Players.RunComputerTurn();
+  }
+  /// The same, but after the first roll, of six faces, `Change` puts the table into the state to be judged.
+  void PlayFrom(const char* Style, int Banked, std::vector<int> Faces, std::function<void()> Change) {
+    Seat(Style, Banked);
+    Numbers.Faces.assign(Faces.begin(), Faces.end());
+    Screen.OnEvents = [this, Change, Rolled = false]() mutable {
+      if (Numbers.Draws == Dice && !std::exchange(Rolled, true)) Change();
+    };
     Players.RunComputerTurn();
   }
 };
@@ -101,18 +108,14 @@ TEST(Styles, StopAtTheirScoresByTheDiceLeft) {
     for (int Left = 1; Left <= 5; ++Left) {
       for (const int Below : {0, 50}) {
         PlayingTable table;
-        table.Starts = false;
-        table.Begin({Row.Style, "Ann"});
-        table.m.PlayerScore[0] = 1000;
-        // At "rp" with `Left` dead dice on the table.
-        table.m.TurnScore = static_cast<std::int16_t>(Row.StopAt[Left] - Below);
-        for (int i = 0; i < Dice; ++i) {
-          table.m.DieScoreCode[static_cast<std::size_t>(i)] = i < Left ? NoScore : NoDie;
-        }
-        table.m.ActionSet = "rp";
-        table.Numbers.Faces = {2, 2, 3, 3, 4, 6};
-        table.Players.RunComputerTurn();
-        EXPECT_EQ(table.Numbers.Draws == 0, Below == 0)
+        table.PlayFrom(Row.Style, 1000, {1, 2, 3, 4, 4, 6}, [&] {  // "rp" with `Left` dead dice on the table
+          table.m.TurnScore = static_cast<std::int16_t>(Row.StopAt[Left] - Below);
+          for (int i = 0; i < Dice; ++i) {
+            table.m.DieScoreCode[static_cast<std::size_t>(i)] = i < Left ? NoScore : NoDie;
+          }
+          table.m.ActionSet = "rp";
+        });
+        EXPECT_EQ(table.Numbers.Draws == Dice, Below == 0)
             << Row.Style << " with " << Left << " dice left and " << Row.StopAt[Left] - Below << " points";
       }
     }
@@ -183,16 +186,11 @@ TEST(Styles, ReportWhatTheyCannotPlayAndLeave) {
   for (const auto& Row : Rows) {
     SCOPED_TRACE(Row.Log.front());
     PlayingTable table;
-    table.Starts = false;
-    table.Begin({"Normal", "Ann"});
-    table.m.PlayerScore[0] = 1000;
-    table.m.ActionSet = Row.Actions;
-    table.m.DieScoreCode.fill(Row.Code);
-    table.Screen.OnEvents = [&] {
-      if (table.Screen.Log.size() > 100) table.m.TurnOver = true;  // a turn that doesn't end
-    };
-    table.TakeLog();
-    table.Players.RunComputerTurn();
+    table.PlayFrom("Normal", 1000, {1, 2, 3, 4, 4, 6}, [&] {
+      table.m.ActionSet = Row.Actions;
+      table.m.DieScoreCode.fill(Row.Code);
+      table.TakeLog();
+    });
     EXPECT_EQ(table.TakeLog(), Row.Log);
     EXPECT_TRUE(table.m.Quitting);
     EXPECT_FALSE(table.t.picTray1.Enabled);
@@ -216,7 +214,6 @@ TEST(HandOver, TenThousandGamesUseNoMoreStackThanOne) {
   GameSetup Setup;
   Setup.NumPlayers = 3;
   for (auto& Seat : Setup.Seats) Seat = {"Bot", true, "Simple"};
-  table.Others.OnComputerTurn = [&] { Players.RunComputerTurn(); };
   table.Others.OnCongrats = [&] {
     if (++Games == 1) LowestOfFirst = Lowest;
     if (Games < 10000) table.m.FormMessage = "SameGame";

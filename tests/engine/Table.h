@@ -88,7 +88,7 @@ class RecordingProgram : public QuietProgram {
  public:
   explicit RecordingProgram(std::vector<std::string>& Log) : log(Log) {}
 
-  std::function<void()> OnCongrats, OnNewGame, OnComputerTurn;
+  std::function<void()> OnCongrats, OnNewGame;
 
   void CheckHighTurn(const std::string& Name, std::int16_t Score) override {
     log.push_back("high turn " + Name + " " + std::to_string(Score));
@@ -104,16 +104,19 @@ class RecordingProgram : public QuietProgram {
     log.push_back("new game");
     if (OnNewGame) OnNewGame();
   }
-  void RunComputerTurn() override {
-    log.push_back("computer turn");
-    if (OnComputerTurn) OnComputerTurn();
-  }
   void UnloadOtherForms() override { log.push_back("unload others"); }
   void ExitProgram() override { log.push_back("exit"); }
   void Abort() override { log.push_back("abort"); }
 
  private:
   std::vector<std::string>& log;
+};
+
+/// Notes in the log of the desktop that a computer's turn has begun.
+struct RecordingSeats : ComputerSeats {
+  std::vector<std::string>& Log;
+  explicit RecordingSeats(std::vector<std::string>& Lines) : Log(Lines) {}
+  void RunComputerTurn() override { Log.push_back("computer turn"); }
 };
 
 /// The name of the event serves as the path of its sound.
@@ -132,11 +135,14 @@ struct Table {
   NamedSounds Options;
   RecordingDesktop Screen{t};
   RecordingProgram Others{Screen.Log};
+  RecordingSeats Seats{Screen.Log};
   ScriptedDice Numbers;
   Game game;
 
   explicit Table(const GameOptions* Instead = nullptr)
-      : game{m, t, Instead != nullptr ? *Instead : Options, Screen, Others, Numbers} {}
+      : game{m, t, Instead != nullptr ? *Instead : Options, Screen, Others, Numbers} {
+    game.SeatComputers(Seats);
+  }
 
   /// Begins a game; a seat with a style's word as its name is a computer.
   void Begin(const std::vector<const char*>& Names, int PlayTo = 5000, int BreakIn = 500) {
