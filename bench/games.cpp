@@ -76,9 +76,7 @@ Request Parse(int Count, char** Arguments) {
       for (const char* Rest = Value; *Rest != '\0';) {
         const std::string Word(Rest, std::string(Rest).find(',') == std::string::npos ? std::string(Rest).size()
                                                                                       : std::string(Rest).find(','));
-        bool Known = false;
-        for (const std::string_view Style : StyleWords) Known = Known || Style == Word;
-        if (!Known) Usage();
+        if (StyleOfWord(Word) == 0) Usage();
         Asked.Seats.push_back(Word);
         Rest += Word.size();
         if (*Rest == ',') ++Rest;
@@ -152,7 +150,8 @@ class Match : public QuietProgram {
     setup.NumPlayers = static_cast<std::uint8_t>(Asked.Seats.size());
     setup.PlayToScore = static_cast<std::int16_t>(Asked.PlayTo);
     setup.BreakInScore = static_cast<std::int16_t>(Asked.BreakIn);
-    for (std::size_t i = 0; i < Asked.Seats.size(); ++i) setup.Seats[i] = {Asked.Seats[i], true, Asked.Seats[i]};
+    for (std::size_t i = 0; i < Asked.Seats.size(); ++i)
+      setup.Seats[i] = {Asked.Seats[i], true, StyleOfWord(Asked.Seats[i])};
   }
 
   const Counts& Play(long Games) {

@@ -15,7 +15,6 @@ namespace blunko {
 
 namespace {
 
-constexpr std::int16_t Backspace = 8;
 constexpr int ListWidth = 240;  // px
 const QColor ButtonColour(137, 189, 255);
 

@@ -158,7 +158,7 @@ void frmNewGame::ShowModal() {
     return;
   }
   if (game.m.Quitting) return;
-  lastGame = ChosenGame();
+  lastGame = ShownSetup();
   game.FreshGame(*lastGame);
 }
 
@@ -171,30 +171,30 @@ void frmNewGame::Form_Load() {
 
 /// The dialog always opens with the saved game, not with the last one.
 void frmNewGame::Form_Activate() {
-  const SavedSetup Saved = SavedSetup::Load(info, settings);
+  const GameSetup Saved = ReadSetup(info, settings);
   optPlayTo[Saved.PlayToScore == 10000 ? 1 : 0]->setChecked(true);
   optBreakIn[Saved.BreakInScore == 500 ? 0 : 1]->setChecked(true);
   optNumPlayers[Saved.NumPlayers - 1]->setChecked(true);
   for (int i = 0; i < Saved.NumPlayers; ++i) {
-    const SavedSetup::Seat& Seat = Saved.Players[i];
-    TxtPlayerName[i]->setText(Seat.Name);
+    const GameSetup::Seat& Seat = Saved.Seats[i];
+    TxtPlayerName[i]->setText(QString::fromStdString(Seat.Name));
     chkComputer[i]->setChecked(Seat.IsComputer);
-    if (Seat.IsComputer) cboStyle[i]->setCurrentIndex(Seat.Style);
+    if (Seat.IsComputer) cboStyle[i]->setCurrentIndex(Seat.Style - Normal);
   }
-  if (Saved.NumPlayers == 1) cboStyle[1]->setCurrentIndex(Saved.Players[1].Style);
+  if (Saved.NumPlayers == 1) cboStyle[1]->setCurrentIndex(Saved.Seats[1].Style - Normal);
   cmdPlay->setFocus();
 }
 
 void frmNewGame::Place() { PlaceFrame(*this, frmMain->pos() + QPoint(Pixels(OffsetLeft), Pixels(OffsetTop))); }
 
 void frmNewGame::optNumPlayers_Click(int Index) {
-  const SavedSetup Layout = SavedSetup::ForPlayers(Index + 1);
+  const GameSetup Layout = SetupForPlayers(Index + 1);
   for (int i = 0; i < MaxSeats; ++i) {
     const bool Opponent = Index == 0 && i == 1;  // one player: a person against a computer
     const bool Shown = i <= Index || Opponent;
     TxtPlayerName[i]->setVisible(Shown);
     chkComputer[i]->setVisible(Shown);
-    TxtPlayerName[i]->setText(Layout.Players[i].Name);
+    TxtPlayerName[i]->setText(QString::fromStdString(Layout.Seats[i].Name));
     TxtPlayerName[i]->setEnabled(!Opponent);
     chkComputer[i]->setChecked(Opponent);
     chkComputer[i]->setEnabled(!Opponent);
@@ -225,33 +225,21 @@ bool frmNewGame::eventFilter(QObject* Watched, QEvent* Event) {
   return PlacedDialog::eventFilter(Watched, Event);
 }
 
-SavedSetup frmNewGame::ShownSetup() const {
-  SavedSetup Shown;
+GameSetup frmNewGame::ShownSetup() const {
+  GameSetup Shown;
   for (int i = 0; i < MaxSeats; ++i) {
-    if (optNumPlayers[i]->isChecked()) Shown.NumPlayers = i + 1;
-    Shown.Players[i] = {TxtPlayerName[i]->text(), chkComputer[i]->isChecked(), cboStyle[i]->currentIndex()};
+    if (optNumPlayers[i]->isChecked()) Shown.NumPlayers = static_cast<std::uint8_t>(i + 1);
+    Shown.Seats[i] = {TxtPlayerName[i]->text().toStdString(), chkComputer[i]->isChecked(),
+                      static_cast<std::uint8_t>(cboStyle[i]->currentIndex() + Normal)};
   }
   Shown.PlayToScore = optPlayTo[0]->isChecked() ? 5000 : 10000;
   Shown.BreakInScore = optBreakIn[0]->isChecked() ? 500 : 1000;
   return Shown;
 }
 
-GameSetup frmNewGame::ChosenGame() const {
-  const SavedSetup Shown = ShownSetup();
-  GameSetup Chosen;
-  Chosen.NumPlayers = static_cast<std::uint8_t>(Shown.NumPlayers);
-  Chosen.PlayToScore = static_cast<std::int16_t>(Shown.PlayToScore);
-  Chosen.BreakInScore = static_cast<std::int16_t>(Shown.BreakInScore);
-  for (int i = 0; i < MaxSeats; ++i) {
-    Chosen.Seats[i] = {Shown.Players[i].Name.toStdString(), Shown.Players[i].IsComputer,
-                       cboStyle[i]->currentText().toStdString()};
-  }
-  return Chosen;
-}
-
 void frmNewGame::cmdSetDefault_Click() {
   constexpr int FeedbackTime = 400;  // ms
-  ShownSetup().Save(info, settings);
+  WriteSetup(ShownSetup(), info, settings);
   const QString Caption = cmdSetDefault->text();
   cmdSetDefault->setText(QStringLiteral("Saving..."));
   game.desktop.Sleep(FeedbackTime);

@@ -51,8 +51,7 @@ class frmNewGame : public PlacedDialog {
   void chkComputer_Click(int Index);
   void cmdSetDefault_Click();
   void FitHeight(int Index);
-  SavedSetup ShownSetup() const;
-  GameSetup ChosenGame() const;
+  GameSetup ShownSetup() const;
 
   Game& game;
   const IniInfo& info;

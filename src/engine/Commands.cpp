@@ -1,25 +1,7 @@
 #include "engine/Game.h"
+#include "engine/KeyCodes.h"
 
 namespace blunko {
-
-namespace {
-
-/// Virtual key codes of the commands.
-enum Key : std::int16_t {
-  Backspace = 8,
-  Escape = 27,
-  Digit1 = 49,
-  Digit6 = 54,
-  LetterP = 80,
-  LetterR = 82,
-  NumPad0 = 96,
-  NumPad1 = 97,
-  NumPad6 = 102,
-  NumPadDecimal = 110,
-  F2 = 113,
-};
-
-}  // namespace
 
 /// A person's hands are off the dice while a handler is at work, from the first step of a pass to its last, while a
 /// computer plays, and on a table that is closed or given up.

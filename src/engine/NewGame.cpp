@@ -26,8 +26,7 @@ void Game::FreshGame(const GameSetup& Setup) {
     m.PlayerName[i] = Seat.Name;
     m.PlayerIsComputer[i] = Seat.IsComputer;
     m.PlayerScore[i] = 0;
-    const auto Word = std::find(StyleWords.begin(), StyleWords.end(), Seat.StyleWord);
-    if (Word != StyleWords.end()) m.PlayerStyle[i] = static_cast<std::uint8_t>(Word - StyleWords.begin() + 1);
+    if (Seat.Style >= Normal && Seat.Style <= Moron) m.PlayerStyle[i] = Seat.Style;
   }
   t.lblPlayer.Caption = m.PlayerName[0];
   ClearDice();

@@ -34,64 +34,64 @@ QStringList FieldsOf(const IniInfo& Info, const QString& Key) {
   return Text.split(FieldSeparator);
 }
 
-int StyleOf(const QString& Field) {
+/// The file counts the styles from 0.
+std::uint8_t StyleOf(const QString& Field) {
   bool IsNumber = false;
-  const int Index = Field.trimmed().toInt(&IsNumber);
-  return IsNumber && Index >= 0 && Index < SavedSetup::Styles ? Index : 0;
+  const int Style = Field.trimmed().toInt(&IsNumber) + Normal;
+  return IsNumber && Style >= Normal && Style <= Moron ? static_cast<std::uint8_t>(Style) : Normal;
 }
 
 }  // namespace
 
-SavedSetup SavedSetup::ForPlayers(int NumPlayers) {
-  SavedSetup Setup;
-  Setup.NumPlayers = NumPlayers;
-  for (int i = 0; i < NumPlayers; ++i)
-    Setup.Players[static_cast<std::size_t>(i)].Name = QStringLiteral("Player%1").arg(i + 1);
-  if (NumPlayers == 1) Setup.Players[1] = {QStringLiteral("Computer"), true, 0};
+GameSetup SetupForPlayers(int NumPlayers) {
+  GameSetup Setup;
+  Setup.NumPlayers = static_cast<std::uint8_t>(NumPlayers);
+  for (int i = 0; i < NumPlayers; ++i) Setup.Seats[i].Name = "Player" + std::to_string(i + 1);
+  if (NumPlayers == 1) Setup.Seats[1] = {"Computer", true};
   return Setup;
 }
 
-SavedSetup SavedSetup::Load(const IniInfo& Info, const GameSettings& Settings) {
+GameSetup ReadSetup(const IniInfo& Info, const GameSettings& Settings) {
   const WrittenTogether Defaults(Info);
   bool IsNumber = false;
   const int Count = Info.ReadInfoValue(CountKey, QStringLiteral("1")).trimmed().toInt(&IsNumber);
-  SavedSetup Setup = ForPlayers(IsNumber && Count >= 1 && Count <= Seats ? Count : 1);
-  Setup.PlayToScore = Settings.ReadPlayToScore();
-  Setup.BreakInScore = Settings.ReadBreakInScore();
+  GameSetup Setup = SetupForPlayers(IsNumber && Count >= 1 && Count <= MaxSeats ? Count : 1);
+  Setup.PlayToScore = static_cast<std::int16_t>(Settings.ReadPlayToScore());
+  Setup.BreakInScore = static_cast<std::int16_t>(Settings.ReadBreakInScore());
 
   const QStringList Names = FieldsOf(Info, NamesKey);
   const QStringList Computers = FieldsOf(Info, ComputersKey);
   const QStringList Styles = FieldsOf(Info, StylesKey);
   for (int i = 0; i < Setup.NumPlayers; ++i) {
     if (i < Computers.size() && Computers[i] == UnusedSeat) continue;  // the number of players was raised by hand
-    Seat& Player = Setup.Players[static_cast<std::size_t>(i)];
+    GameSetup::Seat& Player = Setup.Seats[i];
     if (i < Names.size()) {
       const QString Held = HeldToNameRule(Names[i]).left(LongestName);
-      if (!Held.isEmpty() || Names[i].isEmpty()) Player.Name = Held;
+      if (!Held.isEmpty() || Names[i].isEmpty()) Player.Name = Held.toStdString();
     }
     Player.IsComputer = i < Computers.size() && Computers[i] == QLatin1String("True");
     if (Player.IsComputer && i < Styles.size()) Player.Style = StyleOf(Styles[i]);
   }
-  if (Setup.NumPlayers == 1 && Styles.size() > 1) Setup.Players[1].Style = StyleOf(Styles[1]);
+  if (Setup.NumPlayers == 1 && Styles.size() > 1) Setup.Seats[1].Style = StyleOf(Styles[1]);
   return Setup;
 }
 
-void SavedSetup::Save(const IniInfo& Info, const GameSettings& Settings) const {
+void WriteSetup(const GameSetup& Setup, const IniInfo& Info, const GameSettings& Settings) {
   QString Names, Computers, StyleFields;
-  for (int i = 0; i < Seats; ++i) {
-    const Seat& Player = Players[static_cast<std::size_t>(i)];
-    const bool Used = i < NumPlayers;
+  for (int i = 0; i < MaxSeats; ++i) {
+    const GameSetup::Seat& Player = Setup.Seats[i];
+    const bool Used = i < Setup.NumPlayers;
     // The one player's opponent sits on no seat that counts, but has a style.
-    const bool HasStyle = Used ? Player.IsComputer : NumPlayers == 1 && i == 1;
-    Names += (Used ? Player.Name : UnusedSeat) + FieldSeparator;
+    const bool HasStyle = Used ? Player.IsComputer : Setup.NumPlayers == 1 && i == 1;
+    Names += (Used ? QString::fromStdString(Player.Name) : UnusedSeat) + FieldSeparator;
     Computers +=
         (Used ? (Player.IsComputer ? QStringLiteral("True") : QStringLiteral("False")) : UnusedSeat) + FieldSeparator;
-    StyleFields += (HasStyle ? QString::number(Player.Style) : QStringLiteral("%1%1").arg(i)) + FieldSeparator;
+    StyleFields += (HasStyle ? QString::number(Player.Style - Normal) : QStringLiteral("%1%1").arg(i)) + FieldSeparator;
   }
   const WrittenTogether Saving(Info);
-  Settings.WritePlayToScore(PlayToScore);
-  Settings.WriteBreakInScore(BreakInScore);
-  Info.WriteInfoValue(CountKey, QString::number(NumPlayers));
+  Settings.WritePlayToScore(Setup.PlayToScore);
+  Settings.WriteBreakInScore(Setup.BreakInScore);
+  Info.WriteInfoValue(CountKey, QString::number(Setup.NumPlayers));
   Info.WriteInfoValue(NamesKey, Names);
   Info.WriteInfoValue(ComputersKey, Computers);
   Info.WriteInfoValue(StylesKey, StyleFields);

@@ -21,19 +21,20 @@ std::int16_t KeyCodeOf(const QKeyEvent& Event, const QString& Platform) {
   const bool NumPad = Event.modifiers().testFlag(Qt::KeypadModifier);
   const quint32 Place = PlaceOf(Event, Platform);
   // The row above the letters counts by its place: not every keyboard has the digits there without Shift.
-  if (Place >= PlaceOf1 && Place <= PlaceOf6) return static_cast<std::int16_t>(49 + Place - PlaceOf1);
-  if (Key >= Qt::Key_0 && Key <= Qt::Key_9) return static_cast<std::int16_t>((NumPad ? 96 : 48) + (Key - Qt::Key_0));
+  if (Place >= PlaceOf1 && Place <= PlaceOf6) return static_cast<std::int16_t>(Digit1 + Place - PlaceOf1);
+  if (Key >= Qt::Key_0 && Key <= Qt::Key_9)
+    return static_cast<std::int16_t>((NumPad ? NumPad0 : Digit0) + (Key - Qt::Key_0));
   if (Key > Qt::Key_AsciiTilde && Key < Qt::Key_Escape) {  // letters of another script: those of the places count
-    return Place == PlaceOfR ? 82 : Place == PlaceOfP ? 80 : 0;
+    return Place == PlaceOfR ? LetterR : Place == PlaceOfP ? LetterP : 0;
   }
   switch (Key) {
-    case Qt::Key_Backspace: return 8;
-    case Qt::Key_Escape: return 27;
-    case Qt::Key_P: return 80;
-    case Qt::Key_R: return 82;
-    case Qt::Key_F2: return 113;
+    case Qt::Key_Backspace: return Backspace;
+    case Qt::Key_Escape: return Escape;
+    case Qt::Key_P: return LetterP;
+    case Qt::Key_R: return LetterR;
+    case Qt::Key_F2: return F2;
     case Qt::Key_Period:
-    case Qt::Key_Comma: return NumPad ? 110 : 0;  // the decimal point has two faces
+    case Qt::Key_Comma: return NumPad ? NumPadDecimal : 0;  // the decimal point has two faces
     default: return 0;
   }
 }

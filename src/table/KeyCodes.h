@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+#include "engine/KeyCodes.h"
+
 class QKeyEvent;
 
 namespace blunko {

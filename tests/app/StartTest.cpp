@@ -23,7 +23,7 @@ class Playing : public TheProgram {
   void Begin(int Seats, bool Computers) {
     GameSetup Setup;
     Setup.NumPlayers = static_cast<std::uint8_t>(Seats);
-    for (auto& Seat : Setup.Seats) Seat = {"Somebody", Computers, "Simple"};
+    for (auto& Seat : Setup.Seats) Seat = {"Somebody", Computers, Simple};
     Run->Form->Handle([&] { Run->Table.FreshGame(Setup); });
   }
   /// Rolls with the button; the dice tumble first, then show the faces.

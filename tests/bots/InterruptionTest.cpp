@@ -97,7 +97,7 @@ class Vandal {
     for (auto& Seat : Setup.Seats) {
       Seat.Name = "Seat" + std::to_string(Pick(100));
       Seat.IsComputer = Pick(3) != 0;
-      Seat.StyleWord = StyleWords[static_cast<std::size_t>(Pick(7))];
+      Seat.Style = static_cast<std::uint8_t>(1 + Pick(7));
     }
     game.FreshGame(Setup);
   }

@@ -213,7 +213,7 @@ TEST(HandOver, TenThousandGamesUseNoMoreStackThanOne) {
   ComputerPlayers Players(game, table.Uniform);
   GameSetup Setup;
   Setup.NumPlayers = 3;
-  for (auto& Seat : Setup.Seats) Seat = {"Bot", true, "Simple"};
+  for (auto& Seat : Setup.Seats) Seat = {"Bot", true, Simple};
   table.Others.OnCongrats = [&] {
     if (++Games == 1) LowestOfFirst = Lowest;
     if (Games < 10000) table.m.FormMessage = "SameGame";

@@ -19,11 +19,11 @@ TEST(FreshGame, ReadsAllSeatsAndClearsTheTable) {
   Setup.PlayToScore = 10000;
   Setup.BreakInScore = 1000;
   Setup.Seats[0].Name = "Ann";
-  Setup.Seats[1] = {"Bot", true, "no style"};
-  Setup.Seats[7] = {"Last", true, "Genius"};
+  Setup.Seats[1] = {"Bot", true, 0};
+  Setup.Seats[7] = {"Last", true, Genius};
   table.game.FreshGame(Setup);
   EXPECT_EQ(table.m.NumPlayers, 2) << "one player is a game of two seats";
-  EXPECT_EQ(table.m.PlayerStyle[1], Moron) << "an unknown word leaves the style";
+  EXPECT_EQ(table.m.PlayerStyle[1], Moron) << "a number that is no style leaves the seat's";
   EXPECT_EQ(table.m.PlayerStyle[7], Genius) << "seats beyond the number are read too";
   EXPECT_EQ(table.m.PlayToScore, 10000);
   EXPECT_EQ(table.m.BreakInScore, 1000);

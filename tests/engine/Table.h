@@ -154,9 +154,8 @@ struct Table {
     for (const char* Name : Names) {
       GameSetup::Seat& Seat = Setup.Seats[static_cast<std::size_t>(i++)];
       Seat.Name = Name;
-      for (const std::string_view Style : StyleWords) {
-        if (Style == Name) Seat.IsComputer = true, Seat.StyleWord = Style;
-      }
+      Seat.Style = StyleOfWord(Name);
+      Seat.IsComputer = Seat.Style != 0;
     }
     game.FreshGame(Setup);
   }

@@ -148,59 +148,59 @@ TEST_F(GameSettingsTest, ReplacesALostBackground) {
 }
 
 TEST_F(GameSettingsTest, SavesTheSetupAsItsThreeTexts) {
-  SavedSetup::Load(Info(), Load());
+  ReadSetup(Info(), Load());
   EXPECT_EQ(Keys().replace('\xA4', '|'),
             "defPlayerNameString=Player1|Player2|Player3|Player4|Player5|Player6|Player7|Player8\n"
             "defPlayerIsCompString=False|True|True|True|True|True|True|True|\n"
             "defPlayerStyleString=00|0|22|33|44|55|66|77|\n")
       << "the first opening of the dialog";
   QFile::remove(place.Path("Game.ini"));
-  SavedSetup Three = SavedSetup::ForPlayers(3);
-  Three.Players[1] = {"Deep", true, 5};
+  GameSetup Three = SetupForPlayers(3);
+  Three.Seats[1] = {"Deep", true, Genius};
   Three.PlayToScore = 10000;
   Three.BreakInScore = 1000;
-  Three.Save(Info(), Load());
+  WriteSetup(Three, Info(), Load());
   EXPECT_EQ(Keys().replace('\xA4', '|'), QByteArray("defPlayToScore=10000\ndefBreakInScore=1000\ndefNumPlayers=3\n"
                                                     "defPlayerNameString=Player1|Deep|Player3|~|~|~|~|~|\n"
                                                     "defPlayerIsCompString=False|True|False|~|~|~|~|~|\n"
                                                     "defPlayerStyleString=00|5|22|33|44|55|66|77|\n"));
-  EXPECT_EQ(SavedSetup::Load(Info(), Load()), Three);
+  EXPECT_EQ(ReadSetup(Info(), Load()), Three);
 
-  SavedSetup One = SavedSetup::ForPlayers(1);
-  One.Players[1].Style = 6;
-  One.Save(Info(), Load());
+  GameSetup One = SetupForPlayers(1);
+  One.Seats[1].Style = Moron;
+  WriteSetup(One, Info(), Load());
   EXPECT_EQ(Info().ReadInfoValue("defPlayerstyleString").replace(QChar(0xA4), '|'), "00|6|22|33|44|55|66|77|");
-  EXPECT_EQ(SavedSetup::Load(Info(), Load()), One);
+  EXPECT_EQ(ReadSetup(Info(), Load()), One);
 }
 
 TEST_F(GameSettingsTest, AHandEditedSetupTakesTheDefaultForEachUnusableField) {
-  using Seats = std::vector<SavedSetup::Seat>;
+  using Seats = std::vector<GameSetup::Seat>;
   struct Row {
     const char *Count, *Names, *Computers, *Styles;
     int NumPlayers;
     Seats Players;
   };
-  const SavedSetup::Seat Opponent{"Computer", true, 0}, A{"A", false, 0}, B{"B", false, 0};
+  const GameSetup::Seat Opponent{"Computer", true}, A{"A", false}, B{"B", false};
   const Row Rows[] = {
       {"9", "A|", "False|", "00|", 1, {A, Opponent}},
-      {"-3", "A|", "True|", "4|", 1, {{"A", true, 4}, Opponent}},
-      {"many", "A|B|", "False|False|", "00|3|", 1, {A, {"Computer", true, 3}}},
-      {" 2 ", "A|B", "False|True", "00|2", 2, {A, {"B", true, 2}}},
-      {"3", "A|", "True|", "1|", 3, {{"A", true, 1}, {"Player2", false, 0}, {"Player3", false, 0}}},
-      {"3", "A|B|~|", "False|True|~|", "00|2|22|", 3, {A, {"B", true, 2}, {"Player3", false, 0}}},
+      {"-3", "A|", "True|", "4|", 1, {{"A", true, Random}, Opponent}},
+      {"many", "A|B|", "False|False|", "00|3|", 1, {A, {"Computer", true, Simple}}},
+      {" 2 ", "A|B", "False|True", "00|2", 2, {A, {"B", true, Fearless}}},
+      {"3", "A|", "True|", "1|", 3, {{"A", true, Cautious}, {"Player2", false}, {"Player3", false}}},
+      {"3", "A|B|~|", "False|True|~|", "00|2|22|", 3, {A, {"B", true, Fearless}, {"Player3", false}}},
       {"2", "A|B|", "true|yes|", "1|1|", 2, {A, B}},
-      {"2", "A|B|", "True|True|", "7|x|", 2, {{"A", true, 0}, {"B", true, 0}}},
-      {"2", "A\t\xF6\xAD\xFF|FifteenLettersX|", "|", "|", 2, {{"A\u00F6", false, 0}, {"FifteenLetters", false, 0}}},
-      {"2", "|\t\xAD|", "|", "|", 2, {{"", false, 0}, {"Player2", false, 0}}}};
+      {"2", "A|B|", "True|True|", "7|x|", 2, {{"A", true}, {"B", true}}},
+      {"2", "A\t\xF6\xAD\xFF|FifteenLettersX|", "|", "|", 2, {{"A\u00F6", false}, {"FifteenLetters", false}}},
+      {"2", "|\t\xAD|", "|", "|", 2, {{"", false}, {"Player2", false}}}};
   for (const Row& row : Rows) {
     const QByteArray Text = QByteArray("[Info]\ndefNumPlayers=") + row.Count + "\ndefPlayerNameString=" + row.Names +
                             "\ndefPlayerIsCompString=" + row.Computers + "\ndefPlayerStyleString=" + row.Styles + '\n';
     const GameSettings Settings = Load(QByteArray(Text).replace('|', '\xA4'));
-    SavedSetup Expected = SavedSetup::ForPlayers(row.NumPlayers);
-    std::copy(row.Players.begin(), row.Players.end(), Expected.Players.begin());
-    const SavedSetup Loaded = SavedSetup::Load(Info(), Settings);
+    GameSetup Expected = SetupForPlayers(row.NumPlayers);
+    std::copy(row.Players.begin(), row.Players.end(), Expected.Seats.begin());
+    const GameSetup Loaded = ReadSetup(Info(), Settings);
     EXPECT_EQ(Loaded.NumPlayers, row.NumPlayers) << Text.constData();
-    EXPECT_EQ(Loaded.Players, Expected.Players) << Text.constData();
+    EXPECT_EQ(Loaded.Seats, Expected.Seats) << Text.constData();
   }
 }
 

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+
+namespace blunko {
+
+/// Virtual key codes of the commands.
+enum Key : std::int16_t {
+  Backspace = 8,
+  Escape = 27,
+  Digit0 = 48,
+  Digit1 = 49,
+  Digit6 = 54,
+  LetterP = 80,
+  LetterR = 82,
+  NumPad0 = 96,
+  NumPad1 = 97,
+  NumPad6 = 102,
+  NumPadDecimal = 110,
+  F2 = 113,
+};
+
+}  // namespace blunko
