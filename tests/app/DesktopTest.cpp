@@ -7,7 +7,7 @@
 #include "app/QtDesktop.h"
 #include "sound/Sounds.h"
 #include "table/frmMain.h"
-#include "tests/engine/Table.h"
+#include "tests/support/Table.h"
 
 namespace blunko::test {
 namespace {

@@ -19,7 +19,7 @@
 #include <vector>
 
 #include "app/Application.h"
-#include "tests/engine/Table.h"
+#include "tests/support/Table.h"
 
 namespace blunko::test {
 

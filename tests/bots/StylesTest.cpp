@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "bots/ComputerPlayers.h"
-#include "tests/engine/Table.h"
+#include "tests/support/Table.h"
 
 namespace blunko::test {
 namespace {
@@ -22,6 +22,7 @@ struct PlayingTable : Table {
   ScriptedUniform Uniform;
   ComputerPlayers Players{game, Uniform};
 
+  explicit PlayingTable(NumberSource* OtherDice = nullptr) : Table(nullptr, OtherDice) {}
   /// Begins a game against a person, in which the turn of the computer hasn't begun.
   void Seat(const char* Style, int Banked) {
     game.SeatComputers(Seats);
@@ -31,7 +32,7 @@ struct PlayingTable : Table {
     TakeLog();
   }
   /// Seat 0 plays one turn of the style with these scripted faces, against a person.
-  void PlayTurn(const char* Style, const char* Faces, int Banked, int OpponentBanked = 0, int Out = Absent) {
+  void PlayTurn(const char* Style, const std::string& Faces, int Banked, int OpponentBanked = 0, int Out = Absent) {
     Seat(Style, Banked);
     m.PlayerScore[1] = static_cast<std::int16_t>(OpponentBanked);
     m.OutPlayer = static_cast<std::uint8_t>(Out);
@@ -142,63 +143,96 @@ TEST(Styles, RandomDrawsItsStyleForEachTurn) {
 }
 
 TEST(Styles, PauseAsTheSpeedSays) {
-  const std::pair<int, int> Rows[] = {{0, 2}, {1, 1}, {2, 0}};  // speed, and how many pauses of a second
-  for (const auto& [Speed, Seconds] : Rows) {
-    SCOPED_TRACE(Speed);
-    PlayingTable table;
-    table.Options.Speed = Speed;
-    table.PlayTurn("Moron", std::string(Speed < 2 ? 30 : 0, '6').append("134622").c_str(), 500);
-    EXPECT_EQ(table.m.PlayerScore[0], 600);
-    auto Log = table.TakeLog("sleep");
-    EXPECT_THAT(Log, testing::Contains("sleep 1000").Times(Seconds)) << "the pass waits, and the roll at Normal";
-    std::erase(Log, "sleep 10");  // the tumbling dice
-    EXPECT_EQ(Log.empty(), Speed == 2);
+  const struct {
+    const char *Style, *Faces;
+    std::string Sleeps[3];  ///< by speed
+  } Rows[] = {
+      {"Moron",
+       "134622",
+       {"sleep 100; sleep 10 x30; sleep 1000; sleep 100 x2; sleep 200; sleep 100; sleep 1000",
+        "sleep 100; sleep 10 x30; sleep 100 x4; sleep 1000", ""}},
+      {"Normal",
+       "333146",
+       {"sleep 100; sleep 10 x30; sleep 1000; sleep 100; sleep 200 x3; sleep 100; sleep 200 x3; sleep 100; sleep 200; "
+        "sleep 100; sleep 1000",
+        "sleep 100; sleep 10 x30; sleep 100; sleep 200 x3; sleep 100 x7; sleep 1000", ""}},
+  };
+  for (const auto& Row : Rows) {
+    for (const int Speed : {0, 1, 2}) {
+      PlayingTable table;
+      table.Options.Speed = Speed;
+      table.PlayTurn(Row.Style, std::string(Speed < 2 ? 30 : 0, '6') + Row.Faces, 500);
+      EXPECT_EQ(table.Told("sleep"), Row.Sleeps[Speed]) << Row.Style << " at speed " << Speed;
+    }
   }
 }
 
 TEST(Styles, WaitWhilePausedButForCautious) {
   for (const char* Style : {"Normal", "Fearless", "Simple", "Moron", "Cautious"}) {
     PlayingTable table;
-    int Events = 0;
     table.m.PauseComputer = true;
-    table.Screen.OnEvents = [&] {
+    table.Screen.OnEvents = [&, Events = 0]() mutable {
       if (++Events == 5) table.m.PauseComputer = false;
-      const bool MustStandStill = std::string(Style) != "Cautious" && table.m.PauseComputer;
-      EXPECT_TRUE(!MustStandStill || table.Numbers.Draws == 0) << Style;
+      EXPECT_TRUE(*Style == 'C' || !table.m.PauseComputer || table.Numbers.Draws == 0) << Style;
     };
     table.PlayTurn(Style, "111346223", 500);
     EXPECT_GT(table.Numbers.Draws, 0) << Style;
   }
 }
 
-TEST(Styles, ReportWhatTheyCannotPlayAndLeave) {
+TEST(Styles, EndWithTheirGameAndReportWhatTheyCannotPlay) {
+  const std::string Quit = "beep; ask Quit?: Are you sure you want to quit the current game?; exit";
   const struct {
+    const char* Rule;
+    const char* Style;
     Word Actions;
-    Word Code;  ///< of all six positions
-    std::vector<std::string> Log;
+    Word Code;  ///< of all six positions, as the style finds them after its roll
+    std::function<void(Game&)> Command;
+    std::string Told;
   } Rows[] = {
-      {"rp",
+      {"error 529",
+       "Normal",
+       "rp",
        "99",
-       {"box NumDiceUp = 0\nError 529 - Bot Click - Please contact Tollmoor Games.", "beep",
-        "ask Quit?: Are you sure you want to quit the current game?", "exit"}},
-      {"s", "0", {"box Msg 519 -- Please contact Tollmoor Games Tech Support.", "abort"}},
+       {},
+       "box NumDiceUp = 0\nError 529 - Bot Click - Please contact Tollmoor Games.; " + Quit},
+      {"message 519", "Normal", "s", "0", {}, "box Msg 519 -- Please contact Tollmoor Games Tech Support.; abort"},
+      {"nothing to click", "Simple", "s", "0", [](Game& game) { game.PersonCloses(); }, Quit},
+      {"closed", "Moron", "s", "1", [](Game& game) { game.PersonCloses(); }, Quit},
+      {"closed while paused", "Moron", "s", "1", [](Game& game) { game.m.PauseComputer = true, game.PersonCloses(); },
+       Quit},
+      {"given up", "Cautious", "s", "1", [](Game& game) { game.PersonBeginsGame(true); }, "beep; new game"},
+      {"given up while paused", "Simple", "s", "1",
+       [](Game& game) { game.m.PauseComputer = true, game.PersonBeginsGame(true); }, "beep; new game"},
   };
   for (const auto& Row : Rows) {
-    SCOPED_TRACE(Row.Log.front());
     PlayingTable table;
-    table.PlayFrom("Normal", 1000, {1, 2, 3, 4, 4, 6}, [&] {
+    table.PlayFrom(Row.Style, 1000, {1, 2, 3, 4, 4, 6}, [&] {
       table.m.ActionSet = Row.Actions;
       table.m.DieScoreCode.fill(Row.Code);
       table.TakeLog();
+      if (Row.Command) Row.Command(table.game);
     });
-    EXPECT_EQ(table.TakeLog(), Row.Log);
-    EXPECT_TRUE(table.m.Quitting);
-    EXPECT_FALSE(table.t.picTray1.Enabled);
+    EXPECT_EQ(table.Told(), Row.Told) << Row.Rule;
+    EXPECT_FALSE(table.t.picTray1.Enabled) << "the table stays closed";
   }
 }
 
-TEST(HandOver, TenThousandGamesUseNoMoreStackThanOne) {
-  PlayingTable table;
+TEST(Styles, BeginWithARollWhateverWasLeftBehind) {
+  for (const Word& Left : {Word("p"), Word("rsp"), Word("s")}) {
+    PlayingTable table;
+    table.Seat("Moron", 500);
+    table.m.ActionSet = Left;
+    table.Numbers.Faces = {1, 3, 4, 6, 2, 2};
+    table.Players.RunComputerTurn();
+    EXPECT_EQ(table.m.PlayerScore[0], 600) << std::string_view(Left);
+  }
+}
+
+TEST(HandOver, AThousandGamesUseNoMoreStackThanOne) {
+  std::minstd_rand Chance(12345);
+  RandomDice Numbers(Chance);
+  PlayingTable table(&Numbers);
   int Games = 0;
   const char* Lowest = nullptr;
   const char* LowestOfFirst = nullptr;
@@ -207,23 +241,13 @@ TEST(HandOver, TenThousandGamesUseNoMoreStackThanOne) {
     if (Lowest == nullptr || &Here < Lowest) Lowest = &Here;
     table.Screen.Log.clear();
   };
-  std::minstd_rand Chance(12345);
-  RandomDice Numbers(Chance);
-  Game game(table.m, table.t, table.Options, table.Screen, table.Others, Numbers);
-  ComputerPlayers Players(game, table.Uniform);
-  GameSetup Setup;
-  Setup.NumPlayers = 3;
-  for (auto& Seat : Setup.Seats) Seat = {"Bot", true, Simple};
   table.Others.OnCongrats = [&] {
     if (++Games == 1) LowestOfFirst = Lowest;
-    if (Games < 10000) table.m.FormMessage = "SameGame";
+    table.m.FormMessage = Games < 1000 ? "SameGame" : "";
   };
-  table.Others.OnNewGame = [&] {
-    table.m.FormMessage.clear();
-    game.FreshGame(Setup);
-  };
-  game.FreshGame(Setup);
-  EXPECT_EQ(Games, 10000);
+  table.Others.OnNewGame = [&] { table.Begin({"Simple", "Normal", "Moron"}); };
+  table.Begin({"Simple", "Normal", "Moron"});
+  EXPECT_EQ(Games, 1000);
   EXPECT_LT(LowestOfFirst - Lowest, 4096) << "the call chain grows from game to game";
 }
 

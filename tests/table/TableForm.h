@@ -7,7 +7,7 @@
 #include <string>
 
 #include "table/frmMain.h"
-#include "tests/engine/Table.h"
+#include "tests/support/Table.h"
 #include "widgets/Twips.h"
 
 namespace blunko::test {

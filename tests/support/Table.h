@@ -1,0 +1,270 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "engine/Game.h"
+
+namespace blunko::test {
+
+/// Dice that fall as told. Beyond the script no roll scores: every turn comes to its end.
+class ScriptedDice : public NumberSource {
+ public:
+  std::deque<int> Faces;
+  int Draws = 0;
+
+  std::int32_t UtilRandom(std::int32_t Bound) override {
+    ++Draws;
+    static constexpr int NoScorers[] = {2, 3, 4, 6};
+    if (Faces.empty()) return NoScorers[beyond++ % 4];
+    const int Face = Faces.front();
+    Faces.pop_front();
+    return Face <= Bound ? Face : Bound;
+  }
+
+ private:
+  int beyond = 0;
+};
+
+struct RandomDice : NumberSource {
+  std::minstd_rand& Chance;
+  explicit RandomDice(std::minstd_rand& Source) : Chance(Source) {}
+  std::int32_t UtilRandom(std::int32_t Bound) override {
+    return 1 + static_cast<std::int32_t>(Chance() % static_cast<unsigned>(Bound));
+  }
+};
+
+/// "125": the numbers 1, 2 and 5.
+inline std::vector<int> Digits(std::string_view Text) {
+  std::vector<int> All;
+  for (const char Digit : Text) All.push_back(Digit - '0');
+  return All;
+}
+
+/// Writes down what happens on the desktop, a line an event; `OnEvents` runs whenever events are delivered, `OnSleep`
+/// in every wait, `OnBox` while a box is open.
+class RecordingDesktop : public Desktop {
+ public:
+  explicit RecordingDesktop(TableControls& Controls) : t(Controls) {}
+
+  std::vector<std::string> Log;
+  bool Answer = true;
+  bool TellsAll =
+      false;  ///< whatever changes on the screen, when it gets there; else what a refresh does to the status
+  std::function<void()> OnEvents, OnSleep, OnBox;
+
+  void Refresh() override { Tell("status", t.lblStatus.Caption), Show(); }
+  void Sleep(int Milliseconds) override {
+    Show();
+    Note("sleep " + std::to_string(Milliseconds), OnSleep);
+  }
+  void PumpEvents() override {
+    Show();
+    if (OnEvents) OnEvents();
+  }
+  void WaitForEvents() override { PumpEvents(); }
+  void Beep() override { Log.push_back("beep"); }
+  void PlaySoundFile(const std::string& File, bool Always) override {
+    Log.push_back((Always ? "test sound " : "sound ") + File);
+  }
+  void MessageBox(const std::string& Text) override {
+    Show();
+    Note("box " + Text, OnBox);
+  }
+  bool AskYesNo(const std::string& Text, const std::string& Title) override {
+    Show();
+    Note("ask " + Title + ": " + Text, OnBox);
+    return Answer;
+  }
+  void SetMousePointer(MousePointer Pointer) override {
+    Log.push_back("pointer " + std::to_string(static_cast<int>(Pointer)));
+  }
+
+ private:
+  void Note(const std::string& Line, const std::function<void()>& Meanwhile) {
+    Log.push_back(Line);
+    if (Meanwhile) Meanwhile();
+  }
+  void Tell(const std::string& What, const std::string& Value) {
+    if (std::exchange(shown[What], Value) != Value) Log.push_back(What + ' ' + Value);
+  }
+  void Show() {
+    if (!TellsAll) return;
+    std::string Dice;
+    for (int Index = 0; Index < 16; ++Index) {
+      if (t.Picture1(Index) != 0) Dice += static_cast<char>('0' + t.Picture1(Index) - 112);
+      if (Index == 9) Dice += '/';
+    }
+    Tell("status", t.lblStatus.Caption);
+    Tell("dice", Dice);
+    Tell("score", t.lblTurnScore.Caption);
+    Tell("last roll", t.lblLastRoll.Visible ? t.lblLastRoll.Caption + '^' + std::to_string(t.lblStatus.Top) : "off");
+    Tell("divider", t.pctDivider.Visible ? std::to_string(t.pctDivider.Left) : "off");
+    Tell("buttons", std::string(t.CanPress(t.cmdRoll) ? "roll" : "") + (t.CanPress(t.cmdPassDice) ? " pass" : ""));
+  }
+
+  TableControls& t;
+  std::map<std::string, std::string> shown{{"dice", "/"}, {"score", ""}, {"last roll", "off"}, {"divider", "off"}};
+};
+
+/// Writes the calls into the log of the desktop; a dialog does what the test gives it to do.
+class RecordingProgram : public QuietProgram {
+ public:
+  explicit RecordingProgram(std::vector<std::string>& Log) : log(Log) {}
+
+  std::function<void()> OnCongrats, OnNewGame, OnDialog;
+
+  void UpdateActivePlayer() override { ++PadUpdates; }
+  void CheckHighTurn(const std::string& Name, std::int16_t Score) override {
+    Open("high turn " + Name + " " + std::to_string(Score), {});
+  }
+  void CheckWhoopin(const std::string& Name, std::int16_t Margin) override {
+    Open("whoopin " + Name + " " + std::to_string(Margin), {});
+  }
+  void ShowCongrats() override { Open("congrats", OnCongrats); }
+  void ShowNewGame() override { Open("new game", OnNewGame); }
+  void CancelOptions() override { log.push_back("cancel options"); }
+  void UnloadOtherForms() override { log.push_back("unload others"); }
+  void ExitProgram() override { log.push_back("exit"); }
+  void Abort() override { log.push_back("abort"); }
+
+  int PadUpdates = 0;
+
+ private:
+  void Open(const std::string& Line, const std::function<void()>& Done) {
+    log.push_back(Line);
+    if (OnDialog) OnDialog();
+    if (Done) Done();
+  }
+  std::vector<std::string>& log;
+};
+
+/// Notes in the log of the desktop that a computer's turn has begun.
+struct RecordingSeats : ComputerSeats {
+  std::vector<std::string>& Log;
+  explicit RecordingSeats(std::vector<std::string>& Lines) : Log(Lines) {}
+  void RunComputerTurn() override { Log.push_back("computer turn"); }
+};
+
+/// The name of the event serves as the path of its sound.
+struct NamedSounds : PlainOptions {
+  mutable std::string Name;
+  const std::string& GetSound(std::string_view Event) const override {
+    Name = Event;
+    return Name;
+  }
+};
+
+/// A table with scripted dice on a recorded desktop, at the speed Ridiculous unless the test says otherwise.
+struct Table {
+  Module1 m;
+  TableControls t;
+  NamedSounds Options;
+  RecordingDesktop Screen{t};
+  RecordingProgram Others{Screen.Log};
+  RecordingSeats Seats{Screen.Log};
+  ScriptedDice Numbers;
+  Game game;
+
+  explicit Table(const GameOptions* OtherOptions = nullptr, NumberSource* OtherDice = nullptr)
+      : game{m,      t,      OtherOptions != nullptr ? *OtherOptions : Options,
+             Screen, Others, OtherDice != nullptr ? *OtherDice : Numbers} {
+    game.SeatComputers(Seats);
+  }
+
+  /// Begins a game; a seat with a style's word as its name is a computer.
+  void Begin(const std::vector<const char*>& Names, int PlayTo = 5000, int BreakIn = 500) {
+    GameSetup Setup;
+    Setup.NumPlayers = static_cast<std::uint8_t>(Names.size());
+    Setup.PlayToScore = static_cast<std::int16_t>(PlayTo);
+    Setup.BreakInScore = static_cast<std::int16_t>(BreakIn);
+    int i = 0;
+    for (const char* Name : Names) {
+      GameSetup::Seat& Seat = Setup.Seats[static_cast<std::size_t>(i++)];
+      Seat.Name = Name;
+      Seat.Style = StyleOfWord(Name);
+      Seat.IsComputer = Seat.Style != 0;
+    }
+    game.FreshGame(Setup);
+  }
+
+  /// The next roll brings the given faces up; tumbling dice are fed as well.
+  void Script(const std::vector<int>& Faces) {
+    static constexpr std::size_t Cycles[] = {0, 20, 15, 10, 8, 7, 5};
+    const bool Tumbles = !(m.PlayerIsComputer[m.CurrentPlayer] && Options.Speed >= SpeedRidiculous);
+    if (Tumbles) Numbers.Faces.assign(Faces.size() * Cycles[Faces.size()], 6);
+    Numbers.Faces.insert(Numbers.Faces.end(), Faces.begin(), Faces.end());
+  }
+  void Click(int Index, int Button = LeftButton) {
+    if (m.PlayerIsComputer[m.CurrentPlayer]) {
+      game.Picture1_MouseUp(static_cast<std::int16_t>(Index), static_cast<std::int16_t>(Button), 0, 0, 0);
+    } else {
+      game.PersonClicksDie(static_cast<std::int16_t>(Index), static_cast<std::int16_t>(Button));
+    }
+  }
+  /// Moves of the seat on turn: "134466 @0 @10 pass" rolls six dice, clicks the first, then its slot in the tray, and
+  /// passes the dice.
+  void Play(std::string_view Moves) {
+    while (!Moves.empty()) {
+      const std::string_view Move = Moves.substr(0, Moves.find(' '));
+      Moves.remove_prefix(std::min(Move.size() + 1, Moves.size()));
+      if (Move == "pass") {
+        m.PlayerIsComputer[m.CurrentPlayer] ? game.cmdPassDice_Click() : game.PersonPasses();
+      } else if (Move.front() == '@') {
+        Click(std::stoi(std::string(Move.substr(1))));
+      } else {
+        Script(Digits(Move));
+        m.PlayerIsComputer[m.CurrentPlayer] ? game.cmdRoll_Click() : game.PersonRolls();
+      }
+    }
+  }
+  /// Ends the turn of the seat on turn with so many points banked.
+  void Bank(int Points) {
+    m.TurnScore = static_cast<std::int16_t>(Points);
+    m.RollIsBust = false;
+    game.cmdPassDice_Click();
+  }
+
+  /// The table as it looks, in a line: seat and turn score; the dice up, "*" behind a marked one; the tray; status and
+  /// action set; and what is wrong with it, if anything is.
+  std::string Look() const {
+    std::string All = t.lblPlayer.Caption + ' ' + t.lblTurnScore.Caption + ": ";
+    for (std::size_t i = 0; i < Dice; ++i) {
+      All += m.ShownFace[i] == 0 ? '.' : static_cast<char>('0' + m.ShownFace[i]);
+      if (t.picMarker[i]) All += '*';
+    }
+    All += " / ";
+    for (const int Face : m.TrayFace) All += Face == 0 ? "" : std::to_string(Face);
+    All += " / " + t.lblStatus.Caption + " (" + std::string(std::string_view(m.ActionSet)) + ')';
+    const std::string Fault = game.Fault();
+    return Fault.empty() ? All : All + " FAULT " + Fault;
+  }
+  /// Takes the lines of the log that begin with `Kind`, and forgets the log.
+  std::vector<std::string> TakeLog(const std::string& Kind = "") {
+    std::vector<std::string> Lines;
+    for (const std::string& Line : Screen.Log) {
+      if (Line.starts_with(Kind)) Lines.push_back(Line);
+    }
+    Screen.Log.clear();
+    return Lines;
+  }
+  /// The same in one text: "beep; sleep 10 x30".
+  std::string Told(const std::string& Kind = "") {
+    std::string All;
+    int Times = 1;
+    const auto Lines = TakeLog(Kind);
+    for (std::size_t i = 0; i < Lines.size(); ++i, ++Times) {
+      if (i + 1 < Lines.size() && Lines[i + 1] == Lines[i]) continue;
+      All += (All.empty() ? "" : "; ") + Lines[i] + (Times > 1 ? " x" + std::to_string(Times) : "");
+      Times = 0;
+    }
+    return All;
+  }
+};
+
+}  // namespace blunko::test
