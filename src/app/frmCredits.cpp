@@ -1,6 +1,5 @@
 #include "app/frmCredits.h"
 
-#include <QMessageBox>
 #include <QPainter>
 #include <QShowEvent>
 #include <QUrl>
@@ -91,7 +90,7 @@ void frmCredits::ScrollCredits() {
   if (!isVisible()) return;
   textHeight = picScroll->TextHeight();
   if (textHeight == 0) {
-    QMessageBox::warning(this, ProductName, QStringLiteral("Error scrolling text"));
+    ShowMessage(this, QStringLiteral("Error scrolling text"));
     reject();
     return;
   }

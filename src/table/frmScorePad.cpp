@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QPalette>
 #include <QScreen>
 
@@ -19,6 +20,9 @@ constexpr int FirstRow = 1380, RowPitch = 420, RowHeight = 375;  // twips
 const QColor SeatOnTurn(0x30, 0xFF, 0x30);
 const QColor OtherSeat(Qt::black);
 const QColor Heading(Qt::yellow);
+const QColor Plate(0, 28, 84);       // under the seat on turn
+constexpr int ScoreEdge = 2415;      // twips: where the scores end, as their heading does
+constexpr int Margin = 5, Mark = 4;  // px
 
 }  // namespace
 
@@ -50,7 +54,7 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
   Label2 =
       Text(QStringLiteral("Label2"), QStringLiteral("Player"), TwipsRect(240, 960, 1095, 375), Qt::AlignLeft, Heading);
   Label3 =
-      Text(QStringLiteral("Label3"), QStringLiteral("Score"), TwipsRect(1800, 960, 615, 375), Qt::AlignLeft, Heading);
+      Text(QStringLiteral("Label3"), QStringLiteral("Score"), TwipsRect(1800, 960, 615, 375), Qt::AlignRight, Heading);
   for (FitLabel* Underlined : {Label2, Label3}) {
     QFont Font = Underlined->font();
     Font.setUnderline(true);
@@ -62,7 +66,8 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
                         OtherSeat);
     lblPlayer[i]->setContentsMargins(0, 0, 4, 0);  // a long name keeps away from the score
     lblScore[i] =
-        Text(QStringLiteral("lblScore(%1)").arg(i), {}, TwipsRect(1800, Top, 750, 255), Qt::AlignLeft, OtherSeat);
+        Text(QStringLiteral("lblScore(%1)").arg(i), {}, TwipsRect(1800, Top, 750, 255), Qt::AlignRight, OtherSeat);
+    lblScore[i]->setContentsMargins(0, 0, Pixels(1800 + 750 - ScoreEdge), 0);
   }
   UpdateActivePlayer();
 }
@@ -86,6 +91,24 @@ void frmScorePad::UpdateActivePlayer() {
     lblScore[i]->setText(QString::number(m.PlayerScore[i]));
     lblScore[i]->setForeColor(Ink);
   }
+  update();
+}
+
+/// A line under the headings, and a plate with an arrow for the seat on turn, which is seen without its green too.
+void frmScorePad::paintEvent(QPaintEvent*) {
+  QPainter Painter(this);
+  Painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF Line(Margin, Pixels(FirstRow) - Margin, width() - 2 * Margin, 1);
+  Painter.fillRect(Line, QColor(255, 255, 0, 150));
+  if (m.CurrentPlayer >= m.NumPlayers) return;
+  const QRectF Row(Margin, Pixels(FirstRow + RowPitch * m.CurrentPlayer) - 3, width() - 2 * Margin,
+                   Pixels(RowHeight) - 2);
+  Painter.setPen(Qt::NoPen);
+  Painter.setBrush(Plate);
+  Painter.drawRoundedRect(Row, Margin, Margin);
+  Painter.setBrush(SeatOnTurn);
+  const QPointF Tip(Row.left() + 2 + Mark * 1.5, Row.center().y());
+  Painter.drawPolygon(QPolygonF{Tip, Tip + QPointF(-Mark * 1.5, -Mark), Tip + QPointF(-Mark * 1.5, Mark)});
 }
 
 void frmScorePad::Form_Activate() {

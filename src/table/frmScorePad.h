@@ -25,6 +25,7 @@ class frmScorePad : public QWidget {
  protected:
   void showEvent(QShowEvent* Event) override;
   void changeEvent(QEvent* Event) override;
+  void paintEvent(QPaintEvent* Event) override;
   void keyPressEvent(QKeyEvent* Event) override;
   void keyReleaseEvent(QKeyEvent* Event) override;
 

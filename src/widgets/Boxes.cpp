@@ -1,69 +1,124 @@
 #include "widgets/Boxes.h"
 
 #include <QApplication>
-#include <QInputDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
 
 #include "storage/NameRule.h"
+#include "widgets/FormBuilder.h"
 #include "widgets/NameValidator.h"
+#include "widgets/Pictures.h"
 
 namespace blunko {
 
 namespace {
 
-constexpr int PromptWidth = 340;  // px
+constexpr int WidestText = 360;       // px
+constexpr int FrameButtons = 110;     // px, what a frame needs beside its title
+constexpr int QuestionDie = 42;       // px
+constexpr int LeastInput = 260;       // px
+constexpr QSize LeastButton(84, 32);  // px
 
 QWidget* OwnerOfBox(QWidget* Table) {
   QWidget* const Dialog = QApplication::activeModalWidget();
   return Dialog != nullptr ? Dialog : Table;
 }
 
-void TakeIconsOff(const QDialog& Box) {  // the words say it
-  for (auto* Button : Box.findChildren<QPushButton*>()) Button->setIcon({});
-}
-
-/// Runs a box and returns the button pressed.
-int RunBox(QWidget* Table, QMessageBox::Icon Icon, const QString& Title, const QString& Text,
-           QMessageBox::StandardButtons Buttons) {
-  QMessageBox Box(Icon, Title, Text, Buttons, OwnerOfBox(Table));
-  Box.setTextFormat(Qt::PlainText);
-  TakeIconsOff(Box);
-  if (Buttons.testFlag(QMessageBox::No)) {
-    Box.setDefaultButton(QMessageBox::No);
-    Box.setEscapeButton(QMessageBox::No);
-  }
-  return Box.exec();
+/// The least width in which the text takes no more lines than in the widest: no word is left alone in the last.
+int BalancedWidth(const QLabel& Text) {
+  const int Height = Text.heightForWidth(WidestText);
+  int Width = qMin(WidestText, Text.sizeHint().width());
+  while (Width > 0 && Text.heightForWidth(Width - 1) <= Height) --Width;
+  return Width;
 }
 
 }  // namespace
 
+GameBox::GameBox(QWidget* Owner, Kind Which, const QString& Title, const QString& Text) : PlacedDialog(Owner) {
+  setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+  setWindowTitle(Title);
+  lblText = MakeText(this, "lblText", Text, FontOf(Typeface::Verdana, 9.75), Qt::AlignLeft | Qt::AlignVCenter);
+  lblText->setWordWrap(true);
+  const int Width = BalancedWidth(*lblText);
+  lblText->setFixedSize(Width, lblText->heightForWidth(Width));
+
+  auto* Words = new QHBoxLayout;
+  Words->setSpacing(16);
+  if (Which != Kind::Input) Words->addStretch();
+  if (Which == Kind::Question) {
+    auto* Die = Make<SvgBox>(this, "picDie", QStringLiteral(":/dice/105.svg"));
+    Die->setFixedSize(QuestionDie, QuestionDie);
+    Words->addWidget(Die);
+  }
+  Words->addWidget(lblText);
+  Words->addStretch();
+
+  auto* Column = new QVBoxLayout(this);
+  Column->setContentsMargins(20, 18, 20, 14);
+  Column->setSpacing(16);
+  Column->addLayout(Words);
+  if (Which == Kind::Input) {
+    txtAnswer = Make<QLineEdit>(this, "txtAnswer");
+    txtAnswer->setFont(lblText->font());
+    txtAnswer->setMinimumWidth(LeastInput);
+    txtAnswer->setMaxLength(LongestName);
+    txtAnswer->setValidator(new NameValidator(txtAnswer));
+    lblText->setBuddy(txtAnswer);
+    Column->addWidget(txtAnswer);
+  }
+  switch (Which) {
+    case Kind::Message:
+      cmdOK = Answer("cmdOK", QStringLiteral("OK"), Accepted);
+      Column->addLayout(CentredRow({cmdOK}, 0));
+      break;
+    case Kind::Question:
+      cmdYes = Answer("cmdYes", QStringLiteral("&Yes"), Accepted);
+      cmdNo = Answer("cmdNo", QStringLiteral("&No"), Rejected);
+      for (const auto& [Letter, Button] : {std::pair(Qt::Key_Y, cmdYes), {Qt::Key_N, cmdNo}}) {
+        connect(new QShortcut(Letter, this), &QShortcut::activated, Button, &QAbstractButton::click);
+      }
+      cmdNo->setDefault(true);
+      cmdNo->setFocus();
+      Column->addLayout(CentredRow({cmdYes, cmdNo}, 12));
+      break;
+    case Kind::Input:
+      cmdOK = Answer("cmdOK", QStringLiteral("OK"), Accepted);
+      cmdCancel = Answer("cmdCancel", QStringLiteral("Cancel"), Rejected);
+      cmdOK->setDefault(true);
+      txtAnswer->setFocus();
+      Column->addLayout(CentredRow({cmdOK, cmdCancel}, 12));
+      break;
+  }
+  FixButtonColours(*this);
+  setMinimumWidth(LeastWidth());
+  setFixedSize(sizeHint().expandedTo(minimumSize()));
+}
+
+int GameBox::LeastWidth() const {
+  QFont Letters = QApplication::font("QMdiSubWindowTitleBar");
+  Letters.setBold(true);
+  return QFontMetrics(Letters).horizontalAdvance(windowTitle()) + FrameButtons;
+}
+
+ButtonPlus* GameBox::Answer(const char* Name, const QString& Caption, int Result) {
+  auto* Made = MakeButton(this, Name, Caption, [this, Result] { done(Result); });
+  Made->setMinimumSize(LeastButton);
+  return Made;
+}
+
 void ShowMessage(QWidget* Table, const QString& Text) {
-  RunBox(Table, QMessageBox::NoIcon, ProductName, Text, QMessageBox::Ok);
+  GameBox(OwnerOfBox(Table), GameBox::Kind::Message, ProductName, Text).exec();
 }
 
 bool AskQuestion(QWidget* Table, const QString& Text, const QString& Title) {
-  return RunBox(Table, QMessageBox::Question, Title, Text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+  return GameBox(OwnerOfBox(Table), GameBox::Kind::Question, Title, Text).exec() == QDialog::Accepted;
 }
 
 QString AskText(QWidget* Table, const QString& Prompt, const QString& Title, const QString& Preset) {
-  QInputDialog Box(OwnerOfBox(Table));
-  Box.setWindowTitle(Title);
-  Box.setLabelText(Prompt);
-  Box.setTextValue(HeldToNameRule(Preset));
-  if (auto* Label = Box.findChild<QLabel*>()) {
-    Label->setWordWrap(true);
-    Label->setMinimumWidth(PromptWidth);
-    Label->setMinimumHeight(Label->heightForWidth(PromptWidth));
-  }
-  if (auto* Line = Box.findChild<QLineEdit*>()) {
-    Line->setMaxLength(LongestName);
-    Line->setValidator(new NameValidator(Line));
-  }
-  TakeIconsOff(Box);
-  return Box.exec() == QDialog::Accepted ? Box.textValue() : QString();
+  GameBox Asks(OwnerOfBox(Table), GameBox::Kind::Input, Title, Prompt);
+  Asks.txtAnswer->setText(HeldToNameRule(Preset));
+  Asks.txtAnswer->selectAll();
+  return Asks.exec() == QDialog::Accepted ? Asks.txtAnswer->text() : QString();
 }
 
 }  // namespace blunko

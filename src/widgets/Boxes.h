@@ -1,22 +1,46 @@
 #pragma once
 
-#include <QString>
+#include <QLabel>
+#include <QLineEdit>
 
-class QWidget;
+#include "widgets/ButtonPlus.h"
+#include "widgets/PlacedDialog.h"
 
 namespace blunko {
 
 /// The product's name: default title of the message boxes.
 inline const QString ProductName = QStringLiteral("Tollmoor Blunko");
 
-/// Modal boxes. They stand over the dialog that is open, else over `Table`, whatever other window is active.
+/// A modal box: a text and the buttons that answer it, in the game's own type. It stands in the middle of its owner,
+/// wide enough for its title, and its lines are of like length.
+class GameBox : public PlacedDialog {
+  Q_OBJECT
+
+ public:
+  enum class Kind { Message, Question, Input };
+  GameBox(QWidget* Owner, Kind Which, const QString& Title, const QString& Text);
+
+  QLabel* lblText;
+  QLineEdit* txtAnswer = nullptr;  ///< of an input box; takes only letters that the game's files can carry
+  // The buttons that a box of the kind has.
+  ButtonPlus* cmdOK = nullptr;
+  ButtonPlus* cmdCancel = nullptr;
+  ButtonPlus* cmdYes = nullptr;
+  ButtonPlus* cmdNo = nullptr;
+
+ private:
+  int LeastWidth() const;
+  ButtonPlus* Answer(const char* Name, const QString& Caption, int Result);
+};
+
+/// The boxes that the game asks with. They stand over the dialog that is open, else over `Table`, whatever other window
+/// is active.
 
 /// A text and an OK button under the product's name.
 void ShowMessage(QWidget* Table, const QString& Text);
 /// A question with Yes and No, which is what Enter and Esc answer; true for Yes.
 bool AskQuestion(QWidget* Table, const QString& Text, const QString& Title);
-/// One line of text to type, `Preset` in it; the empty string on Cancel. Only letters that the game's files can carry
-/// can be typed.
+/// One line of text to type, `Preset` in it; the empty string on Cancel.
 QString AskText(QWidget* Table, const QString& Prompt, const QString& Title, const QString& Preset);
 
 }  // namespace blunko

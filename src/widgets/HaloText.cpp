@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <cmath>
+
 #include "widgets/Colours.h"
 #include "widgets/Fonts.h"
 
@@ -13,11 +15,20 @@ namespace {
 
 constexpr qreal Narrowest = 0.85;  // letters are narrowed so far before they get smaller; the smallest even further
 
-/// The halo is made of rings around the letters, each with some of the colour.
+/// The halo is made of rings around the letters, drawn over one another; it is whole up to `Reach` of the last.
 constexpr struct {
   qreal Reach;
   float Alpha;
-} Rings[] = {{4, 0.10F}, {3.2, 0.14F}, {2.4, 0.26F}, {1.7, 0.45F}, {0.9, 0.6F}};
+} Rings[] = {{HaloText::Reach, 0.12F}, {4, 0.22F}, {3, 0.45F}, {2.2, 1}};
+
+/// How strong the halo must be for letters of the colour to have the contrast even where all around is like them.
+double StrengthFor(const QColor& Ink) {
+  constexpr double Contrast = 4.6;
+  const double Light = Luminance(Ink) + 0.05;
+  const bool Dark = BestGround(Ink) == QColor(Qt::black);
+  const double Wanted = ShadeOf((Dark ? Light / Contrast : Light * Contrast) - 0.05);
+  return Dark ? 1 - Wanted : Wanted;
+}
 
 }  // namespace
 
@@ -44,7 +55,9 @@ void HaloText::Draw(QPainter& Painter, const QRectF& Room, Qt::Alignment Side, c
   Start = QPointF(qRound(Start.x() * Scale), qRound(Start.y() * Scale)) / Scale;
   Painter.save();
   Painter.translate(Start);
+  Painter.setOpacity(Ink.alphaF() * StrengthFor(Ink));
   Painter.drawPixmap(QPointF(-Reach, -Reach - std::ceil(Letters.ascent())), halo);
+  Painter.setOpacity(1);
   Painter.scale(Stretch, 1);
   Painter.setFont(Fitted);
   Painter.setPen(Ink);

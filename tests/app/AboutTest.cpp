@@ -79,7 +79,7 @@ TEST(Credits, WithoutATextTheySaySoAndClose) {
   Form.picScroll->Text.clear();
   Answers Next;
   Next.Expect<frmCredits>([](frmCredits&) {});
-  Next.Press(QMessageBox::Ok);
+  Next.Press(&GameBox::cmdOK);
   Form.exec();
   EXPECT_THAT(Next.Seen.back(), testing::EndsWith(": Error scrolling text"));
 }

@@ -1,4 +1,3 @@
-#include <QInputDialog>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -201,8 +200,8 @@ TEST_F(TheProgram, ABankedTurnEntersTheListOfTheRealDialogs) {
   Setup.NumPlayers = 2;
   Setup.Seats[0].Name = "Player1";
   Run->Table.FreshGame(Setup);
-  Next.Expect<QInputDialog>([](QInputDialog& Box) {
-    auto* Name = Box.findChild<QLineEdit*>();
+  Next.Expect<GameBox>([](GameBox& Box) {
+    QLineEdit* const Name = Box.txtAnswer;
     EXPECT_EQ(Name->text(), "Player1");
     Name->clear();
     Name->insert(QStringLiteral("Zö¤€ÿe"));  // as a paste does

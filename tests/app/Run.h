@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
-#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -20,6 +19,7 @@
 
 #include "app/Application.h"
 #include "tests/support/Table.h"
+#include "widgets/Boxes.h"
 
 namespace blunko::test {
 
@@ -80,7 +80,7 @@ class Answers : public QObject {
   }
   ~Answers() override { EXPECT_EQ(steps.size(), 0U) << "windows didn't come up"; }
 
-  /// What has come up: a title, and for a message box ": " and its text.
+  /// What has come up: a title, and for a box ": " and its text.
   Lines Seen;
 
   /// The next window is of this class and dealt with so.
@@ -92,24 +92,16 @@ class Answers : public QObject {
       Expected != nullptr ? Do(*Expected) : static_cast<void>(Shown->close());
     });
   }
-  /// The next window is a dialog of this class and left by this button.
+  /// The next window is a dialog of this class, or a box, and left by this button.
   template <typename Dialog>
   void Press(ButtonPlus* Dialog::*Button) {
     Expect<Dialog>([Button](Dialog& Shown) { Click(Shown.*Button); });
   }
-  /// The next window is a message box and answered with this button.
-  void Press(QMessageBox::StandardButton Button) {
-    Expect<QMessageBox>([Button](QMessageBox& Box) {
-      EXPECT_NE(Box.button(Button), nullptr) << Box.text().toStdString();
-      Box.button(Button) != nullptr ? Box.button(Button)->click() : static_cast<void>(Box.close());
-    });
-  }
-
   bool eventFilter(QObject* Object, QEvent* Event) override {
     auto* Shown = Event->type() == QEvent::Show ? qobject_cast<QWidget*>(Object) : nullptr;
     if (Shown != nullptr && Shown->isModal()) {
-      const auto* Box = qobject_cast<QMessageBox*>(Shown);
-      const QString Text = Box != nullptr ? QStringLiteral(": ") + Box->text() : QString();
+      const auto* Box = qobject_cast<GameBox*>(Shown);
+      const QString Text = Box != nullptr ? QStringLiteral(": ") + Box->lblText->text() : QString();
       Seen.push_back((Shown->windowTitle() + Text).toStdString());
       QTimer::singleShot(0, Shown, [this, Shown] { Next(Shown); });
     }

@@ -49,7 +49,7 @@ class Playing : public TheProgram {
     EXPECT_EQ(Form.lblPlayer->text(), QLatin1String("Player1"));
     Roll({1, 1, 1, 1, 1, 2});
     Click(Form.Picture1[2]);
-    Next.Press(QMessageBox::Ok);  // going out
+    Next.Press(&GameBox::cmdOK);  // going out
     Click(Form.cmdPassDice);
     EXPECT_EQ(Form.lblLastRoll->text(), QLatin1String("(Last Roll - Need 6050 To Win)"));
     Roll({1, 1, 1, 1, 1, 2});
@@ -93,11 +93,11 @@ TEST_F(Playing, ClosesInTheMiddleOfAComputersTurn) {
     SCOPED_TRACE(Delay);
     Start();
     const auto CloseSoon = [&] { QTimer::singleShot(Delay, Run->Form.get(), [this] { Run->Form->close(); }); };
-    Next.Expect<QMessageBox>([&](QMessageBox& Question) {
+    Next.Expect<GameBox>([&](GameBox& Question) {
       CloseSoon();
-      Question.button(QMessageBox::No)->click();
+      Question.cmdNo->click();
     });
-    Next.Press(QMessageBox::Yes);
+    Next.Press(&GameBox::cmdYes);
     CloseSoon();
     Begin(8, true);
     EXPECT_EQ(std::exchange(Next.Seen, {}), QuitGame);
@@ -142,13 +142,13 @@ TEST_F(TheProgram, AsksItsTwoQuestionsAtTheFirstStartAlone) {
       "Tollmoor Blunko: To better serve our customers we would like to record the hardware configuration of your "
       "computer.  This information is reported anonymously and contains no personally identifying information.\nMay we "
       "do this?";
-  for (const auto Answer : {QMessageBox::Yes, QMessageBox::No}) {
-    const bool Yes = Answer == QMessageBox::Yes;
+  for (const auto Answer : {&GameBox::cmdYes, &GameBox::cmdNo}) {
+    const bool Yes = Answer == &GameBox::cmdYes;
     QFile::remove(Path("game.ini"));
     Create();
     Next.Press(Answer);
-    if (Yes) Next.Press(QMessageBox::Ok);
-    Next.Press(QMessageBox::No);
+    if (Yes) Next.Press(&GameBox::cmdOK);
+    Next.Press(&GameBox::cmdNo);
     EXPECT_TRUE(Run->Main());
     EXPECT_EQ(std::exchange(Next.Seen, {}),
               Yes ? (Lines{Survey, Box + "Thank You", Version}) : (Lines{Survey, Version}));
@@ -158,7 +158,7 @@ TEST_F(TheProgram, AsksItsTwoQuestionsAtTheFirstStartAlone) {
     for (int Drawn = 1; Drawn <= 5; ++Drawn) {
       Create();
       Dice->Faces = {Drawn};
-      if (Drawn == 1) Next.Press(QMessageBox::No);
+      if (Drawn == 1) Next.Press(&GameBox::cmdNo);
       EXPECT_TRUE(Run->Main());
       EXPECT_EQ(std::exchange(Next.Seen, {}), Drawn == 1 ? Lines{Version} : Lines{});
     }
@@ -168,12 +168,12 @@ TEST_F(TheProgram, AsksItsTwoQuestionsAtTheFirstStartAlone) {
 TEST_F(TheProgram, TellsWhatTheVersionCheckFound) {
   const std::string Latest = "You have the latest version.";
   const std::string Newer = "A newer version is available, would you like to go to the web site to download it?";
-  const std::tuple<QByteArray, std::string, QMessageBox::StandardButton, bool> Rows[] = {
-      {"0.9.9\n", Latest, QMessageBox::Ok, true},
-      {"1.0.0\n", Latest, QMessageBox::Ok, true},
-      {"1.0.1\n", Newer, QMessageBox::No, true},
-      {"1.0.1\n", Newer, QMessageBox::Yes, false},
-      {"<html>404", "An error has occurred. Please try again later.", QMessageBox::Ok, true}};
+  const std::tuple<QByteArray, std::string, ButtonPlus * GameBox::*, bool> Rows[] = {
+      {"0.9.9\n", Latest, &GameBox::cmdOK, true},
+      {"1.0.0\n", Latest, &GameBox::cmdOK, true},
+      {"1.0.1\n", Newer, &GameBox::cmdNo, true},
+      {"1.0.1\n", Newer, &GameBox::cmdYes, false},
+      {"<html>404", "An error has occurred. Please try again later.", &GameBox::cmdOK, true}};
   QByteArray Newest;
   QTcpServer Server;
   ASSERT_TRUE(Server.listen(QHostAddress::LocalHost));
@@ -192,7 +192,7 @@ TEST_F(TheProgram, TellsWhatTheVersionCheckFound) {
     Create();
     Run->Util = TbkUtil(QStringLiteral("http://127.0.0.1:%1/version.txt").arg(Server.serverPort()), 3000);
     Dice->Faces = {1};
-    Next.Press(QMessageBox::Yes);
+    Next.Press(&GameBox::cmdYes);
     Next.Press(Answer);
     EXPECT_EQ(Run->Main(), Starts);
     EXPECT_EQ(std::exchange(Next.Seen, {}), (Lines{Version, Box + Told}));
