@@ -7,6 +7,7 @@ namespace blunko {
 namespace {
 
 const QColor LoudRed(176, 0, 24);
+constexpr int Side = 3;  // px, for the halo
 
 }  // namespace
 
@@ -24,7 +25,7 @@ void FitLabel::setLoud(bool Loud) {
 
 void FitLabel::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
-  const QRectF Room = QRectF(contentsRect()).adjusted(HaloText::Reach, 0, -HaloText::Reach, 0);
+  const QRectF Room = QRectF(contentsRect()).adjusted(Side, 0, -Side, 0);
   QFont Letters = font();
   if (loud) {
     Letters.setPixelSize(Letters.pixelSize() * 5 / 4);

@@ -9,13 +9,10 @@
 namespace blunko::test {
 namespace {
 
-/// The least contrast of dots two px from a letter's own, but not of them.
-double WorstContrastBesideLetters(const QImage& Picture, const QColor& Ink) {
-  const auto Letter = [&](int x, int y) {
-    const QColor Dot = Picture.rect().contains(x, y) ? Picture.pixelColor(x, y) : QColor();
-    return qAbs(Dot.red() - Ink.red()) + qAbs(Dot.green() - Ink.green()) + qAbs(Dot.blue() - Ink.blue()) < 12;
-  };
-  double Worst = 21;
+/// The least contrast of the dots two px beside a letter's own, which are where `Mask` has the letter's colour.
+double WorstContrastBesideLetters(const QImage& Picture, const QImage& Mask, const QColor& Ink) {
+  const auto Letter = [&](int x, int y) { return Mask.rect().contains(x, y) && Mask.pixelColor(x, y) == Ink; };
+  double Worst = 100;
   for (int y = 0; y < Picture.height(); ++y) {
     for (int x = 0; x < Picture.width(); ++x) {
       const bool Beside = Letter(x - 2, y) || Letter(x + 2, y) || Letter(x, y - 2) || Letter(x, y + 2);
@@ -100,17 +97,23 @@ TEST_F(ScorePad, HandsKeysToTheTable) {
 
 /// Letters of every colour of the list, on grounds that swallow them.
 TEST(Letters, StandOutFromEveryGroundByTheirHalo) {
-  for (const int Ground : {0, 90, 128, 170, 255}) {
-    for (int Index = 0; Index < 8; ++Index) {
+  for (int Index = 0; Index < 8; ++Index) {
+    const std::uint32_t BlueFirst = ColourOfIndex(Index);
+    const QColor Ink(BlueFirst & 0xFF, BlueFirst >> 8 & 0xFF, BlueFirst >> 16 & 0xFF);
+    const auto On = [&](const QColor& Ground) {
       QWidget Picture;
-      Picture.setPalette(QColor(Ground, Ground, Ground));
-      FitLabel Words(QStringLiteral("Select Dice"), &Picture);
-      Words.setFont(FontOf(Typeface::Verdana, 15.75));
-      Words.resize(150, 30);
-      const std::uint32_t Blue1st = ColourOfIndex(Index);
-      const QColor Ink(Blue1st & 0xFF, Blue1st >> 8 & 0xFF, Blue1st >> 16 & 0xFF);
+      Picture.setPalette(Ground);
+      FitLabel Words(QStringLiteral("HILE"), &Picture);
+      Words.setFont(FontOf(Typeface::Verdana, 24, true));
       Words.setForeColor(Ink);
-      EXPECT_GE(WorstContrastBesideLetters(Picture.grab().toImage(), Ink), 4.5) << Ground << ' ' << Index;
+      Words.setGeometry(10, 10, 150, 50);
+      return Picture.grab().toImage();
+    };
+    const QImage Mask = On(QColor(255 - Ink.red(), 255 - Ink.green(), 255 - Ink.blue()));
+    for (const QColor& Ground : {QColor(Qt::black), QColor(Qt::gray), QColor(Qt::white), Ink}) {
+      const double Contrast = WorstContrastBesideLetters(On(Ground), Mask, Ink);
+      EXPECT_TRUE(Contrast >= 4.5 && Contrast <= 21)
+          << Contrast << ": colour " << Index << " on " << qPrintable(Ground.name());
     }
   }
 }
