@@ -215,7 +215,10 @@ TEST_F(TheProgram, ABankedTurnEntersTheListOfTheRealDialogs) {
   });
   Run->State.TurnScore = 1600;
   Run->Table.cmdPassDice_Click();
-  EXPECT_THAT(Next.Seen, ElementsAre("Way To Go !!!", "Way to go !!!", "Tollmoor Blunko - High Rollers"));
+  EXPECT_THAT(Next.Seen,
+              ElementsAre("Way To Go !!!: Congratulations!  You just made number 1 on the \"Highest Single Turn "
+                          "Score\" top ten!  What's your name?",
+                          "Way to go !!!", "Tollmoor Blunko - High Rollers"));
   EXPECT_EQ(Run->State.PlayerName[0], "Player1") << "the seat keeps its name";
   EXPECT_EQ(Run->State.CurrentPlayer, 1);
 
