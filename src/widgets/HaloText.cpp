@@ -23,10 +23,10 @@ constexpr struct {
 
 /// How strong the halo must be for letters of the colour to have the contrast even where all around is like them.
 double StrengthFor(const QColor& Ink) {
-  constexpr double Contrast = 4.6;
+  constexpr double Contrast = 7.5;  // the letters' own soft edges take some of it
   const double Light = Luminance(Ink) + 0.05;
   const bool Dark = BestGround(Ink) == QColor(Qt::black);
-  const double Wanted = ShadeOf((Dark ? Light / Contrast : Light * Contrast) - 0.05);
+  const double Wanted = ShadeOf(qBound(0.0, (Dark ? Light / Contrast : Light * Contrast) - 0.05, 1.0));
   return Dark ? 1 - Wanted : Wanted;
 }
 
