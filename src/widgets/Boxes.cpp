@@ -57,41 +57,40 @@ GameBox::GameBox(QWidget* Owner, Kind Which, const QString& Title, const QString
   Column->setContentsMargins(20, 18, 20, 14);
   Column->setSpacing(16);
   Column->addLayout(Words);
-  if (Which == Kind::Input) {
-    txtAnswer = Make<QLineEdit>(this, "txtAnswer");
-    txtAnswer->setFont(lblText->font());
-    txtAnswer->setMinimumWidth(LeastInput);
-    txtAnswer->setMaxLength(LongestName);
-    txtAnswer->setValidator(new NameValidator(txtAnswer));
-    lblText->setBuddy(txtAnswer);
-    Column->addWidget(txtAnswer);
-  }
-  switch (Which) {
-    case Kind::Message:
-      cmdOK = Answer("cmdOK", QStringLiteral("OK"), Accepted);
-      Column->addLayout(CentredRow({cmdOK}, 0));
-      break;
-    case Kind::Question:
-      cmdYes = Answer("cmdYes", QStringLiteral("&Yes"), Accepted);
-      cmdNo = Answer("cmdNo", QStringLiteral("&No"), Rejected);
-      for (const auto& [Letter, Button] : {std::pair(Qt::Key_Y, cmdYes), {Qt::Key_N, cmdNo}}) {
-        connect(new QShortcut(Letter, this), &QShortcut::activated, Button, &QAbstractButton::click);
-      }
-      cmdNo->setDefault(true);
-      cmdNo->setFocus();
-      Column->addLayout(CentredRow({cmdYes, cmdNo}, 12));
-      break;
-    case Kind::Input:
-      cmdOK = Answer("cmdOK", QStringLiteral("OK"), Accepted);
-      cmdCancel = Answer("cmdCancel", QStringLiteral("Cancel"), Rejected);
-      cmdOK->setDefault(true);
-      txtAnswer->setFocus();
-      Column->addLayout(CentredRow({cmdOK, cmdCancel}, 12));
-      break;
-  }
+  if (Which == Kind::Input) Column->addWidget(MakeInput());
+  Column->addLayout(MakeAnswers(Which));
   FixButtonColours(*this);
   setMinimumWidth(LeastWidth());
   setFixedSize(sizeHint().expandedTo(minimumSize()));
+}
+
+QLineEdit* GameBox::MakeInput() {
+  txtAnswer = Make<QLineEdit>(this, "txtAnswer");
+  txtAnswer->setFont(lblText->font());
+  txtAnswer->setMinimumWidth(LeastInput);
+  txtAnswer->setMaxLength(LongestName);
+  txtAnswer->setValidator(new NameValidator(txtAnswer));
+  lblText->setBuddy(txtAnswer);
+  return txtAnswer;
+}
+
+QHBoxLayout* GameBox::MakeAnswers(Kind Which) {
+  if (Which == Kind::Question) {
+    cmdYes = Answer("cmdYes", QStringLiteral("&Yes"), Accepted);
+    cmdNo = Answer("cmdNo", QStringLiteral("&No"), Rejected);
+    for (const auto& [Letter, Button] : {std::pair(Qt::Key_Y, cmdYes), {Qt::Key_N, cmdNo}}) {
+      connect(new QShortcut(Letter, this), &QShortcut::activated, Button, &QAbstractButton::click);
+    }
+    cmdNo->setDefault(true);
+    cmdNo->setFocus();
+    return CentredRow({cmdYes, cmdNo}, 12);
+  }
+  cmdOK = Answer("cmdOK", QStringLiteral("OK"), Accepted);
+  cmdOK->setDefault(true);
+  if (Which == Kind::Message) return CentredRow({cmdOK}, 0);
+  cmdCancel = Answer("cmdCancel", QStringLiteral("Cancel"), Rejected);
+  txtAnswer->setFocus();
+  return CentredRow({cmdOK, cmdCancel}, 12);
 }
 
 int GameBox::LeastWidth() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -30,6 +31,8 @@ class GameBox : public PlacedDialog {
 
  private:
   int LeastWidth() const;
+  QLineEdit* MakeInput();
+  QHBoxLayout* MakeAnswers(Kind Which);
   ButtonPlus* Answer(const char* Name, const QString& Caption, int Result);
 };
 
