@@ -52,7 +52,7 @@ TEST_F(CustomizeSounds, EveryEntryOfTheListIsItsEventAndOKWritesAll) {
     Form.lstEvents->setCurrentRow(i);
     EXPECT_EQ(Form.txtSound->text(), QLatin1String(Rows[i].File));
     Click(Form.cmdTest);
-    EXPECT_EQ(Game.TakeLog(), Lines{"sound " + Original(i)});
+    EXPECT_EQ(Game.TakeLog(), Lines{"test sound " + Original(i)});
     Answer = QStringLiteral("/own music/%1 ü.wav").arg(i);
     Click(Form.cmdBrowse);
     EXPECT_EQ(Title, QStringLiteral("Select \"%1\" sound").arg(QLatin1String(Rows[i].Caption)));
