@@ -9,6 +9,9 @@
 #include <cstdlib>
 
 #include "Links.h"
+#include "app/Accessibility.h"
+#include "app/Announcements.h"
+#include "app/Announcer.h"
 #include "app/OpenInShell.h"
 #include "app/frmAbout.h"
 #include "app/frmCongrats.h"
@@ -70,7 +73,9 @@ bool Application::Main() {
 
 /// Makes the table's window, dresses it as the settings say, and connects it with the rest.
 void Application::LoadForm() {
+  InstallAccessibility();
   Form = std::make_unique<frmMain>(Table);
+  speaker = new Announcer(Form.get());
   Form->Wears.Trays = StartColour(Settings.DieColour());
   Form->Wears.Background = Settings.Background();
   Form->Wears.TextColour = Settings.TextColour();
@@ -176,6 +181,10 @@ OptionsPanel& Application::Options() {
 frmNewGame& Application::NewGame() {
   if (newGame == nullptr) newGame = new frmNewGame(Table, InfoFile, Settings, Form.get());
   return *newGame;
+}
+
+void Application::Announce(GameEvent Event) {
+  if (Announcer::IsHeard()) speaker->Say(QString::fromStdString(Announcement(Event, State, Controls)));
 }
 
 void Application::UpdateActivePlayer() {

@@ -22,6 +22,8 @@
 
 namespace blunko {
 
+class Announcer;
+
 /// The program: owns the objects of a run, puts its start-up questions, shows the table, and answers what the rules ask
 /// of the dialogs.
 class Application : public Program, private HighRollersScreen {
@@ -42,6 +44,7 @@ class Application : public Program, private HighRollersScreen {
   /// Opens the help at a page, "Name.htm" or "Name.htm#anchor".
   void ShowHelpTopic(const QString& Topic);
 
+  void Announce(GameEvent Event) override;
   void UpdateActivePlayer() override;
   void ShowScorePad() override;
   void FocusTable() override;
@@ -88,6 +91,7 @@ class Application : public Program, private HighRollersScreen {
   QString Today() const override;
 
   bool versionCheckFailed = false;
+  Announcer* speaker = nullptr;
   OptionsPanel* options = nullptr;
   frmScorePad* scorePad = nullptr;
   frmNewGame* newGame = nullptr;

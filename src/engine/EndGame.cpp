@@ -12,6 +12,7 @@ void Game::EndGame() {
     const int Seat = (m.CurrentPlayer + Step) % m.NumPlayers;
     if (m.PlayerScore[Seat] > m.PlayerScore[m.Winner]) m.Winner = static_cast<std::uint8_t>(Seat);
   }
+  program.Announce(GameEvent::Win);
   desktop.Sleep(500);
   if (!m.PlayerIsComputer[m.Winner]) program.CheckWhoopin(m.PlayerName[m.Winner], WinMargin());
   program.ShowCongrats();

@@ -47,6 +47,7 @@ void Game::FreshGame(const GameSetup& Setup) {
   m.GameOver = false;
   program.ShowScorePad();
   m.ScorePadShown = true;
+  program.Announce(GameEvent::Turn);
   m.TurnOver = true;  // ends the loop of a computer turn of the game before
   desktop.PumpEvents();
   program.FocusTable();

@@ -30,6 +30,7 @@ void Game::cmdPassDice_Click() {
     std::int16_t& Score = m.PlayerScore[m.CurrentPlayer];
     Score = AddScore(Score, m.TurnScore);
     program.UpdateActivePlayer();
+    program.Announce(GameEvent::Pass);
     if (!IsComputerTurn()) program.CheckHighTurn(m.PlayerName[m.CurrentPlayer], m.TurnScore);
     if (m.OutPlayer == Absent && Score >= m.PlayToScore) GoOut();
   }
@@ -56,6 +57,7 @@ void Game::cmdPassDice_Click() {
   }
   t.cmdRoll.Enabled = !IsComputerTurn();
   SetStatus("Roll the dice.");
+  program.Announce(GameEvent::Turn);
 
   if (IsComputerTurn()) {
     if (Settings.ComputerSpeed() == SpeedNormal) desktop.Sleep(PauseBeforeComputerTurn);
@@ -66,6 +68,7 @@ void Game::cmdPassDice_Click() {
 void Game::GoOut() {
   desktop.PlaySoundFile(m.TempFolder + "overtop.wav", false);
   m.OutPlayer = m.CurrentPlayer;
+  program.Announce(GameEvent::Out);
   if (SomebodyIsAPerson()) {
     desktop.MessageBox(m.PlayerName[m.CurrentPlayer] +
                        " has gone out.  Everybody else gets one more roll to try and beat " +

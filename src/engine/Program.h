@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "engine/GameEvent.h"
+
 namespace blunko {
 
 /// What the rules ask of the rest of the program.
@@ -10,6 +12,8 @@ class Program {
  public:
   virtual ~Program() = default;
 
+  /// Told to whoever can't see the table.
+  virtual void Announce(GameEvent Event) = 0;
   /// The score pad brings its scores and the marked seat up to date.
   virtual void UpdateActivePlayer() = 0;
   /// The score pad takes its place beside the table and shows the new game; it isn't modal.
@@ -36,6 +40,7 @@ class Program {
 /// A program without dialogs: a game that ends isn't followed by another.
 class QuietProgram : public Program {
  public:
+  void Announce(GameEvent) override {}
   void UpdateActivePlayer() override {}
   void ShowScorePad() override {}
   void FocusTable() override {}

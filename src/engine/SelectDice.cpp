@@ -70,6 +70,7 @@ void Game::TakeClickedDice(int Index) {
   t.lblTurnScore.Caption = std::to_string(m.TurnScore);
   if (Computer && Settings.ComputerSpeed() < SpeedRidiculous) desktop.Sleep(PauseAfterTaking);
   CheckSelection();
+  program.Announce(GameEvent::Taking);
 }
 
 void Game::TakeDie(int Position) {
@@ -132,6 +133,7 @@ void Game::UndoSelection(int Index) {
     t.cmdRoll.Enabled = false;
     if (!m.ActionSet.contains('p')) t.cmdPassDice.Enabled = false;
   }
+  program.Announce(GameEvent::Undo);
 }
 
 }  // namespace blunko

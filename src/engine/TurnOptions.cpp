@@ -42,8 +42,10 @@ void Game::CheckRoll() {
   } else if (m.RollIsBust) {
     t.cmdPassDice.Enabled = false;
     const ThisGame Played(m);
+    program.Announce(GameEvent::Bust);
     ShowBust();
     if (m.CurrentPlayer != Absent && Played.GoesOn()) m.ActionSet = "p";
+    return;
   } else if (m.MayPass && !TrayIsEmpty) {  // cmdPassDice is enabled already, from before the roll
     m.ActionSet = "sp";
     SetStatus("Select Dice or Pass Dice.");
@@ -52,6 +54,7 @@ void Game::CheckRoll() {
     m.ActionSet = "s";
     SetStatus("Select Dice.");
   }
+  program.Announce(GameEvent::Roll);
 }
 
 void Game::CheckSelection() {

@@ -53,6 +53,7 @@ DieBox::DieBox(int Index, Bitmaps& Pictures, QWidget* Parent)
 void DieBox::setPicture(int Number) {
   if (picture == Number) return;
   picture = Number;
+  setFocusPolicy(picture == 0 ? Qt::NoFocus : Qt::TabFocus);
   update();
 }
 

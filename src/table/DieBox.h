@@ -7,7 +7,7 @@
 namespace blunko {
 
 /// One box of the dice array: shows the die's bitmap in its top left corner, on the tray's felt, and reports clicks. A
-/// press from the keyboard is a left click.
+/// press from the keyboard is a left click; an empty box has no keyboard.
 class DieBox : public QAbstractButton {
   Q_OBJECT
 
@@ -19,6 +19,7 @@ class DieBox : public QAbstractButton {
   int Picture() const { return picture; }
   /// Whether a left click takes the die, or takes it back: then hand and ring show it under the mouse.
   void setTakeable(bool Takeable);
+  bool IsTakeable() const { return takeable; }
   /// A die that is lost is pale.
   void setPale(bool Pale);
 

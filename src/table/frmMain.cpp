@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <functional>
 #include <utility>
+#include <vector>
 
 #include "engine/ScoreDice.h"
 #include "storage/FileAccess.h"
@@ -70,6 +71,7 @@ frmMain::frmMain(Game& Table) : QWidget(nullptr, Qt::Window), game(Table) {
   PlaceLabels();
   BuildMenus();
   ConnectControls();
+  OrderTabStops();
   setFixedSize(Pixels(WindowWidth), Pixels(WindowHeight));
   FixButtonColours(*this);
   ShowControls();
@@ -85,6 +87,9 @@ void frmMain::PlaceTrays() {
   };
   picTray1 = Tray(QStringLiteral("picTray1"), Tray1Top, false);
   picTray2 = Tray(QStringLiteral("picTray2"), Tray2Top, true);
+  SetName(*picGameTray, QStringLiteral("Table"));
+  SetName(*picTray1, QStringLiteral("Dice on the table"));
+  SetName(*picTray2, QStringLiteral("Dice set aside"));
   for (int i = 0; i < 6; ++i) {
     for (const int Index : {i, 10 + i}) {
       auto* Box = Make<DieBox>(Index < 10 ? picTray1 : picTray2, QStringLiteral("Picture1(%1)").arg(Index), Index,
@@ -209,8 +214,8 @@ void frmMain::ShowControls() {
   Show(ARCmdNewGame, t.ARCmdNewGame);
   Show(cmdRoll, t.cmdRoll);
   Show(cmdPassDice, t.cmdPassDice);
-  picTray1->setEnabled(t.picTray1.Enabled);
-  picTray2->setEnabled(t.picTray2.Enabled);
+  EnableTray(picTray1, t.picTray1.Enabled);
+  EnableTray(picTray2, t.picTray2.Enabled);
   const bool PersonPlays = game.PersonMayPlay();
   for (int i = 0; i < 6; ++i) {
     Picture1[i]->setPicture(Wears.SampleSet == 0 ? t.Picture1(i) : Wears.SampleSet + i + 1);
@@ -256,26 +261,40 @@ void frmMain::Show(FitLabel* Widget, const std::string& Caption, bool Visible, i
 
 /// What a screen reader says of the dice: "Die 3: five, scores".
 void frmMain::DescribeDice() {
-  static const std::array<QString, 7> Names{QString(),
-                                            QStringLiteral("one"),
-                                            QStringLiteral("two"),
-                                            QStringLiteral("three"),
-                                            QStringLiteral("four"),
-                                            QStringLiteral("five"),
-                                            QStringLiteral("six")};
+  static const char* const Faces[] = {"", "one", "two", "three", "four", "five", "six"};
   const Module1& m = game.m;
-  for (int i = 0; i < 6; ++i) {
-    QString Table = QStringLiteral("Die %1: empty").arg(i + 1);
-    if (m.ShownFace[i] != 0) {
-      Table = QStringLiteral("Die %1: %2").arg(i + 1).arg(Names[static_cast<std::size_t>(m.ShownFace[i])]);
-      if (m.DieUp[i] && IsScorer(m.DieScoreCode[i])) Table += QStringLiteral(", scores");
-    }
-    Picture1[i]->setAccessibleName(Table);
-    Picture1[6 + i]->setAccessibleName(
-        m.TrayFace[i] == 0
-            ? QStringLiteral("Tray %1: empty").arg(i + 1)
-            : QStringLiteral("Tray %1: %2").arg(i + 1).arg(Names[static_cast<std::size_t>(m.TrayFace[i])]));
+  for (std::size_t i = 0; i < described.size(); ++i) {
+    const bool OnTable = i < 6;
+    const int Face = OnTable ? m.ShownFace[i] : m.TrayFace[i - 6];
+    const bool Counts = OnTable ? m.DieUp[i] && IsScorer(m.DieScoreCode[i]) : game.CanTake(static_cast<int>(i) + 4);
+    if (std::exchange(described[i], {Face, Counts}) == std::pair(Face, Counts)) continue;
+    QString Name = QStringLiteral("%1 %2: %3").arg(OnTable ? "Die" : "Tray").arg(i % 6 + 1).arg(Faces[Face]);
+    if (Counts) Name += OnTable ? ", scores" : ", can be taken back";
+    SetName(*Picture1[i], Face == 0 ? QString() : Name);
   }
+}
+
+/// Dice that go off with their tray hand the focus to the table, not to the button that happens to come next.
+void frmMain::EnableTray(DiceTray* Tray, bool Enabled) {
+  if (!Enabled && Tray->isAncestorOf(focusWidget())) setFocus();
+  Tray->setEnabled(Enabled);
+}
+
+/// A die that was taken with the keyboard leaves the focus to its neighbour, the last one to the table.
+void frmMain::KeepFocusOnDice() {
+  const auto Here = std::find(Picture1.begin(), Picture1.end(), focusWidget());
+  if (Here == Picture1.end() || (*Here)->Picture() != 0) return;
+  const auto Row = Here - Picture1.begin() < 6 ? Picture1.begin() : Picture1.begin() + 6;
+  const auto Next = std::find_if(Row, Row + 6, [](DieBox* Box) { return Box->Picture() != 0 && Box->isEnabled(); });
+  Next != Row + 6 ? (*Next)->setFocus() : setFocus();
+}
+
+/// As the eye goes: from the menus over the dice to the buttons.
+void frmMain::OrderTabStops() {
+  std::vector<QWidget*> Order{lblMnuGame, lblMnuHelp};
+  Order.insert(Order.end(), Picture1.begin(), Picture1.end());
+  Order.insert(Order.end(), {ARCmdNewGame, cmdRoll, cmdPassDice, cmdOptions, cmdHighRollers, cmdExit});
+  for (std::size_t i = 1; i < Order.size(); ++i) setTabOrder(Order[i - 1], Order[i]);
 }
 
 /// The picture of a path; none for "(None)", and for a file that is no picture or costs too much.

@@ -44,6 +44,7 @@ class frmMain : public QWidget {
   void Handle(Handler Run) {
     Run();
     ShowControls();
+    KeepFocusOnDice();
     game.AssertSound();
   }
 
@@ -113,6 +114,9 @@ class frmMain : public QWidget {
   void DrawDress();
   void ShowBackground(const QString& Path);
   void DescribeDice();
+  void EnableTray(DiceTray* Tray, bool Enabled);
+  void KeepFocusOnDice();
+  void OrderTabStops();
   void SetStripWidth(int Width, const QImage& Whole);
   void Shift(int Down);
 
@@ -120,6 +124,8 @@ class frmMain : public QWidget {
   /// Keys pressed in this window, each with its Shift mask then: only their release is a command.
   std::map<int, std::int16_t> keysDown;
   std::optional<Dress> drawn;
+  /// The dice as they were described last: faces, and what can be taken.
+  std::array<std::pair<int, bool>, 12> described{};
   bool rollHadFocus = false;  ///< Roll Dice went off with the focus: it takes it back when it comes on again
   bool activatedBefore = false;
 };

@@ -7,7 +7,7 @@
 #include <QScreen>
 
 #include "widgets/Colours.h"
-#include "widgets/Fonts.h"
+#include "widgets/FormBuilder.h"
 #include "widgets/Twips.h"
 
 namespace blunko {
@@ -90,6 +90,8 @@ void frmScorePad::UpdateActivePlayer() {
     lblPlayer[i]->setForeColor(Ink);
     lblScore[i]->setText(QString::number(m.PlayerScore[i]));
     lblScore[i]->setForeColor(Ink);
+    SetName(*lblPlayer[i], QString::fromStdString(m.PlayerName[i]) + QStringLiteral(", %1").arg(m.PlayerScore[i]) +
+                               (i == m.CurrentPlayer ? ", on turn" : "") + (m.PlayerIsComputer[i] ? ", computer" : ""));
   }
   update();
 }
@@ -109,6 +111,12 @@ void frmScorePad::paintEvent(QPaintEvent*) {
   Painter.setBrush(SeatOnTurn);
   const QPointF Tip(Row.left() + 2 + Mark * 1.5, Row.center().y());
   Painter.drawPolygon(QPolygonF{Tip, Tip + QPointF(-Mark * 1.5, -Mark), Tip + QPointF(-Mark * 1.5, Mark)});
+}
+
+QList<QWidget*> frmScorePad::Rows() const {
+  QList<QWidget*> All{lblGoal, label_break_in};
+  for (int i = 0; i < m.NumPlayers; ++i) All.append(lblPlayer[i]);
+  return All;
 }
 
 void frmScorePad::Form_Activate() {

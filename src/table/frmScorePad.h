@@ -19,6 +19,8 @@ class frmScorePad : public QWidget {
 
   /// Takes its place to the right of the table, or to the left where the screen ends.
   void SetPosition();
+  /// What the pad consists of for a listener: its headings, and a line for every seat in play.
+  QList<QWidget*> Rows() const;
   /// Brings marks, fonts and scores up to date.
   void UpdateActivePlayer();
 

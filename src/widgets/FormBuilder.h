@@ -50,6 +50,11 @@ ButtonPlus* MakeButton(Form* Parent, const QString& Name, const QString& Caption
   return Made;
 }
 
+/// What a screen reader calls the widget. It hears of it only when it changes.
+inline void SetName(QWidget& Widget, const QString& Name) {
+  if (Widget.accessibleName() != Name) Widget.setAccessibleName(Name);
+}
+
 /// Changes colours of a widget, and of what inherits them.
 inline void SetColours(QWidget& Widget, std::initializer_list<std::pair<QPalette::ColorRole, QColor>> Colours) {
   QPalette All = Widget.palette();

@@ -118,7 +118,11 @@ class RecordingProgram : public QuietProgram {
   explicit RecordingProgram(std::vector<std::string>& Log) : log(Log) {}
 
   std::function<void()> OnCongrats, OnNewGame, OnDialog;
+  std::function<void(GameEvent)> OnEvent;
 
+  void Announce(GameEvent Event) override {
+    if (OnEvent) OnEvent(Event);
+  }
   void UpdateActivePlayer() override { ++PadUpdates; }
   void CheckHighTurn(const std::string& Name, std::int16_t Score) override {
     Open("high turn " + Name + " " + std::to_string(Score), {});

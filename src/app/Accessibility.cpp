@@ -1,0 +1,125 @@
+#include "app/Accessibility.h"
+
+#include <QAccessibleWidget>
+
+#include "app/Announcer.h"
+#include "table/DieBox.h"
+#include "table/frmScorePad.h"
+#include "widgets/FitLabel.h"
+#include "widgets/WordButton.h"
+
+namespace blunko {
+
+namespace {
+
+/// A button of our own painting.
+class AccessibleButton : public QAccessibleWidget {
+ public:
+  AccessibleButton(QAbstractButton* Button, QAccessible::Role Role) : QAccessibleWidget(Button, Role) {}
+
+  QString text(QAccessible::Text Kind) const override {
+    const QString Name = QAccessibleWidget::text(Kind);
+    return Kind == QAccessible::Name && Name.isEmpty() ? static_cast<QAbstractButton*>(object())->text() : Name;
+  }
+  QStringList actionNames() const override { return QAccessibleWidget::actionNames() << pressAction(); }
+  void doAction(const QString& Name) override {
+    if (Name != pressAction()) return QAccessibleWidget::doAction(Name);
+    // The caller doesn't wait until the dice have moved.
+    QMetaObject::invokeMethod(static_cast<QAbstractButton*>(object()), &QAbstractButton::click, Qt::QueuedConnection);
+  }
+};
+
+/// A die that a press doesn't take is disabled, to whoever asks: by mouse and keys it can be tried, and beeps. An empty
+/// place isn't there.
+class AccessibleDie : public AccessibleButton {
+ public:
+  explicit AccessibleDie(DieBox* Box) : AccessibleButton(Box, QAccessible::Button) {}
+
+  QAccessible::State state() const override {
+    const auto* Box = static_cast<DieBox*>(object());
+    QAccessible::State State = AccessibleButton::state();
+    State.invisible = State.invisible || Box->Picture() == 0;
+    State.disabled = State.disabled || !Box->IsTakeable();
+    return State;
+  }
+};
+
+/// A word that opens a menu. One that takes no focus is the caption of a box, which has its name.
+class AccessibleWord : public AccessibleButton {
+ public:
+  explicit AccessibleWord(WordButton* Word) : AccessibleButton(Word, QAccessible::ButtonMenu) {}
+
+  QAccessible::State state() const override {
+    QAccessible::State State = AccessibleButton::state();
+    State.hasPopup = true;
+    State.invisible = State.invisible || widget()->focusPolicy() == Qt::NoFocus;
+    return State;
+  }
+};
+
+/// A text that isn't there while it is empty; one that stands for a row of the pad has a name of its own.
+class AccessibleText : public QAccessibleWidget {
+ public:
+  explicit AccessibleText(FitLabel* Label) : QAccessibleWidget(Label, QAccessible::StaticText) {}
+
+  QAccessible::Role role() const override {
+    return widget()->accessibleName().isEmpty() ? QAccessible::StaticText : QAccessible::ListItem;
+  }
+  QAccessible::State state() const override {
+    QAccessible::State State = QAccessibleWidget::state();
+    State.invisible = State.invisible || text(QAccessible::Name).trimmed().isEmpty();
+    return State;
+  }
+  QString text(QAccessible::Text Kind) const override {
+    const QString Name = QAccessibleWidget::text(Kind);
+    return Kind == QAccessible::Name && Name.isEmpty() ? static_cast<FitLabel*>(object())->text() : Name;
+  }
+};
+
+/// The pad: its two headings, and a row a seat.
+class AccessiblePad : public QAccessibleWidget {
+ public:
+  explicit AccessiblePad(frmScorePad* Pad) : QAccessibleWidget(Pad, QAccessible::List, Pad->windowTitle().trimmed()) {}
+
+  int childCount() const override { return static_cast<int>(Rows().size()); }
+  QAccessibleInterface* child(int Index) const override {
+    return Index >= 0 && Index < childCount() ? QAccessible::queryAccessibleInterface(Rows().at(Index)) : nullptr;
+  }
+  int indexOfChild(const QAccessibleInterface* Child) const override {
+    return static_cast<int>(Rows().indexOf(static_cast<QWidget*>(Child->object())));
+  }
+
+ private:
+  QList<QWidget*> Rows() const { return static_cast<frmScorePad*>(object())->Rows(); }
+};
+
+/// Named widgets of no special kind are groups, those without a name only look nice.
+class AccessibleGroup : public QAccessibleWidget {
+ public:
+  explicit AccessibleGroup(QWidget* Group) : QAccessibleWidget(Group, QAccessible::Grouping) {}
+
+  QAccessible::State state() const override {
+    QAccessible::State State = QAccessibleWidget::state();
+    State.invisible = State.invisible || widget()->accessibleName().isEmpty();
+    return State;
+  }
+};
+
+QAccessibleInterface* InterfaceOf(const QString& Class, QObject* Object) {
+  if (!Object->isWidgetType()) return nullptr;
+  auto* const Widget = static_cast<QWidget*>(Object);
+  if (auto* Box = qobject_cast<DieBox*>(Object)) return new AccessibleDie(Box);
+  if (auto* Word = qobject_cast<WordButton*>(Object)) return new AccessibleWord(Word);
+  if (auto* Label = qobject_cast<FitLabel*>(Object)) return new AccessibleText(Label);
+  if (auto* Pad = qobject_cast<frmScorePad*>(Object)) return new AccessiblePad(Pad);
+  if (qobject_cast<Announcer*>(Object) != nullptr) return new QAccessibleWidget(Widget, QAccessible::Notification);
+  if (Class != QLatin1String("QWidget")) return nullptr;  // the toolkit knows it, or a base of it
+  if (Widget->isWindow()) return new QAccessibleWidget(Widget, QAccessible::Window);
+  return new AccessibleGroup(Widget);
+}
+
+}  // namespace
+
+void InstallAccessibility() { QAccessible::installFactory(&InterfaceOf); }
+
+}  // namespace blunko
