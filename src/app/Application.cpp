@@ -45,7 +45,7 @@ Application::Application(const Folders& Where, const IniInfo& Info, std::unique_
       Table(State, Controls, View, Screen, *this, *Numbers),
       Players(Table, Uniform),
       Util(VersionAddress),
-      Rollers(Where.ListsPath(), [this](const QByteArray& Text) { return Util.UtilStoreLists(Text); }),
+      Rollers(Where.ListsPath(), Util),
       RollersCheck(State, InfoFile, Rollers, *this) {}
 
 Application::~Application() = default;
@@ -179,7 +179,7 @@ OptionsPanel& Application::Options() {
 }
 
 frmNewGame& Application::NewGame() {
-  if (newGame == nullptr) newGame = new frmNewGame(Table, InfoFile, Settings, Form.get());
+  if (newGame == nullptr) newGame = new frmNewGame(Screen, InfoFile, Settings, Form.get());
   return *newGame;
 }
 
@@ -212,7 +212,7 @@ QString Application::AskName(const QString& Prompt, const QString& Title, const 
   return AskText(Form.get(), Prompt, Title, Preset);
 }
 
-void Application::AskToView() { frmViewHRListYN(State, Screen, InfoFile, Form.get()).exec(); }
+void Application::AskToView() { frmViewHRListYN(State.FormMessage, Screen, InfoFile, Form.get()).exec(); }
 
 void Application::ViewLists() {
   if (!State.Quitting) frmHighRollers(Rollers, Screen, Form.get()).exec();
@@ -220,9 +220,16 @@ void Application::ViewLists() {
 
 QString Application::Today() const { return DayNumber(QDate::currentDate()); }
 
-void Application::ShowCongrats() { frmCongrats(Table, *Form).exec(); }
+void Application::ShowCongrats() {
+  const QString Winner = QString::fromStdString(State.PlayerName[State.Winner]);
+  frmCongrats(Winner, State.FormMessage, Screen, View, *Form).exec();
+}
 
-void Application::ShowNewGame() { NewGame().ShowModal(); }
+void Application::ShowNewGame() {
+  const auto Chosen = NewGame().ShowModal(State.FormMessage);
+  if (State.Quitting) return;
+  Chosen ? Table.FreshGame(*Chosen) : static_cast<void>(Controls.cmdRoll.Enabled = false);
+}
 
 void Application::CancelOptions() { Options().ARCmdCancelOptions_Click(); }
 
@@ -241,7 +248,7 @@ void Application::ExitProgram() {
 
 void Application::CustomizeSounds() {
   QWidget* const Active = QApplication::activeWindow();
-  frmCustomizeSounds(Table, Settings, Active != nullptr ? Active : Form.get()).exec();
+  frmCustomizeSounds(State.FormMessage, Settings, Screen, Active != nullptr ? Active : Form.get()).exec();
 }
 
 void Application::Abort() { std::_Exit(EXIT_FAILURE); }

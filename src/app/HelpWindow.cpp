@@ -5,9 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
+#include <QResizeEvent>
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
@@ -17,16 +16,18 @@
 #include <QWindow>
 
 #include "app/OpenInShell.h"
-#include "widgets/Fonts.h"
+#include "widgets/FormBuilder.h"
 #include "widgets/Pictures.h"
+#include "widgets/PlacedDialog.h"
 
 namespace blunko {
 
 namespace {
 
 constexpr int ContentsWidth = 210;                                      // px
-constexpr int NarrowestWindow = 720, WidestWindow = 820, Height = 640;  // px
-constexpr int Gap = 12;                                                 // px between help and table
+constexpr int NarrowestWindow = 470, WidestWindow = 820, Height = 640;  // px
+constexpr int FoldingWidth = 640;                                       // px: below, the contents are folded away
+constexpr int Gap = 4;                                                  // px between help and table
 constexpr int AddressRole = Qt::UserRole;
 const QColor Paper(253, 252, 247), Ink(32, 33, 48), FoundColour(255, 214, 92);
 
@@ -62,137 +63,165 @@ const QStringList HelpWindow::Pages{QStringLiteral("PlayingBlunko.htm"), QString
                                     QStringLiteral("FairDice.htm"), QStringLiteral("Overview.htm")};
 
 HelpWindow::HelpWindow(const QString& Folder, const QWidget* Beside) : folder(Folder) {
-  setObjectName(QStringLiteral("HelpWindow"));
-  setWindowTitle(QStringLiteral("Tollmoor Blunko Help"));
+  setObjectName("HelpWindow");
+  setWindowTitle("Tollmoor Blunko Help");
   setFont(FontOf(Typeface::Verdana, 8.25));
-  Build();
+  BuildPage();
+  BuildControls();
+  LayOut();
+  ConnectControls();
+  ConnectKeys();
   FillContents();
   PlaceBeside(Beside);
 }
 
-void HelpWindow::Build() {
-  const auto Button = [this](const char* Name, const QString& Caption, const QString& Tip, auto Run) {
-    auto* Made = new ButtonPlus(Caption, this);
-    Made->setObjectName(QLatin1String(Name));
-    Made->setFont(FontOf(Typeface::Verdana, 8.25));
-    Made->setToolTip(Tip);
-    connect(Made, &QPushButton::clicked, this, Run);
-    return Made;
-  };
-  Contents = new QTreeWidget(this);
-  Contents->setObjectName(QStringLiteral("Contents"));
-  Contents->setAccessibleName(QStringLiteral("Contents"));
-  Contents->setHeaderHidden(true);
-  Contents->setIndentation(14);
-  Contents->setTextElideMode(Qt::ElideRight);
-  Page = new HelpPage(this);
-  Page->setObjectName(QStringLiteral("Page"));
+void HelpWindow::BuildPage() {
+  Page = Make<HelpPage>(this, "Page");
+  Page->setAccessibleName("Page");
   Page->setOpenLinks(false);
   Page->setWordWrapMode(QTextOption::WordWrap);  // no table column narrower than its words
   Page->setFont(FontOf(Typeface::Verdana, 9.75));
-  QPalette Colours = Page->palette();
-  Colours.setColor(QPalette::Base, Paper);
-  Colours.setColor(QPalette::Text, Ink);
-  Colours.setColor(QPalette::Highlight, FoundColour);  // seen also while the focus is in the find line
-  Colours.setColor(QPalette::HighlightedText, Ink);
-  Page->setPalette(Colours);
+  SetColours(*Page, {{QPalette::Base, Paper},
+                     {QPalette::Text, Ink},
+                     {QPalette::Highlight, FoundColour},  // seen also while the focus is in the find line
+                     {QPalette::HighlightedText, Ink}});
+}
 
-  cmdBack = Button("cmdBack", QStringLiteral("Back"), QStringLiteral("The page before (Alt+Left)"),
-                   [this] { Page->backward(); });
-  cmdForward = Button("cmdForward", QStringLiteral("Forward"), QStringLiteral("The page after (Alt+Right)"),
-                      [this] { Page->forward(); });
-  txtFind = new QLineEdit(this);
-  txtFind->setObjectName(QStringLiteral("txtFind"));
-  txtFind->setPlaceholderText(QStringLiteral("Find (Ctrl+F)"));
-  txtFind->setAccessibleName(QStringLiteral("Find"));
+void HelpWindow::BuildControls() {
+  cmdContents = Make<ButtonPlus>(this, "cmdContents", "Contents");
+  cmdContents->setCheckable(true);
+  cmdContents->setChecked(true);
+  cmdBack = MakeButton(this, "cmdBack", "Back", [this] { Page->backward(); });
+  cmdForward = MakeButton(this, "cmdForward", "Forward", [this] { Page->forward(); });
+  cmdFindPrevious = MakeButton(this, "cmdFindPrevious", "Previous", [this] { Find(true); });
+  cmdFindNext = MakeButton(this, "cmdFindNext", "Next", [this] { Find(false); });
+  const std::pair<ButtonPlus*, const char*> Tips[] = {{cmdContents, "Show or hide the contents"},
+                                                      {cmdBack, "The page before (Alt+Left)"},
+                                                      {cmdForward, "The page after (Alt+Right)"},
+                                                      {cmdFindPrevious, "Find backward (Shift+F3)"},
+                                                      {cmdFindNext, "Find again (F3)"}};
+  for (const auto& [Button, Tip] : Tips) {
+    Button->setFont(font());
+    Button->setToolTip(Tip);
+  }
+  cmdBack->setEnabled(false);
+  cmdForward->setEnabled(false);
+  Contents = Make<QTreeWidget>(this, "Contents");
+  Contents->setAccessibleName("Contents");
+  Contents->setHeaderHidden(true);
+  Contents->setIndentation(14);
+  Contents->setTextElideMode(Qt::ElideRight);
+  txtFind = Make<QLineEdit>(this, "txtFind");
+  txtFind->setPlaceholderText("Find (Ctrl+F)");
+  txtFind->setAccessibleName("Find");
   txtFind->setClearButtonEnabled(true);
-  txtFind->setFixedWidth(190);
-  cmdFindPrevious = Button("cmdFindPrevious", QStringLiteral("Previous"), QStringLiteral("Find backward (Shift+F3)"),
-                           [this] { Find(true); });
-  cmdFindNext =
-      Button("cmdFindNext", QStringLiteral("Next"), QStringLiteral("Find again (F3)"), [this] { Find(false); });
-  lblFound = new QLabel(this);
-  lblFound->setObjectName(QStringLiteral("lblFound"));
+  lblFound = MakeText(this, "lblFound", {}, font());
+}
 
+void HelpWindow::LayOut() {
   auto* Bar = new QHBoxLayout;
   Bar->setSpacing(6);
-  for (QWidget* Piece : {static_cast<QWidget*>(cmdBack), static_cast<QWidget*>(cmdForward)}) Bar->addWidget(Piece);
+  for (ButtonPlus* Button : {cmdContents, cmdBack, cmdForward}) Bar->addWidget(Button);
   Bar->addStretch();
-  for (QWidget* Piece : {static_cast<QWidget*>(lblFound), static_cast<QWidget*>(txtFind),
-                         static_cast<QWidget*>(cmdFindPrevious), static_cast<QWidget*>(cmdFindNext)}) {
-    Bar->addWidget(Piece);
-  }
+  Bar->addWidget(lblFound);
   auto* Halves = new QSplitter(this);
   Halves->setChildrenCollapsible(false);
   Halves->addWidget(Contents);
   Halves->addWidget(Page);
   Halves->setSizes({ContentsWidth, WidestWindow - ContentsWidth});
   Halves->setStretchFactor(1, 1);
+  auto* Search = new QHBoxLayout;
+  Search->setSpacing(6);
+  Search->addWidget(txtFind, 1);
+  Search->addWidget(cmdFindPrevious);
+  Search->addWidget(cmdFindNext);
   auto* Column = new QVBoxLayout(this);
   Column->setContentsMargins(8, 8, 8, 8);
   Column->addLayout(Bar);
   Column->addWidget(Halves, 1);
+  Column->addLayout(Search);
+  // The page is made first; the order of Tab is that of the eye.
+  QWidget* const Order[] = {cmdContents, cmdBack, cmdForward, Contents, Page, txtFind, cmdFindPrevious, cmdFindNext};
+  for (std::size_t i = 1; i < std::size(Order); ++i) setTabOrder(Order[i - 1], Order[i]);
+}
 
+void HelpWindow::ConnectControls() {
+  connect(cmdContents, &QAbstractButton::toggled, Contents, &QWidget::setVisible);
+  connect(Page, &QTextBrowser::backwardAvailable, cmdBack, &QWidget::setEnabled);
+  connect(Page, &QTextBrowser::forwardAvailable, cmdForward, &QWidget::setEnabled);
+  connect(Page, &QTextBrowser::sourceChanged, this, &HelpWindow::MarkInContents);
+  connect(Page, &QTextBrowser::sourceChanged, lblFound, &QLabel::clear);
+  connect(Page, &QTextBrowser::anchorClicked, this, &HelpWindow::Follow);
+  connect(txtFind, &QLineEdit::returnPressed, this, [this] { Find(false); });
+  connect(txtFind, &QLineEdit::textChanged, lblFound, &QLabel::clear);
+  connect(Contents, &QTreeWidget::currentItemChanged, this, &HelpWindow::GoTo);
+  connect(Contents, &QTreeWidget::itemClicked, this, &HelpWindow::GoTo);  // also from a heading that is chosen already
+}
+
+/// Wherever the focus is.
+void HelpWindow::ConnectKeys() {
   const auto Key = [this](const QKeySequence& Keys, auto Run) {
     connect(new QShortcut(Keys, this), &QShortcut::activated, this, Run);
   };
   Key(Qt::Key_Escape, [this] { close(); });
+  Key(Qt::ALT | Qt::Key_Left, [this] { Page->backward(); });
+  Key(Qt::ALT | Qt::Key_Right, [this] { Page->forward(); });
   Key(QKeySequence::Find, [this] {
     txtFind->setFocus();
     txtFind->selectAll();
   });
   Key(Qt::Key_F3, [this] { Find(false); });
   Key(Qt::SHIFT | Qt::Key_F3, [this] { Find(true); });
-
-  cmdBack->setEnabled(false);
-  cmdForward->setEnabled(false);
-  connect(Page, &QTextBrowser::backwardAvailable, cmdBack, &QWidget::setEnabled);
-  connect(Page, &QTextBrowser::forwardAvailable, cmdForward, &QWidget::setEnabled);
-  connect(Page, &QTextBrowser::sourceChanged, this, &HelpWindow::MarkInContents);
-  connect(Page, &QTextBrowser::anchorClicked, this, &HelpWindow::Follow);
-  connect(txtFind, &QLineEdit::returnPressed, this, [this] { Find(false); });
-  connect(txtFind, &QLineEdit::textChanged, lblFound, &QLabel::clear);
-  const auto Open = [this](const QTreeWidgetItem* Chosen) {
-    if (Chosen != nullptr) Page->setSource(Chosen->data(0, AddressRole).toUrl());
-  };
-  connect(Contents, &QTreeWidget::currentItemChanged, this, Open);
-  connect(Contents, &QTreeWidget::itemClicked, this, Open);  // also where one has scrolled away from the chosen heading
 }
 
-/// The headings of the pages, as they stand there.
+void HelpWindow::GoTo(const QTreeWidgetItem* Entry) {
+  if (Entry != nullptr) Page->setSource(Entry->data(0, AddressRole).toUrl());
+}
+
 void HelpWindow::FillContents() {
-  for (const QString& Name : Pages) {
-    const QUrl Address = AddressOf(Name);
-    auto* Top = new QTreeWidgetItem(Contents, {QFileInfo(Name).completeBaseName()});
-    Top->setData(0, AddressRole, Address);
-    QFont Bold = Contents->font();
-    Bold.setBold(true);
-    Top->setFont(0, Bold);
-    QTextDocument Document;
-    QFile File(Address.toLocalFile());
-    if (File.open(QIODevice::ReadOnly)) Document.setHtml(QString::fromUtf8(File.readAll()));
-    pageTexts += Document.toPlainText();
-    for (QTextBlock Block = Document.begin(); Block.isValid(); Block = Block.next()) {
-      const int Level = Block.blockFormat().headingLevel();
-      if (Level == 1) Top->setText(0, Block.text());
-      if (Level != 2) continue;
-      QUrl Place = Address;
-      Place.setFragment(AnchorOf(Block));
-      (new QTreeWidgetItem(Top, {Block.text()}))->setData(0, AddressRole, Place);
-    }
-    Top->setExpanded(true);
-  }
+  for (const QString& Name : Pages) AddPage(Name);
 }
 
-/// To the left of the table, where the score pad isn't; over it only on a screen without room.
+/// The headings of a page, as they stand there.
+void HelpWindow::AddPage(const QString& Name) {
+  const QUrl Address = AddressOf(Name);
+  auto* Top = new QTreeWidgetItem(Contents, {QFileInfo(Name).completeBaseName()});
+  Top->setData(0, AddressRole, Address);
+  Top->setFont(0, FontOf(Typeface::Verdana, 8.25, true));
+  QTextDocument Document;
+  QFile File(Address.toLocalFile());
+  if (File.open(QIODevice::ReadOnly)) Document.setHtml(QString::fromUtf8(File.readAll()));
+  pageTexts += Document.toPlainText();
+  for (QTextBlock Block = Document.begin(); Block.isValid(); Block = Block.next()) {
+    const int Level = Block.blockFormat().headingLevel();
+    if (Level == 1) Top->setText(0, Block.text());
+    if (Level != 2) continue;
+    QUrl Place = Address;
+    Place.setFragment(AnchorOf(Block));
+    (new QTreeWidgetItem(Top, {Block.text()}))->setData(0, AddressRole, Place);
+  }
+  Top->setExpanded(true);
+}
+
+/// To the left of the table, where the score pad isn't, or to its right; over it only on a screen without room.
 void HelpWindow::PlaceBeside(const QWidget* Table) {
-  const QRect Screen = Table->screen()->availableGeometry();
-  const int Room = Table->frameGeometry().left() - Screen.left() - 2 * Gap;
-  resize(qBound(NarrowestWindow, Room, WidestWindow), qMin(Height, Screen.height() - 4 * Gap));
-  const int Left = Table->frameGeometry().left() - Gap - width();
-  const int Frame = Table->frameGeometry().height() - Table->height();
-  const int Lowest = qMax(Screen.top(), Screen.bottom() - height() - Frame);
-  move(qMax(Screen.left(), Left), qBound(Screen.top(), Table->frameGeometry().top(), Lowest));
+  const QRect Screen = Table->screen()->availableGeometry(), Frame = Table->frameGeometry();
+  const QMargins Around = FrameOf(*Table->window());
+  const int LeftRoom = Frame.left() - Screen.left() - Gap, RightRoom = Screen.right() - Frame.right() - Gap;
+  const int Sides = Around.left() + Around.right(), UpAndDown = Around.top() + Around.bottom();
+  const bool AtRight = LeftRoom - Sides < NarrowestWindow && RightRoom - Sides >= NarrowestWindow;
+  resize(qBound(NarrowestWindow, (AtRight ? RightRoom : LeftRoom) - Sides, WidestWindow),
+         qMin(Height, Screen.height() - UpAndDown));
+  const int Left = AtRight ? Screen.right() + 1 - width() - Sides : Frame.left() - Gap - width() - Sides;
+  const int Lowest = qMax(Screen.top(), Screen.bottom() + 1 - height() - UpAndDown);
+  PlaceFrame(*this, {qMax(Screen.left(), Left), qBound(Screen.top(), Frame.top(), Lowest)});
+}
+
+/// A narrow window is all page.
+void HelpWindow::resizeEvent(QResizeEvent* Event) {
+  QWidget::resizeEvent(Event);
+  const bool Wide = width() >= FoldingWidth, WasWide = Event->oldSize().width() >= FoldingWidth;
+  if (Wide != WasWide || !Event->oldSize().isValid()) cmdContents->setChecked(Wide);
 }
 
 QUrl HelpWindow::AddressOf(const QString& Topic) const {
@@ -207,6 +236,7 @@ void HelpWindow::ShowTopic(const QString& Topic) {
   raise();
   activateWindow();
   Page->setFocus();
+  lblFound->clear();
   Page->setSource(AddressOf(Topic));  // the window has its size by now, or the anchor would miss its place
 }
 

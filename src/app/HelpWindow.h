@@ -9,6 +9,7 @@
 class QLabel;
 class QLineEdit;
 class QTreeWidget;
+class QTreeWidgetItem;
 
 namespace blunko {
 
@@ -39,6 +40,7 @@ class HelpWindow : public QWidget {
 
   QTreeWidget* Contents;
   HelpPage* Page;
+  ButtonPlus* cmdContents;  ///< folds the contents away, and out again
   ButtonPlus* cmdBack;
   ButtonPlus* cmdForward;
   QLineEdit* txtFind;
@@ -48,11 +50,18 @@ class HelpWindow : public QWidget {
 
  protected:
   bool event(QEvent* Event) override;
+  void resizeEvent(QResizeEvent* Event) override;
 
  private:
-  void Build();
+  void BuildPage();
+  void BuildControls();
+  void LayOut();
+  void ConnectControls();
+  void ConnectKeys();
   void FillContents();
+  void AddPage(const QString& Name);
   void PlaceBeside(const QWidget* Table);
+  void GoTo(const QTreeWidgetItem* Entry);
   QUrl AddressOf(const QString& Topic) const;
   void Follow(const QUrl& Link);
   void MarkInContents(const QUrl& Source);

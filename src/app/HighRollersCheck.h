@@ -11,6 +11,10 @@
 
 namespace blunko {
 
+/// Info file key: the day on which nobody wants to be asked about the high rollers list any more, or `NoDay`.
+inline const QString NoQuestionKey = QStringLiteral("NoHS");
+inline const QString NoDay = QStringLiteral("Null");
+
 /// "You just made number 3 on the ... top ten!  ", of the list that the word "turn" stands for, or any other word.
 QString PlaceMade(const QString& Number, const QString& Word);
 

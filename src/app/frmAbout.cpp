@@ -1,7 +1,7 @@
 #include "app/frmAbout.h"
 
 #include <QGridLayout>
-#include <QMouseEvent>
+#include <QPainter>
 #include <QVBoxLayout>
 
 #include "Links.h"
@@ -9,81 +9,72 @@
 #include "app/Texts.h"
 #include "app/frmCredits.h"
 #include "widgets/Boxes.h"
-#include "widgets/Fonts.h"
+#include "widgets/FocusRing.h"
+#include "widgets/FormBuilder.h"
 
 namespace blunko {
 
 namespace {
 
-constexpr int DieSide = 48;  // px: the picture has twice that, for large screens
+constexpr QSize DieSize(48, 48);  // px
 const QColor ButtonColour(132, 186, 255);
 
 }  // namespace
 
-void DiePicture::mousePressEvent(QMouseEvent* Event) { Event->accept(); }
-
-void DiePicture::mouseReleaseEvent(QMouseEvent* Event) {
-  if (Event->button() == Qt::LeftButton && rect().contains(Event->position().toPoint())) emit clicked();
+void DieButton::paintEvent(QPaintEvent*) {
+  QPainter Painter(this);
+  icon().paint(&Painter, rect());
+  if (hasFocus()) DrawFocusRing(Painter, rect(), 6);
 }
 
 frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& Screen, QWidget* Main)
-    : QDialog(Main), settings(Options), desktop(Screen) {
-  setObjectName(QStringLiteral("frmAbout"));
-  setWindowTitle(QStringLiteral("About Tollmoor Blunko"));
-
-  const auto Text = [this](const char* Name, const QString& Caption, Typeface Face, double Points, bool Bold = false) {
-    auto* Made = new QLabel(Caption, this);
-    Made->setObjectName(QLatin1String(Name));
-    Made->setFont(FontOf(Face, Points, Bold));
-    Made->setAlignment(Qt::AlignCenter);
-    return Made;
-  };
-  Label3 = Text("Label3", QStringLiteral("Tollmoor Games Presents"), Typeface::Verdana, 9.75);
-  Label2 = Text("Label2", ProductName, Typeface::ComicSans, 21.75, true);
-  Label1 = Text("Label1", QStringLiteral("Tollmoor Games"), Typeface::Verdana, 9.75, true);
-  Label_Version =
-      Text("Label_Version", QStringLiteral("v%1.%2.%3").arg(VersionMajor).arg(VersionMinor).arg(VersionRevision),
-           Typeface::Verdana, 9.75);
-  const auto Link = [&](const char* Name, const QString& Shown, const QString& Target) {
-    const QString Html = QStringLiteral("<a href=\"%1\">%2</a>").arg(Target.toHtmlEscaped(), Shown.toHtmlEscaped());
-    QLabel* Made = Text(Name, Html, Typeface::Verdana, 8.25);
-    Made->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    Made->setAccessibleName(Shown);
-    connect(Made, &QLabel::linkActivated, this, &OpenInShell);
-    return Made;
-  };
-  lblURL = Link("lblURL", WebSite, WebSite);
-  lblMail = Link("lblMail", SupportMail, QStringLiteral("mailto:") + SupportMail);
-  lblDisclaimer = Text("lblDisclaimer", LegalNotice[0], Typeface::Verdana, 6.75);
-  Label4 = Text("Label4", LegalNotice[1], Typeface::Verdana, 6.75);
-
-  const auto Die = [&](const char* Name) {
-    auto* Made = new DiePicture(this);
-    Made->setObjectName(QLatin1String(Name));
-    Made->setFixedSize(DieSide, DieSide);
-    Made->Load(Where.Shipped(QStringLiteral("Data")) + QStringLiteral("/Dice_Blue_5.gif"));
-    return Made;
-  };
-  Picture1 = Die("Picture1");
-  Picture2 = Die("Picture2");
-  connect(Picture1, &DiePicture::clicked, this, &frmAbout::Picture1_Click);
-  connect(Picture2, &DiePicture::clicked, this, &frmAbout::Picture2_Click);
-
-  const auto Button = [this](const char* Name, const QString& Caption) {
-    auto* Made = new ButtonPlus(Caption, this);
-    Made->setObjectName(QLatin1String(Name));
-    Made->setMinimumWidth(110);
-    Made->setBackColor(ButtonColour);
-    Made->setAutoDefault(true);
-    return Made;
-  };
-  cmdOK = Button("cmdOK", QStringLiteral("OK"));
-  cmdCredits = Button("cmdCredits", QStringLiteral("Credits"));
+    : PlacedDialog(Main), settings(Options), desktop(Screen) {
+  setObjectName("frmAbout");
+  setWindowTitle("About Tollmoor Blunko");
+  const QFont Plain = FontOf(Typeface::Verdana, 9.75), Small = FontOf(Typeface::Verdana, 6.75);
+  const QString Die = Where.Shipped("Data") + "/Dice_Blue_5.gif";
+  Picture1 = MakeDie("Picture1", Die);
+  Label3 = MakeText(this, "Label3", "Tollmoor Games Presents", Plain);
+  Label2 = MakeText(this, "Label2", ProductName, FontOf(Typeface::ComicSans, 21.75, true));
+  Label_Version = MakeText(this, "Label_Version",
+                           QStringLiteral("v%1.%2.%3").arg(VersionMajor).arg(VersionMinor).arg(VersionRevision), Plain);
+  Picture2 = MakeDie("Picture2", Die);
+  Label1 = MakeText(this, "Label1", "Tollmoor Games", FontOf(Typeface::Verdana, 9.75, true));
+  lblURL = MakeLink("lblURL", WebSite, WebSite);
+  lblMail = MakeLink("lblMail", SupportMail, "mailto:" + SupportMail);
+  lblDisclaimer = MakeText(this, "lblDisclaimer", LegalNotice[0], Small);
+  Label4 = MakeText(this, "Label4", LegalNotice[1], Small);
+  cmdOK = MakeButton(this, "cmdOK", "OK", &QDialog::accept);
+  cmdCredits = MakeButton(this, "cmdCredits", "Credits", [this] { frmCredits(this).exec(); });
   cmdOK->setDefault(true);
-  connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
-  connect(cmdCredits, &QPushButton::clicked, this, [this] { frmCredits(this).exec(); });
+  for (ButtonPlus* Button : {cmdOK, cmdCredits}) Button->setBackColor(ButtonColour);
+  connect(Picture1, &QAbstractButton::clicked, this, &frmAbout::Picture1_Click);
+  connect(Picture2, &QAbstractButton::clicked, this, &frmAbout::Picture2_Click);
   FixButtonColours(*this);
+  LayOut();
+  cmdOK->setFocus();
+}
 
+QLabel* frmAbout::MakeLink(const QString& Name, const QString& Shown, const QString& Target) {
+  QLabel* Made = MakeText(this, Name, {}, FontOf(Typeface::Verdana, 8.25));
+  Made->setTextFormat(Qt::RichText);
+  Made->setText(QStringLiteral("<a href=\"%1\">%2</a>").arg(Target.toHtmlEscaped(), Shown.toHtmlEscaped()));
+  Made->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+  Made->setAccessibleName(Shown);
+  connect(Made, &QLabel::linkActivated, this, &OpenInShell);
+  return Made;
+}
+
+DieButton* frmAbout::MakeDie(const QString& Name, const QString& File) {
+  auto* Made = Make<DieButton>(this, Name);
+  Made->setIcon(QPixmap(File));  // sharp on large screens: it has twice the pixels
+  Made->setIconSize(DieSize);
+  Made->setFixedSize(DieSize);
+  Made->setAccessibleName(Name == "Picture1" ? "Left die" : "Right die");
+  return Made;
+}
+
+void frmAbout::LayOut() {
   auto* Column = new QVBoxLayout(this);
   Column->setContentsMargins(18, 14, 18, 14);
   Column->setSpacing(4);
@@ -100,15 +91,9 @@ frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& S
   Column->addSpacing(10);
   for (QLabel* Line : {lblDisclaimer, Label4}) Column->addWidget(Line);
   Column->addSpacing(12);
-  auto* Buttons = new QHBoxLayout;
-  Buttons->setSpacing(12);
-  Buttons->addStretch();
-  Buttons->addWidget(cmdOK);
-  Buttons->addWidget(cmdCredits);
-  Buttons->addStretch();
-  Column->addLayout(Buttons);
+  for (ButtonPlus* Button : {cmdOK, cmdCredits}) Button->setMinimumWidth(110);
+  Column->addLayout(CentredRow({cmdOK, cmdCredits}, 12));
   Column->setSizeConstraint(QLayout::SetFixedSize);
-  cmdOK->setFocus();
 }
 
 void frmAbout::Picture1_Click() {

@@ -1,34 +1,31 @@
 #pragma once
 
-#include <QDialog>
+#include <QAbstractButton>
 #include <QLabel>
 
 #include "engine/Desktop.h"
 #include "storage/Folders.h"
 #include "storage/GameSettings.h"
 #include "widgets/ButtonPlus.h"
-#include "widgets/FitLabel.h"
-#include "widgets/Pictures.h"
+#include "widgets/PlacedDialog.h"
 
 namespace blunko {
 
-/// The picture of a die that can be clicked.
-class DiePicture : public StretchedPicture {
+/// The picture of a die that can be pressed, by mouse or key.
+class DieButton : public QAbstractButton {
   Q_OBJECT
 
  public:
-  using StretchedPicture::StretchedPicture;
+  using QAbstractButton::QAbstractButton;
 
- signals:
-  void clicked();
+  QSize sizeHint() const override { return iconSize(); }
 
  protected:
-  void mousePressEvent(QMouseEvent* Event) override;
-  void mouseReleaseEvent(QMouseEvent* Event) override;
+  void paintEvent(QPaintEvent* Event) override;
 };
 
 /// The about box: version, links, legal notice, and what the two dice do when they are clicked.
-class frmAbout : public QDialog {
+class frmAbout : public PlacedDialog {
   Q_OBJECT
 
  public:
@@ -42,12 +39,15 @@ class frmAbout : public QDialog {
   QLabel* lblMail;
   QLabel* lblDisclaimer;
   QLabel* Label4;
-  DiePicture* Picture1;
-  DiePicture* Picture2;
+  DieButton* Picture1;
+  DieButton* Picture2;
   ButtonPlus* cmdOK;
   ButtonPlus* cmdCredits;
 
  private:
+  QLabel* MakeLink(const QString& Name, const QString& Shown, const QString& Target);
+  DieButton* MakeDie(const QString& Name, const QString& File);
+  void LayOut();
   void Picture1_Click();
   void Picture2_Click();
 

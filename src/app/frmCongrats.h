@@ -1,6 +1,9 @@
 #pragma once
 
-#include "engine/Game.h"
+#include <string>
+
+#include "engine/Desktop.h"
+#include "engine/GameOptions.h"
 #include "widgets/ButtonPlus.h"
 #include "widgets/FitLabel.h"
 #include "widgets/Pictures.h"
@@ -16,7 +19,8 @@ class frmCongrats : public PlacedDialog {
   Q_OBJECT
 
  public:
-  frmCongrats(Game& Table, frmMain& Main);
+  frmCongrats(const QString& Winner, std::string& FormMessage, Desktop& Screen, const GameOptions& Settings,
+              frmMain& Main);
 
   SvgBox* Image2;  ///< the trophy
   SvgBox* Image1;  ///< the arched greeting
@@ -31,9 +35,15 @@ class frmCongrats : public PlacedDialog {
   void changeEvent(QEvent* Event) override;
 
  private:
+  void BuildPlate();
+  void BuildButtons();
+  void Leave(const char* Word);
   void Form_Activate();
 
-  Game& game;
+  const QString winner;
+  std::string& message;
+  Desktop& desktop;
+  const GameOptions& settings;
   frmMain& main;
   bool engraving = false;
   bool left = false;  ///< for another window, since the engraving

@@ -9,7 +9,7 @@
 #include "app/Texts.h"
 #include "widgets/Boxes.h"
 #include "widgets/Colours.h"
-#include "widgets/Fonts.h"
+#include "widgets/FormBuilder.h"
 
 namespace blunko {
 
@@ -39,23 +39,18 @@ void ScrollBox::paintEvent(QPaintEvent*) {
   Painter.drawText(QRect(0, Top, width(), TextHeight()), TextFlags, Text);
 }
 
-frmCredits::frmCredits(QWidget* Owner) : QDialog(Owner) {
-  setObjectName(QStringLiteral("frmCredits"));
-  setWindowTitle(QStringLiteral("Tollmoor Blunko Credits"));
-  Label1 = new QLabel(QStringLiteral("Credits & Stuff"), this);
-  Label1->setObjectName(QStringLiteral("Label1"));
-  Label1->setFont(FontOf(Typeface::ComicSans, 18, true));
-  Label1->setAlignment(Qt::AlignCenter);
-  picScroll = new ScrollBox(this);
-  picScroll->setObjectName(QStringLiteral("picScroll"));
+frmCredits::frmCredits(QWidget* Owner) : PlacedDialog(Owner) {
+  setObjectName("frmCredits");
+  setWindowTitle("Tollmoor Blunko Credits");
+  Label1 = MakeText(this, "Label1", "Credits & Stuff", FontOf(Typeface::ComicSans, 18, true));
+  picScroll = Make<ScrollBox>(this, "picScroll");
   picScroll->setFixedSize(ScrollSize);
   picScroll->setAccessibleName(CreditsText());
   picScroll->Text = CreditsText();
-  cmdOK = new ButtonPlus(QStringLiteral("OK"), this);
-  cmdOK->setObjectName(QStringLiteral("cmdOK"));
+  cmdOK = MakeButton(this, "cmdOK", "OK", &QDialog::accept);
   cmdOK->setMinimumWidth(110);
   cmdOK->setDefault(true);
-  connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+  FixButtonColours(*this);
 
   auto* Column = new QVBoxLayout(this);
   Column->setContentsMargins(16, 12, 16, 14);
@@ -64,7 +59,6 @@ frmCredits::frmCredits(QWidget* Owner) : QDialog(Owner) {
   Column->addWidget(picScroll, 0, Qt::AlignCenter);
   Column->addWidget(cmdOK, 0, Qt::AlignCenter);
   Column->setSizeConstraint(QLayout::SetFixedSize);
-  FixButtonColours(*this);
 
   steps.setTimerType(Qt::PreciseTimer);
   steps.setInterval(StepTime);
@@ -80,7 +74,7 @@ QString frmCredits::CreditsText() {
 }
 
 void frmCredits::showEvent(QShowEvent* Event) {
-  QDialog::showEvent(Event);
+  PlacedDialog::showEvent(Event);
   // Once the dialog stands complete on the screen.
   if (!Event->spontaneous()) QTimer::singleShot(0, this, &frmCredits::ScrollCredits);
 }
@@ -106,7 +100,7 @@ void frmCredits::Step() {
 
 void frmCredits::done(int Result) {
   StopScrolling();
-  QDialog::done(Result);
+  PlacedDialog::done(Result);
 }
 
 }  // namespace blunko

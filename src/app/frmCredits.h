@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QDialog>
 #include <QLabel>
 #include <QTimer>
 
 #include "widgets/ButtonPlus.h"
+#include "widgets/PlacedDialog.h"
 
 namespace blunko {
 
@@ -26,7 +26,7 @@ class ScrollBox : public QWidget {
 };
 
 /// The credits: they scroll up without end, one logical pixel a step.
-class frmCredits : public QDialog {
+class frmCredits : public PlacedDialog {
   Q_OBJECT
 
  public:

@@ -1,103 +1,88 @@
 #include "app/frmCustomizeSounds.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QStandardPaths>
 
 #include "table/KeyCodes.h"
-#include "widgets/Fonts.h"
+#include "widgets/FormBuilder.h"
 
 namespace blunko {
 
 namespace {
 
 constexpr int ListWidth = 240;  // px
+const std::string NothingPicked = "¤¤¤";
 const QColor ButtonColour(137, 189, 255);
 
 }  // namespace
 
-frmCustomizeSounds::frmCustomizeSounds(Game& Table, GameSettings& Options, QWidget* Owner)
+frmCustomizeSounds::frmCustomizeSounds(std::string& FormMessage, GameSettings& Options, Desktop& Screen, QWidget* Owner)
     : PlacedDialog(Owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                               Qt::WindowCloseButtonHint),
-      game(Table),
-      settings(Options) {
-  setObjectName(QStringLiteral("frmCustomizeSounds"));
-  setWindowTitle(QStringLiteral("Customize Sounds"));
+      message(FormMessage),
+      settings(Options),
+      desktop(Screen) {
+  setObjectName("frmCustomizeSounds");
+  setWindowTitle("Customize Sounds");
   setFont(FontOf(Typeface::Verdana, 8.25));
-  PickFile = [this](const QString& Title) {
-    const QString Path = QFileDialog::getOpenFileName(this, Title, QFile::decodeName(ChosenFile().c_str()),
-                                                      QStringLiteral("Wav Files (*.wav)"));
-    return Path.isEmpty() ? NothingPicked : Path;
-  };
-  Build();
+  BuildControls();
+  LayOut();
   Form_Load();
 }
 
-void frmCustomizeSounds::Build() {
-  lstEvents = new QListWidget(this);
+void frmCustomizeSounds::BuildControls() {
+  lstEvents = Make<QListWidget>(this, "lstEvents");
   const int RowHeight = fontMetrics().height() + 6;
-  for (const SoundEvent& Made : SoundEvents) {
-    auto* Row = new QListWidgetItem(QString::fromLatin1(Made.Caption), lstEvents);
+  for (const SoundEvent& Event : SoundEvents) {
+    auto* Row = new QListWidgetItem(QString::fromLatin1(Event.Caption), lstEvents);
     Row->setSizeHint(QSize(0, RowHeight));
   }
   lstEvents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstEvents->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  const int Border = 2 * lstEvents->frameWidth();
-  lstEvents->setFixedHeight(RowHeight * lstEvents->count() + Border);
+  lstEvents->setFixedHeight(RowHeight * lstEvents->count() + 2 * lstEvents->frameWidth());
   lstEvents->setMinimumWidth(ListWidth);
-  txtSound = new QLineEdit(this);
+  lstEvents->setAccessibleName("Event");
+  txtSound = Make<QLineEdit>(this, "txtSound");
   txtSound->setReadOnly(true);
-  cmdBrowse = new ButtonPlus(QStringLiteral("Browse..."), this);
-  cmdTest = new ButtonPlus(QStringLiteral("Test"), this);
-  cmdOK = new ButtonPlus(QStringLiteral("OK"), this);
-  cmdCancel = new ButtonPlus(QStringLiteral("Cancel"), this);
+  txtSound->setAccessibleName("Sound");
+  cmdBrowse = MakeButton(this, "cmdBrowse", "Browse...", &frmCustomizeSounds::cmdBrowse_Click);
+  cmdTest = MakeButton(this, "cmdTest", "Test", &frmCustomizeSounds::cmdTest_Click);
+  cmdOK = MakeButton(this, "cmdOK", "OK", &frmCustomizeSounds::cmdOK_Click);
+  cmdCancel = MakeButton(this, "cmdCancel", "Cancel", &QDialog::reject);
   cmdOK->setDefault(true);
+  const std::initializer_list<QWidget*> All{lstEvents, txtSound, cmdBrowse, cmdTest, cmdOK, cmdCancel};
+  for (QWidget* Control : All) Control->installEventFilter(this);
+  connect(lstEvents, &QListWidget::currentRowChanged, this, &frmCustomizeSounds::lstEvents_Click);
+  connect(lstEvents, &QListWidget::itemDoubleClicked, this, &frmCustomizeSounds::cmdBrowse_Click);
+}
 
-  const auto Caption = [this](const QString& Text, QWidget* Buddy) {
-    auto* Made = new QLabel(Text, this);
-    Made->setBuddy(Buddy);
-    return Made;
-  };
-  auto* Hint = new QLabel(QStringLiteral("[Hit Backspace to restore defaults]"), this);
-  Hint->setAlignment(Qt::AlignCenter);
+void frmCustomizeSounds::LayOut() {
+  const auto Left = Qt::AlignLeft | Qt::AlignVCenter;
   auto* Buttons = new QVBoxLayout;
   Buttons->setSpacing(4);
-  Buttons->addWidget(cmdBrowse);
-  Buttons->addWidget(cmdTest);
-  Buttons->addStretch(1);
-  Buttons->addWidget(cmdOK);
-  Buttons->addWidget(cmdCancel);
+  for (ButtonPlus* Button : {cmdBrowse, cmdTest, cmdOK, cmdCancel}) {
+    if (Button == cmdOK) Buttons->addStretch(1);
+    Buttons->addWidget(Button);
+  }
   auto* Places = new QGridLayout(this);
   Places->setContentsMargins(12, 10, 12, 10);
   Places->setHorizontalSpacing(12);
   Places->setVerticalSpacing(4);
-  Places->addWidget(Caption(QStringLiteral("Event:"), lstEvents), 0, 0);
+  Places->addWidget(MakeText(this, {}, "Event:", font(), Left), 0, 0);
   Places->addWidget(lstEvents, 1, 0);
   Places->setRowMinimumHeight(2, 4);
-  Places->addWidget(Caption(QStringLiteral("Sound:"), txtSound), 3, 0);
+  Places->addWidget(MakeText(this, {}, "Sound:", font(), Left), 3, 0);
   Places->addWidget(txtSound, 4, 0);
   Places->addLayout(Buttons, 1, 1, 4, 1);
   Places->setRowMinimumHeight(5, 4);
-  Places->addWidget(Hint, 6, 0, 1, 2);
+  Places->addWidget(MakeText(this, {}, "[Hit Backspace to restore defaults]", font()), 6, 0, 1, 2);
   Places->setSizeConstraint(QLayout::SetFixedSize);
-
-  const std::pair<QWidget*, const char*> Names[] = {{lstEvents, "lstEvents"}, {txtSound, "txtSound"},
-                                                    {cmdBrowse, "cmdBrowse"}, {cmdTest, "cmdTest"},
-                                                    {cmdOK, "cmdOK"},         {cmdCancel, "cmdCancel"}};
-  for (const auto& [Widget, Name] : Names) {
-    Widget->setObjectName(QLatin1String(Name));
-    Widget->installEventFilter(this);
-  }
-  connect(lstEvents, &QListWidget::currentRowChanged, this, &frmCustomizeSounds::lstEvents_Click);
-  connect(lstEvents, &QListWidget::itemDoubleClicked, this, &frmCustomizeSounds::cmdBrowse_Click);
-  connect(cmdBrowse, &QPushButton::clicked, this, &frmCustomizeSounds::cmdBrowse_Click);
-  connect(cmdTest, &QPushButton::clicked, this, &frmCustomizeSounds::cmdTest_Click);
-  connect(cmdOK, &QPushButton::clicked, this, &frmCustomizeSounds::cmdOK_Click);
-  connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void frmCustomizeSounds::Form_Load() {
@@ -108,6 +93,10 @@ void frmCustomizeSounds::Form_Load() {
   FixButtonColours(*this);
 }
 
+std::string frmCustomizeSounds::DefaultFile(int Index) const {
+  return settings.DefaultSound(SoundEvents[static_cast<std::size_t>(Index)].Name);
+}
+
 std::string& frmCustomizeSounds::ChosenFile() { return EventFile[static_cast<std::size_t>(lstEvents->currentRow())]; }
 
 void frmCustomizeSounds::lstEvents_Click() {
@@ -116,14 +105,25 @@ void frmCustomizeSounds::lstEvents_Click() {
 }
 
 void frmCustomizeSounds::cmdBrowse_Click() {
-  const QString Title = QStringLiteral("Select \"%1\" sound").arg(lstEvents->currentItem()->text());
-  game.m.FormMessage = QFile::encodeName(PickFile(Title)).toStdString();
-  if (game.m.FormMessage == QFile::encodeName(NothingPicked).toStdString()) return;
-  ChosenFile() = game.m.FormMessage;
+  message = PickFile(QStringLiteral("Select \"%1\" sound").arg(lstEvents->currentItem()->text()));
+  if (message == NothingPicked) return;
+  ChosenFile() = message;
   lstEvents_Click();
 }
 
-void frmCustomizeSounds::cmdTest_Click() { game.desktop.PlaySoundFile(ChosenFile(), true); }
+/// Asks for a wave file: its path, or `NothingPicked`. It begins beside the event's own file, or where people keep
+/// sounds while that is one of the game's.
+std::string frmCustomizeSounds::PickFile(const QString& Title) {
+  QString Begin = QFile::decodeName(QByteArray::fromStdString(ChosenFile()));
+  if (ChosenFile() == DefaultFile(lstEvents->currentRow())) {
+    Begin = QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
+    if (!QFileInfo(Begin).isDir()) Begin = QDir::homePath();
+  }
+  const QString Path = QFileDialog::getOpenFileName(this, Title, Begin, "Wav Files (*.wav)");
+  return Path.isEmpty() ? NothingPicked : QFile::encodeName(Path).toStdString();
+}
+
+void frmCustomizeSounds::cmdTest_Click() { desktop.PlaySoundFile(ChosenFile(), true); }
 
 void frmCustomizeSounds::cmdOK_Click() {
   const WrittenTogether Save = settings.WriteTogether();
@@ -142,12 +142,9 @@ bool frmCustomizeSounds::eventFilter(QObject* Watched, QEvent* Event) {
 
 void frmCustomizeSounds::Form_KeyUp(std::int16_t KeyCode) {
   if (KeyCode != Backspace) return;
-  for (std::size_t i = 0; i < SoundEvents.size(); ++i) {
-    const QByteArray Name = QFile::encodeName(GameSettings::DefaultSoundFile(SoundEvents[i].Name));
-    EventFile[i] = game.m.TempFolder + Name.toStdString();
-  }
+  for (std::size_t i = 0; i < SoundEvents.size(); ++i) EventFile[i] = DefaultFile(static_cast<int>(i));
   lstEvents_Click();
-  game.desktop.MessageBox("Original Sounds Restored.");
+  desktop.MessageBox("Original Sounds Restored.");
 }
 
 }  // namespace blunko

@@ -1,10 +1,9 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <string>
 
-#include "engine/Game.h"
+#include "engine/Desktop.h"
 #include "storage/GameSettings.h"
 #include "widgets/ButtonPlus.h"
 #include "widgets/PlacedDialog.h"
@@ -20,11 +19,8 @@ class frmCustomizeSounds : public PlacedDialog {
   Q_OBJECT
 
  public:
-  frmCustomizeSounds(Game& Table, GameSettings& Options, QWidget* Owner);
-
-  /// Asks for a wave file: the path chosen, or `NothingPicked`. It can be replaced where nobody is there to answer.
-  std::function<QString(const QString& Title)> PickFile;
-  static inline const QString NothingPicked = QStringLiteral("¤¤¤");
+  /// The file that is picked passes through `FormMessage`.
+  frmCustomizeSounds(std::string& FormMessage, GameSettings& Options, Desktop& Screen, QWidget* Owner);
 
   QListWidget* lstEvents;
   QLineEdit* txtSound;
@@ -37,17 +33,21 @@ class frmCustomizeSounds : public PlacedDialog {
   bool eventFilter(QObject* Watched, QEvent* Event) override;
 
  private:
-  void Build();
+  void BuildControls();
+  void LayOut();
   void Form_Load();
+  std::string PickFile(const QString& Title);
   void lstEvents_Click();
   void cmdBrowse_Click();
   void cmdTest_Click();
   void cmdOK_Click();
   void Form_KeyUp(std::int16_t KeyCode);
+  std::string DefaultFile(int Index) const;
   std::string& ChosenFile();
 
-  Game& game;
+  std::string& message;
   GameSettings& settings;
+  Desktop& desktop;
   std::array<std::string, SoundEvents.size()> EventFile;  ///< in the order of the list
 };
 

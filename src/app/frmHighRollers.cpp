@@ -1,13 +1,12 @@
 #include "app/frmHighRollers.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
 #include "storage/NameRule.h"
 #include "widgets/Colours.h"
-#include "widgets/Fonts.h"
+#include "widgets/FormBuilder.h"
 
 namespace blunko {
 
@@ -24,31 +23,30 @@ const QColor Navy(0, 0, 128);
 
 frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Main)
     : PlacedDialog(Main), rollers(Lists), desktop(Screen), frmMain(Main) {
-  setObjectName(QStringLiteral("frmHighRollers"));
-  setWindowTitle(QStringLiteral("Tollmoor Blunko - High Rollers"));
+  setObjectName("frmHighRollers");
+  setWindowTitle("Tollmoor Blunko - High Rollers");
   setWindowIcon(frmMain->windowIcon());
-  QPalette Colours = palette();
-  Colours.setColor(QPalette::Window, FormBlue);
-  Colours.setColor(QPalette::WindowText, Qt::yellow);
-  Colours.setColor(QPalette::Link, Qt::yellow);
-  setPalette(Colours);
-
-  Image1 = NewPicture("Image1", QStringLiteral(":/art/rollers_top.svg"));
-  Image2 = NewPicture("Image2", QStringLiteral(":/art/rollers_bottom.svg"));
-  lblHSTS = NewHeading("lblHSTS", QStringLiteral("Highest Single\nTurn Score:"));
-  lblBMoV = NewHeading("lblBMoV", QStringLiteral("Biggest Whoopin'\n(Margin of Victory)"));
-  txtHSTSList = NewList("txtHSTSList", QStringLiteral("Highest Single Turn Score"));
-  txtBMoVList = NewList("txtBMoVList", QStringLiteral("Biggest Whoopin' (Margin of Victory)"));
-  lblReset = new LinkLabel(QStringLiteral("Reset List"), this);
-  lblReset->setObjectName(QStringLiteral("lblReset"));
-  cmdOK = new ButtonPlus(QStringLiteral("OK"), this);
-  cmdOK->setObjectName(QStringLiteral("cmdOK"));
-  cmdOK->setMinimumWidth(110);
-  cmdOK->setAutoDefault(true);
-  cmdOK->setDefault(true);
+  SetColours(*this, {{QPalette::Window, FormBlue}, {QPalette::WindowText, Qt::yellow}, {QPalette::Link, Qt::yellow}});
+  Image1 = Make<SvgBox>(this, "Image1", ":/art/rollers_top.svg");
+  Image2 = Make<SvgBox>(this, "Image2", ":/art/rollers_bottom.svg");
+  const QFont Heading = FontOf(Typeface::Verdana, 9.75, true);
+  lblHSTS = MakeText(this, "lblHSTS", "Highest Single\nTurn Score:", Heading);
+  lblBMoV = MakeText(this, "lblBMoV", "Biggest Whoopin'\n(Margin of Victory)", Heading);
+  txtHSTSList = MakeList("txtHSTSList", "Highest Single Turn Score");
+  txtBMoVList = MakeList("txtBMoVList", "Biggest Whoopin' (Margin of Victory)");
+  lblReset = Make<LinkLabel>(this, "lblReset", "Reset List");
   connect(lblReset, &QPushButton::clicked, this, &frmHighRollers::lblReset_Click);
-  connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+  cmdOK = MakeButton(this, "cmdOK", "OK", &QDialog::accept);
+  cmdOK->setDefault(true);
+  ShowHighRollerLists();
+  FixButtonColours(*this);
+  LayOut();
+  cmdOK->setFocus();
+}
 
+void frmHighRollers::LayOut() {
+  for (SvgBox* Picture : {Image1, Image2}) Picture->setFixedSize(Picture->sizeHint());
+  cmdOK->setMinimumWidth(110);
   auto* Columns = new QGridLayout;
   Columns->setHorizontalSpacing(12);
   Columns->setVerticalSpacing(4);
@@ -67,41 +65,19 @@ frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Mai
   Outer->addWidget(Image2, 0, Qt::AlignHCenter);
   Outer->addLayout(Bottom);
   Outer->setSizeConstraint(QLayout::SetFixedSize);
-
-  ShowHighRollerLists();
-  FixButtonColours(*this);
-  cmdOK->setFocus();
 }
 
-QLabel* frmHighRollers::NewHeading(const char* Name, const QString& Caption) {
-  auto* Made = new QLabel(Caption, this);
-  Made->setObjectName(QLatin1String(Name));
-  Made->setFont(FontOf(Typeface::Verdana, 9.75, true));
-  Made->setAlignment(Qt::AlignCenter);
-  return Made;
-}
-
-QPlainTextEdit* frmHighRollers::NewList(const char* Name, const QString& Description) {
-  auto* Made = new QPlainTextEdit(this);
-  Made->setObjectName(QLatin1String(Name));
+QPlainTextEdit* frmHighRollers::MakeList(const QString& Name, const QString& Description) {
+  auto* Made = Make<QPlainTextEdit>(this, Name);
   Made->setAccessibleName(Description);
   Made->setReadOnly(true);
   Made->setTabChangesFocus(true);
+  Made->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   Made->setLineWrapMode(QPlainTextEdit::NoWrap);
   Made->setFont(FontOf(Typeface::CourierNew, ListPoints));
-  QPalette Colours = Made->palette();
-  Colours.setColor(QPalette::Base, Navy);
-  Colours.setColor(QPalette::Text, Qt::yellow);
-  Made->setPalette(Colours);
+  SetColours(*Made, {{QPalette::Base, Navy}, {QPalette::Text, Qt::yellow}});
   Made->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   Made->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  return Made;
-}
-
-SvgBox* frmHighRollers::NewPicture(const char* Name, const QString& Resource) {
-  auto* Made = new SvgBox(Resource, this);
-  Made->setObjectName(QLatin1String(Name));
-  Made->setFixedSize(Made->sizeHint());
   return Made;
 }
 

@@ -37,9 +37,8 @@ class frmHighRollers : public PlacedDialog {
   void Place() override;
 
  private:
-  QLabel* NewHeading(const char* Name, const QString& Caption);
-  QPlainTextEdit* NewList(const char* Name, const QString& Description);
-  SvgBox* NewPicture(const char* Name, const QString& Resource);
+  QPlainTextEdit* MakeList(const QString& Name, const QString& Description);
+  void LayOut();
   static void FillList(QPlainTextEdit* Box, const RollerList& List);
   void lblReset_Click();
 

@@ -5,14 +5,13 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include "storage/NameRule.h"
-#include "widgets/Fonts.h"
+#include "widgets/FormBuilder.h"
 #include "widgets/NameValidator.h"
 #include "widgets/Twips.h"
 
@@ -21,150 +20,144 @@ namespace blunko {
 namespace {
 
 constexpr int InnerWidth = 6000;                       // twips
+constexpr int Margin = 6, Gap = 3;                     // px
 constexpr int SeatGap = 2;                             // px, within the pitch
 constexpr int SmallestHeight = 3495, SeatPitch = 360;  // twips
 constexpr int OffsetLeft = 500, OffsetTop = 1550;      // twips, from the table's window
 
-const char* const CountWords[] = {"One", "Two", "Three", "Four", "Five", "Six", "Seven", "Eight"};
+/// A frame with a choice of radio buttons in it.
+template <std::size_t Count>
+QGroupBox* MakeChoice(QWidget* Form, const QString& Caption, std::array<QRadioButton*, Count>& Options,
+                      const QString& Name, const QStringList& Captions, int Columns) {
+  auto* Frame = new QGroupBox(Caption, Form);
+  auto* Places = new QGridLayout(Frame);
+  Places->setContentsMargins(0, 4, 0, 4);
+  Places->setHorizontalSpacing(0);
+  Places->setVerticalSpacing(2);
+  for (int i = 0; i < static_cast<int>(Count); ++i) {
+    Options[i] = Make<QRadioButton>(Frame, Name + QString::number(i), Captions[i]);
+    Places->addWidget(Options[i], i / Columns, i % Columns);
+  }
+  // As much as is there, where a style would ask for more.
+  const int Title = Frame->fontMetrics().horizontalAdvance(Caption) + 8;
+  Frame->setMinimumWidth(qMax(Title, Places->totalMinimumSize().width()));
+  return Frame;
+}
 
 }  // namespace
 
-frmNewGame::frmNewGame(Game& Table, const IniInfo& Info, const GameSettings& Options, QWidget* Main)
-    : PlacedDialog(Main), game(Table), info(Info), settings(Options), frmMain(Main) {
-  setObjectName(QStringLiteral("frmNewGame"));
-  setWindowTitle(QStringLiteral(" Start New Game - Tollmoor Blunko"));
+frmNewGame::frmNewGame(Desktop& Screen, const IniInfo& Info, const GameSettings& Options, QWidget* Main)
+    : PlacedDialog(Main), desktop(Screen), info(Info), settings(Options), frmMain(Main) {
+  setObjectName("frmNewGame");
+  setWindowTitle(" Start New Game - Tollmoor Blunko");
   setFont(FontOf(Typeface::Verdana, 8.25));
-  Build();
+  auto* Outer = new QVBoxLayout(this);
+  Outer->setContentsMargins(Margin, Margin, Margin, Margin);
+  Outer->setSpacing(Gap);
+  Outer->addLayout(BuildChoices());
+  Outer->addLayout(BuildSeats());
+  Outer->addStretch(1);
+  Outer->addLayout(BuildButtons());
+  FixButtonColours(*this);
 }
 
-void frmNewGame::Build() {
-  auto* Outer = new QVBoxLayout(this);
-  Outer->setContentsMargins(10, 8, 10, 10);
-  Outer->setSpacing(6);
-
-  const auto Frame = [this](const QString& Caption, auto& Options, auto Captions, int Columns) {
-    auto* Box = new QGroupBox(Caption, this);
-    auto* Grid = new QGridLayout(Box);
-    Grid->setContentsMargins(8, 4, 6, 4);
-    Grid->setVerticalSpacing(2);
-    for (int i = 0; i < static_cast<int>(Options.size()); ++i) {
-      Options[i] = new QRadioButton(Captions(i), Box);
-      Grid->addWidget(Options[i], i / Columns, i % Columns);
-    }
-    return Box;
-  };
+QLayout* frmNewGame::BuildChoices() {
   auto* Choices = new QHBoxLayout;
-  Choices->setSpacing(6);
-  Choices->addWidget(Frame(
-                         QStringLiteral("Number of Players:"), optNumPlayers,
-                         [](int i) { return QString::fromLatin1(CountWords[i]); }, 4),
+  Choices->setSpacing(Gap);
+  Choices->addWidget(MakeChoice(this, "Number of Players:", optNumPlayers, "optNumPlayers",
+                                {"One", "Two", "Three", "Four", "Five", "Six", "Seven", "Eight"}, 4),
                      1);
-  Choices->addWidget(Frame(
-      QStringLiteral("Play to:"), optPlayTo,
-      [](int i) { return i == 0 ? QStringLiteral("5000") : QStringLiteral("10000"); }, 1));
-  Choices->addWidget(Frame(
-      QStringLiteral("\"Break In\" Score:"), optBreakIn,
-      [](int i) { return i == 0 ? QStringLiteral("500") : QStringLiteral("1000"); }, 1));
-  Outer->addLayout(Choices);
-
-  auto* Seats = new QGridLayout;
-  Seats->setHorizontalSpacing(10);
-  Seats->setVerticalSpacing(SeatGap);
-  Seats->setColumnStretch(0, 1);
-  const auto Heading = [&](const QString& Caption, int Column) {
-    auto* Made = new QLabel(Caption, this);
-    QFont Bold = Made->font();
-    Bold.setBold(true);
-    Made->setFont(Bold);
-    Seats->addWidget(Made, 0, Column);
-  };
-  Heading(QStringLiteral("Name"), 0);
-  Heading(QStringLiteral("Computer Player?"), 1);
-  Heading(QStringLiteral("Computer Style"), 2);
+  Choices->addWidget(MakeChoice(this, "Play to:", optPlayTo, "optPlayTo", {"5000", "10000"}, 1));
+  Choices->addWidget(MakeChoice(this, "\"Break In\" Score:", optBreakIn, "optBreakIn", {"500", "1000"}, 1));
   for (int i = 0; i < MaxSeats; ++i) {
-    TxtPlayerName[i] = new QLineEdit(this);
-    TxtPlayerName[i]->setMaxLength(LongestName);
-    TxtPlayerName[i]->setValidator(new NameValidator(TxtPlayerName[i]));
-    TxtPlayerName[i]->setAccessibleName(QStringLiteral("Name of player %1").arg(i + 1));
-    TxtPlayerName[i]->installEventFilter(this);
-    chkComputer[i] = new QCheckBox(this);
-    chkComputer[i]->setAccessibleName(QStringLiteral("Player %1 is a computer").arg(i + 1));
-    cboStyle[i] = new QComboBox(this);
-    cboStyle[i]->setAccessibleName(QStringLiteral("Computer style of player %1").arg(i + 1));
-    for (const std::string_view Word : StyleWords) {
-      cboStyle[i]->addItem(QString::fromLatin1(Word.data(), static_cast<qsizetype>(Word.size())));
-    }
-    Seats->addWidget(TxtPlayerName[i], i + 1, 0);
-    Seats->addWidget(chkComputer[i], i + 1, 1, Qt::AlignCenter);
-    Seats->addWidget(cboStyle[i], i + 1, 2);
-    for (QWidget* Cell : {static_cast<QWidget*>(TxtPlayerName[i]), static_cast<QWidget*>(chkComputer[i]),
-                          static_cast<QWidget*>(cboStyle[i])}) {
-      Cell->setFixedHeight(Pixels(SeatPitch) - SeatGap);
-    }
-    connect(chkComputer[i], &QCheckBox::toggled, this, [this, i] { chkComputer_Click(i); });
     connect(optNumPlayers[i], &QRadioButton::toggled, this, [this, i](bool On) {
       if (On) optNumPlayers_Click(i);
     });
   }
-  Seats->setColumnMinimumWidth(2, cboStyle[0]->sizeHint().width());
-  Outer->addLayout(Seats);
-  Outer->addStretch(1);
-
-  cmdPlay = new ButtonPlus(QStringLiteral("Play !!!"), this);
-  cmdCancel = new ButtonPlus(QStringLiteral("Cancel"), this);
-  cmdSetDefault = new ButtonPlus(QStringLiteral("Save Game Setup as Default"), this);
-  cmdSetDefault->setToolTip(QStringLiteral(
-      " Click here to make Tollmoor Blunko always start with this game setup (same players and scoring options.) "));
-  cmdPlay->setDefault(true);
-  auto* Buttons = new QHBoxLayout;
-  Buttons->addWidget(cmdPlay, 1);
-  Buttons->addWidget(cmdCancel, 1);
-  Buttons->addWidget(cmdSetDefault, 2);
-  Outer->addLayout(Buttons);
-  connect(cmdPlay, &QPushButton::clicked, this, &QDialog::accept);
-  connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-  connect(cmdSetDefault, &QPushButton::clicked, this, &frmNewGame::cmdSetDefault_Click);
-
-  const std::pair<QWidget*, const char*> Names[] = {
-      {cmdPlay, "cmdPlay"}, {cmdCancel, "cmdCancel"}, {cmdSetDefault, "cmdSetDefault"}};
-  for (const auto& [Widget, Name] : Names) Widget->setObjectName(QLatin1String(Name));
-  for (int i = 0; i < MaxSeats; ++i) {
-    optNumPlayers[i]->setObjectName(QStringLiteral("optNumPlayers%1").arg(i));
-    TxtPlayerName[i]->setObjectName(QStringLiteral("TxtPlayerName%1").arg(i));
-    chkComputer[i]->setObjectName(QStringLiteral("chkComputer%1").arg(i));
-    cboStyle[i]->setObjectName(QStringLiteral("cboStyle%1").arg(i));
-  }
-  for (int i = 0; i < 2; ++i) {
-    optPlayTo[i]->setObjectName(QStringLiteral("optPlayTo%1").arg(i));
-    optBreakIn[i]->setObjectName(QStringLiteral("optBreakIn%1").arg(i));
-  }
-  FixButtonColours(*this);
+  return Choices;
 }
 
-void frmNewGame::ShowModal() {
-  const std::string Word = game.m.FormMessage;
-  if (Word == "SameGame" && lastGame) {
-    game.m.FormMessage.clear();
-    game.FreshGame(*lastGame);
-    return;
+QLayout* frmNewGame::BuildSeats() {
+  auto* Seats = new QGridLayout;
+  Seats->setHorizontalSpacing(8);
+  Seats->setVerticalSpacing(SeatGap);
+  Seats->setColumnStretch(0, 1);
+  const QString Headings[] = {"Name", "Computer Player?", "Computer Style"};
+  for (int Column = 0; Column < 3; ++Column) {
+    Seats->addWidget(
+        MakeText(this, {}, Headings[Column], FontOf(Typeface::Verdana, 8.25, true), Qt::AlignLeft | Qt::AlignBottom), 0,
+        Column);
   }
+  for (int i = 0; i < MaxSeats; ++i) {
+    BuildSeat(i);
+    const std::initializer_list<QWidget*> Row{TxtPlayerName[i], chkComputer[i], cboStyle[i]};
+    for (QWidget* Cell : Row) Cell->setFixedHeight(Pixels(SeatPitch) - SeatGap);
+    Seats->addWidget(TxtPlayerName[i], i + 1, 0);
+    Seats->addWidget(chkComputer[i], i + 1, 1, Qt::AlignCenter);
+    Seats->addWidget(cboStyle[i], i + 1, 2);
+  }
+  Seats->setColumnMinimumWidth(2, cboStyle[0]->sizeHint().width());
+  return Seats;
+}
+
+void frmNewGame::BuildSeat(int Index) {
+  const QString Number = QString::number(Index);
+  QLineEdit* Name = TxtPlayerName[Index] = Make<QLineEdit>(this, "TxtPlayerName" + Number);
+  Name->setMaxLength(LongestName);
+  Name->setValidator(new NameValidator(Name));
+  Name->installEventFilter(this);
+  chkComputer[Index] = Make<QCheckBox>(this, "chkComputer" + Number);
+  cboStyle[Index] = Make<QComboBox>(this, "cboStyle" + Number);
+  for (const std::string_view Word : StyleWords) {
+    cboStyle[Index]->addItem(QString::fromLatin1(Word.data(), static_cast<qsizetype>(Word.size())));
+  }
+  connect(Name, &QLineEdit::textChanged, this, [this, Index] { DescribeSeat(Index); });
+  connect(chkComputer[Index], &QCheckBox::toggled, this, [this, Index] { chkComputer_Click(Index); });
+  DescribeSeat(Index);
+}
+
+/// What a screen reader calls the three controls of a seat, whose headings it doesn't see: "Style of seat 3, Ann".
+void frmNewGame::DescribeSeat(int Index) {
+  const QString Seat = QStringLiteral("seat %1").arg(Index + 1), Name = TxtPlayerName[Index]->text();
+  const QString WithName = Name.isEmpty() ? Seat : Seat + ", " + Name;
+  TxtPlayerName[Index]->setAccessibleName("Name of " + Seat);
+  chkComputer[Index]->setAccessibleName("Computer player in " + WithName);
+  cboStyle[Index]->setAccessibleName("Style of " + WithName);
+}
+
+QLayout* frmNewGame::BuildButtons() {
+  cmdPlay = MakeButton(this, "cmdPlay", "Play !!!", &QDialog::accept);
+  cmdCancel = MakeButton(this, "cmdCancel", "Cancel", &QDialog::reject);
+  cmdSetDefault = MakeButton(this, "cmdSetDefault", "Save Game Setup as Default", &frmNewGame::cmdSetDefault_Click);
+  cmdSetDefault->setToolTip(
+      " Click here to make Tollmoor Blunko always start with this game setup (same players and scoring options.) ");
+  cmdPlay->setDefault(true);
+  auto* Buttons = new QHBoxLayout;
+  Buttons->setSpacing(Gap);
+  for (ButtonPlus* Button : {cmdPlay, cmdCancel, cmdSetDefault}) {
+    Button->setFont(font());
+    Buttons->addWidget(Button, Button == cmdSetDefault ? 2 : 1);
+  }
+  return Buttons;
+}
+
+std::optional<GameSetup> frmNewGame::ShowModal(std::string& FormMessage) {
+  const std::string Word = FormMessage;
+  const bool Restarts = Word == "SameGame" || Word == "RestartGame";
+  if (Restarts) FormMessage.clear();
+  if (Word == "SameGame" && lastGame) return lastGame;
   if (!loaded) Form_Load();
   Form_Activate();
-  if (Word == "SameGame" || Word == "RestartGame") {
-    game.m.FormMessage.clear();
-  } else if (exec() != QDialog::Accepted) {
-    game.t.cmdRoll.Enabled = false;
+  if (!Restarts && exec() != QDialog::Accepted) {
     Unload();
-    return;
+    return std::nullopt;
   }
-  if (game.m.Quitting) return;
-  lastGame = ShownSetup();
-  game.FreshGame(*lastGame);
+  return lastGame = ShownSetup();
 }
 
 void frmNewGame::Form_Load() {
   loaded = true;
-  game.desktop.Beep();
+  desktop.Beep();
   optNumPlayers[0]->setChecked(true);
   optNumPlayers_Click(0);
 }
@@ -242,10 +235,10 @@ void frmNewGame::cmdSetDefault_Click() {
   WriteSetup(ShownSetup(), info, settings);
   const QString Caption = cmdSetDefault->text();
   cmdSetDefault->setText(QStringLiteral("Saving..."));
-  game.desktop.Sleep(FeedbackTime);
+  desktop.Sleep(FeedbackTime);
   cmdSetDefault->setText(QStringLiteral("Done..."));
-  game.desktop.Beep();
-  game.desktop.Sleep(FeedbackTime);
+  desktop.Beep();
+  desktop.Sleep(FeedbackTime);
   cmdSetDefault->setText(Caption);
 }
 

@@ -3,13 +3,16 @@
 #include <array>
 #include <optional>
 
-#include "engine/Game.h"
+#include "engine/Desktop.h"
+#include "engine/GameSetup.h"
 #include "storage/SavedSetup.h"
 #include "widgets/ButtonPlus.h"
 #include "widgets/PlacedDialog.h"
 
 class QCheckBox;
 class QComboBox;
+class QGroupBox;
+class QLayout;
 class QLineEdit;
 class QRadioButton;
 
@@ -21,11 +24,12 @@ class frmNewGame : public PlacedDialog {
   Q_OBJECT
 
  public:
-  frmNewGame(Game& Table, const IniInfo& Info, const GameSettings& Options, QWidget* Main);
+  frmNewGame(Desktop& Screen, const IniInfo& Info, const GameSettings& Options, QWidget* Main);
 
-  /// Shows the dialog and waits; Play begins the game. A restart word in `FormMessage` begins it without waiting for
-  /// anybody: "SameGame" with the seats of the last game, "RestartGame" with the saved ones.
-  void ShowModal();
+  /// Shows the dialog and waits: the game that Play begins, nothing when the dialog is left. A restart word in
+  /// `FormMessage` is taken from there and begins one without waiting for anybody: "SameGame" with the seats of the
+  /// last game, "RestartGame" with the saved ones.
+  std::optional<GameSetup> ShowModal(std::string& FormMessage);
   /// Forgets what the controls hold, as closing the form does.
   void Unload() { loaded = false; }
 
@@ -44,7 +48,11 @@ class frmNewGame : public PlacedDialog {
   void Place() override;
 
  private:
-  void Build();
+  QLayout* BuildChoices();
+  QLayout* BuildSeats();
+  QLayout* BuildButtons();
+  void BuildSeat(int Index);
+  void DescribeSeat(int Index);
   void Form_Load();
   void Form_Activate();
   void optNumPlayers_Click(int Index);
@@ -53,7 +61,7 @@ class frmNewGame : public PlacedDialog {
   void FitHeight(int Index);
   GameSetup ShownSetup() const;
 
-  Game& game;
+  Desktop& desktop;
   const IniInfo& info;
   const GameSettings& settings;
   QWidget* frmMain;

@@ -1,13 +1,12 @@
 #include "app/frmViewHRListYN.h"
 
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include "app/HighRollersCheck.h"
 #include "storage/DayNumber.h"
 #include "storage/NameRule.h"
 #include "widgets/Colours.h"
-#include "widgets/Fonts.h"
+#include "widgets/FormBuilder.h"
 
 namespace blunko {
 
@@ -18,87 +17,50 @@ const QColor ButtonColour(159, 202, 255);
 
 }  // namespace
 
-frmViewHRListYN::frmViewHRListYN(Module1& State, Desktop& Screen, const IniInfo& Info, QWidget* Main)
-    : QDialog(Main), m(State), desktop(Screen), info(Info) {
-  setObjectName(QStringLiteral("frmViewHRListYN"));
-  setWindowTitle(QStringLiteral("Way to go !!!"));
+frmViewHRListYN::frmViewHRListYN(std::string& FormMessage, Desktop& Screen, const IniInfo& Info, QWidget* Main)
+    : PlacedDialog(Main), message(FormMessage), desktop(Screen), info(Info) {
+  setObjectName("frmViewHRListYN");
+  setWindowTitle("Way to go !!!");
   setWindowIcon(Main->windowIcon());
-  QPalette Colours = palette();
-  Colours.setColor(QPalette::Window, FormBlue);
-  Colours.setColor(QPalette::WindowText, Qt::black);
-  setPalette(Colours);
+  SetColours(*this, {{QPalette::Window, FormBlue}, {QPalette::WindowText, Qt::black}});
 
-  const QStringList Fields = QString::fromStdString(m.FormMessage).split(FieldSeparator);
-  const auto NewLabel = [this](const char* Name, const QString& Caption, const QFont& Font) {
-    auto* Made = new QLabel(this);
-    Made->setObjectName(QLatin1String(Name));
-    Made->setTextFormat(Qt::PlainText);
-    Made->setText(Caption);
-    Made->setFont(Font);
-    Made->setAlignment(Qt::AlignCenter);
-    return Made;
-  };
-  lblWayToGo = NewLabel("lblWayToGo", QStringLiteral("Great Job, ") + Fields.value(0) + QStringLiteral("!!!"),
-                        FontOf(Typeface::ComicSans, 15.75, true));
-  QPalette Greeting = lblWayToGo->palette();
-  Greeting.setColor(QPalette::WindowText, Qt::yellow);
-  lblWayToGo->setPalette(Greeting);
-  lblMessage = NewLabel(
-      "lblMessage",
-      PlaceMade(Fields.value(1), Fields.value(2)) + QStringLiteral("Would you like to view the high rollers list now?"),
-      FontOf(Typeface::Verdana, 9.75));
+  const QStringList Fields = QString::fromStdString(message).split(FieldSeparator);
+  lblWayToGo =
+      MakeText(this, "lblWayToGo", "Great Job, " + Fields.value(0) + "!!!", FontOf(Typeface::ComicSans, 15.75, true));
+  SetColours(*lblWayToGo, {{QPalette::WindowText, Qt::yellow}});
+  lblMessage =
+      MakeText(this, "lblMessage",
+               PlaceMade(Fields.value(1), Fields.value(2)) + "Would you like to view the high rollers list now?",
+               FontOf(Typeface::Verdana, 9.75));
   lblMessage->setWordWrap(true);
-  cmdYes = NewButton("cmdYes", QStringLiteral("Yes"), "Yes");
-  cmdNo = NewButton("cmdNo", QStringLiteral("No"), "No");
+  cmdYes = MakeButton(this, "cmdYes", "Yes", [this] { Leave("Yes"); });
+  cmdNo = MakeButton(this, "cmdNo", "No", [this] { Leave("No"); });
   cmdYes->setDefault(true);
-
-  lblCheck = new TickBox(this);
-  lblCheck->setObjectName(QStringLiteral("lblCheck"));
-  lblDontAsk = new WordButton(QStringLiteral("Don't ask me this again today."), this);
-  lblDontAsk->setObjectName(QStringLiteral("lblDontAsk"));
-  lblDontAsk->setFont(FontOf(Typeface::Verdana, 8.25));
-  lblDontAsk->setFocusPolicy(Qt::NoFocus);  // the box has it
-  lblCheck->setAccessibleName(lblDontAsk->text());
+  lblCheck = Make<TickBox>(this, "lblCheck");
+  lblDontAsk = MakeWordsOf(lblCheck, "lblDontAsk", "Don't ask me this again today.");
   connect(lblCheck, &QAbstractButton::clicked, this, &frmViewHRListYN::lblCheck_Click);
-  connect(lblDontAsk, &QPushButton::clicked, lblCheck, &QAbstractButton::click);
+  for (ButtonPlus* Button : {cmdYes, cmdNo}) Button->setBackColor(ButtonColour);
+  FixButtonColours(*this);
+  LayOut();
+  cmdYes->setFocus();
+}
 
-  auto* Buttons = new QHBoxLayout;
-  Buttons->setSpacing(16);
-  Buttons->addStretch(1);
-  Buttons->addWidget(cmdYes);
-  Buttons->addWidget(cmdNo);
-  Buttons->addStretch(1);
-  auto* Check = new QHBoxLayout;
-  Check->setSpacing(6);
-  Check->addStretch(1);
-  Check->addWidget(lblCheck);
-  Check->addWidget(lblDontAsk);
-  Check->addStretch(1);
+void frmViewHRListYN::LayOut() {
+  for (ButtonPlus* Button : {cmdYes, cmdNo}) Button->setMinimumWidth(100);
   auto* Outer = new QVBoxLayout(this);
   Outer->setContentsMargins(18, 14, 18, 12);
   Outer->setSpacing(12);
   Outer->addWidget(lblWayToGo);
   Outer->addWidget(lblMessage);
-  Outer->addLayout(Buttons);
-  Outer->addLayout(Check);
-  FixButtonColours(*this);
-
+  Outer->addLayout(CentredRow({cmdYes, cmdNo}, 16));
+  Outer->addLayout(CentredRow({lblCheck, lblDontAsk}, 6));
   const int Width = qMax(SmallestWidth, Outer->minimumSize().width());
   setFixedSize(Width, Outer->totalHeightForWidth(Width));
-  cmdYes->setFocus();
 }
 
-ButtonPlus* frmViewHRListYN::NewButton(const char* Name, const QString& Caption, const char* Word) {
-  auto* Made = new ButtonPlus(Caption, this);
-  Made->setObjectName(QLatin1String(Name));
-  Made->setBackColor(ButtonColour);
-  Made->setMinimumWidth(100);
-  Made->setAutoDefault(true);
-  connect(Made, &QPushButton::clicked, this, [this, Word] {
-    m.FormMessage = Word;
-    accept();
-  });
-  return Made;
+void frmViewHRListYN::Leave(const char* Word) {
+  message = Word;
+  accept();
 }
 
 void frmViewHRListYN::lblCheck_Click() {

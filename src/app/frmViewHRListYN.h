@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QDialog>
 #include <QLabel>
 
+#include <string>
+
 #include "engine/Desktop.h"
-#include "engine/Module1.h"
 #include "storage/IniInfo.h"
 #include "widgets/ButtonPlus.h"
+#include "widgets/PlacedDialog.h"
 #include "widgets/TickBox.h"
 #include "widgets/WordButton.h"
 
@@ -14,11 +15,11 @@ namespace blunko {
 
 /// Congratulates a person on a place in the high rollers lists, and asks whether to view them. `FormMessage` brings
 /// name, place and "turn" or "whoop", and takes "Yes" or "No"; closed without a button, the dialog leaves it as it was.
-class frmViewHRListYN : public QDialog {
+class frmViewHRListYN : public PlacedDialog {
   Q_OBJECT
 
  public:
-  frmViewHRListYN(Module1& State, Desktop& Screen, const IniInfo& Info, QWidget* Main);
+  frmViewHRListYN(std::string& FormMessage, Desktop& Screen, const IniInfo& Info, QWidget* Main);
 
   QLabel* lblWayToGo;
   QLabel* lblMessage;
@@ -28,10 +29,11 @@ class frmViewHRListYN : public QDialog {
   WordButton* lblDontAsk;
 
  private:
-  ButtonPlus* NewButton(const char* Name, const QString& Caption, const char* Word);
+  void LayOut();
+  void Leave(const char* Word);
   void lblCheck_Click();
 
-  Module1& m;
+  std::string& message;
   Desktop& desktop;
   const IniInfo& info;
 };

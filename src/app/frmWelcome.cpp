@@ -4,6 +4,7 @@
 
 #include "Links.h"
 #include "app/OpenInShell.h"
+#include "storage/GameSettings.h"
 #include "widgets/Boxes.h"
 #include "widgets/FormBuilder.h"
 #include "widgets/Pictures.h"
@@ -12,7 +13,6 @@ namespace blunko {
 
 namespace {
 
-const QString WelcomeKey = QStringLiteral("ShowWelcomeMessage");
 const QColor TipsColour(165, 205, 255);
 const QColor ExitColour(145, 195, 255);
 constexpr QSize ButtonSize(300, 36);  // px, at least
@@ -20,7 +20,7 @@ constexpr QSize ButtonSize(300, 36);  // px, at least
 }  // namespace
 
 frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
-    : QDialog(Main), info(Info), desktop(Screen) {
+    : PlacedDialog(Main), info(Info), desktop(Screen) {
   setObjectName("frmWelcome");
   setWindowTitle("How to Blunko");
   Label1 = MakeText(this, "Label1", ProductName, FontOf(Typeface::ComicSans, 24, true));
@@ -36,15 +36,10 @@ frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
   cmdExit->setBackColor(ExitColour);
   cmdExit->setDefault(true);
   lblCheck = Make<TickBox>(this, "lblCheck");
-  lblShowWelcome = Make<WordButton>(this, "lblShowWelcome", "Show this welcome window");
-  lblShowWelcome->setFont(FontOf(Typeface::Verdana, 8.25));
-  lblShowWelcome->setFocusPolicy(Qt::NoFocus);  // the box has it
-  lblShowWelcome->setForeColor(palette().color(QPalette::WindowText));
-  lblCheck->setAccessibleName(lblShowWelcome->text());
-  const QString Stored = info.ReadInfoValue(WelcomeKey);
+  lblShowWelcome = MakeWordsOf(lblCheck, "lblShowWelcome", "Show this welcome window");
+  const QString Stored = info.ReadInfoValue(ShowWelcomeMessageKey);
   lblCheck->setChecked(Stored.isEmpty() || Stored == QLatin1String("1"));
   connect(lblCheck, &QAbstractButton::clicked, this, &frmWelcome::lblCheck_Click);
-  connect(lblShowWelcome, &QPushButton::clicked, lblCheck, &QAbstractButton::click);
   FixButtonColours(*this);
   LayOut();
   cmdExit->setFocus();
@@ -52,7 +47,7 @@ frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
 
 void frmWelcome::LayOut() {
   auto* Column = new QVBoxLayout(this);
-  Column->setContentsMargins(24, 14, 24, 14);
+  Column->setContentsMargins(14, 14, 14, 14);  // no wider than the table
   Column->setSpacing(6);
   auto* Dice = new SvgBox(":/art/welcome.svg", this);
   Dice->setFixedSize(Dice->sizeHint());
@@ -75,18 +70,18 @@ void frmWelcome::LayOut() {
 /// The box has changed by a click on it or on its label.
 void frmWelcome::lblCheck_Click() {
   desktop.Beep();
-  info.WriteInfoValue(WelcomeKey, lblCheck->isChecked() ? QStringLiteral("1") : QStringLiteral("0"));
+  info.WriteInfoValue(ShowWelcomeMessageKey, lblCheck->isChecked() ? QStringLiteral("1") : QStringLiteral("0"));
   if (!lblCheck->isChecked()) WelcomeSwitchedOff = true;
 }
 
 /// Whichever way the dialog closes.
 void frmWelcome::done(int Result) {
-  if (WelcomeSwitchedOff && info.ReadInfoValue(WelcomeKey) == QLatin1String("0")) {
+  if (WelcomeSwitchedOff && info.ReadInfoValue(ShowWelcomeMessageKey) == QLatin1String("0")) {
     desktop.MessageBox(
         "This Welcome Window will no longer be displayed when Tollmoor Blunko starts up.\n"
         "If you want to view it again, just click on \"Help, How to Play\" from the main menu.");
   }
-  QDialog::done(Result);
+  PlacedDialog::done(Result);
 }
 
 }  // namespace blunko

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QDialog>
 #include <QLabel>
 
 #include "engine/Desktop.h"
 #include "storage/IniInfo.h"
 #include "widgets/ButtonPlus.h"
+#include "widgets/PlacedDialog.h"
 #include "widgets/TickBox.h"
 #include "widgets/WordButton.h"
 
@@ -13,7 +13,7 @@ namespace blunko {
 
 /// Greets the player when the table first comes up: help topics, the maker's web site, and the box that switches the
 /// greeting off. The box writes to the info file at once; the settings of this run don't hear of it.
-class frmWelcome : public QDialog {
+class frmWelcome : public PlacedDialog {
   Q_OBJECT
 
  public:

@@ -12,7 +12,6 @@ namespace blunko {
 namespace {
 
 const QString ScannedKey = QStringLiteral("Scanned");
-const QString ShowWelcomeMessageKey = QStringLiteral("ShowWelcomeMessage");
 const QString DieColorKey = QStringLiteral("DieColor");
 const QString TextColorKey = QStringLiteral("TextColor");
 const QString BackgroundKey = QStringLiteral("Background");
@@ -132,9 +131,9 @@ QString GameSettings::DefaultBackground() const {
   return folders.Shipped(QStringLiteral("Background")) + QStringLiteral("/Satin.jpg");
 }
 
-QString GameSettings::DefaultSoundFile(std::string_view p_sound_name) {
+std::string GameSettings::DefaultSound(std::string_view p_sound_name) const {
   const SoundEvent* Event = FindEvent(p_sound_name);
-  return Event == nullptr ? QString() : QString::fromLatin1(Event->File);
+  return Event == nullptr ? "" : QFile::encodeName(folders.Temp + QString::fromLatin1(Event->File)).toStdString();
 }
 
 void GameSettings::LoadSettings() {
@@ -147,8 +146,8 @@ void GameSettings::LoadSettings() {
 
 void GameSettings::LoadSounds() {
   for (std::size_t i = 0; i < SoundEvents.size(); ++i) {
-    const QString Default = folders.Temp + QString::fromLatin1(SoundEvents[i].File);
-    SoundFile[i] = OwnInfo.ReadInfoPath(KeyOfSound(SoundEvents[i].Name), QFile::encodeName(Default)).toStdString();
+    const QByteArray Default = QByteArray::fromStdString(DefaultSound(SoundEvents[i].Name));
+    SoundFile[i] = OwnInfo.ReadInfoPath(KeyOfSound(SoundEvents[i].Name), Default).toStdString();
   }
   soundDisabled = ReadFlag(SoundFXOFFKey, false);
 }

@@ -16,6 +16,9 @@ namespace blunko {
 /// Colours are 0xBBGGRR. Value of an entry of the list of text colours; black for any other index.
 std::uint32_t ColourOfIndex(int Index);
 
+/// Info file key of `ShowWelcome`; the welcome dialog writes it for the next start.
+inline const QString ShowWelcomeMessageKey = QStringLiteral("ShowWelcomeMessage");
+
 /// "No picture", as the info file writes it.
 inline const QString NoBackground = QStringLiteral("(None)");
 
@@ -64,7 +67,7 @@ class GameSettings {
   /// The default background: the picture "Satin.jpg" of the shipped ones.
   QString DefaultBackground() const;
   /// The wave file that an event has by default, in the temporary folder.
-  static QString DefaultSoundFile(std::string_view p_sound_name);
+  std::string DefaultSound(std::string_view p_sound_name) const;
 
  private:
   void LoadSettings();

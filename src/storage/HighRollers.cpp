@@ -106,7 +106,7 @@ void HighRollers::LoadHighRollers() {
 
 void HighRollers::ResetHighRollers() {
   const FileLock Lock(path);
-  if (Lock.IsHeld() && MakeRoom(CatchUp()) && utilStoreLists(ScrambleText(RollerLists::Default().Text())))
+  if (Lock.IsHeld() && MakeRoom(CatchUp()) && store.UtilStoreLists(ScrambleText(RollerLists::Default().Text())))
     unsaved.clear();
 }
 
@@ -139,7 +139,7 @@ bool HighRollers::MakeRoom(FileState State) const {
 }
 
 void HighRollers::SaveHighRollers() {
-  if (utilStoreLists(ScrambleText(lists.Text()))) unsaved.clear();
+  if (store.UtilStoreLists(ScrambleText(lists.Text()))) unsaved.clear();
 }
 
 }  // namespace blunko

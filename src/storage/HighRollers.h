@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -48,14 +47,20 @@ using WhichList = RollerList RollerLists::*;
 QByteArray ScrambleText(QByteArray Text);
 QByteArray UnscrambleText(QByteArray Text);
 
+/// Where the file's text goes.
+class ListStore {
+ public:
+  virtual ~ListStore() = default;
+
+  /// Puts a scrambled text in place of the file; false if the old one is still there.
+  virtual bool UtilStoreLists(const QByteArray& Text) const = 0;
+};
+
 /// The lists of a run and their file. What another running copy of the program saves is taken over, never lost.
 /// Failures are silent: an entry that couldn't be saved stays in the lists for the run, and the next save carries it.
 class HighRollers {
  public:
-  /// Puts a scrambled text in place of the file; false if the old one is still there.
-  using Writer = std::function<bool(const QByteArray& Text)>;
-
-  HighRollers(QString Path, Writer UtilStoreLists) : path(std::move(Path)), utilStoreLists(std::move(UtilStoreLists)) {}
+  HighRollers(QString Path, const ListStore& Store) : path(std::move(Path)), store(Store) {}
 
   /// Reads the file. A missing one is written anew with the default lists; a damaged one is set aside under another
   /// name, reported on standard error, and then counts as missing. One that can't be read may be good: it stays, and
@@ -76,7 +81,7 @@ class HighRollers {
   void SaveHighRollers();
 
   QString path;
-  Writer utilStoreLists;
+  const ListStore& store;
   RollerLists lists = RollerLists::Default();
   std::vector<std::pair<WhichList, HighRoller>> unsaved{};  ///< entries of `lists` that the file hasn't taken yet
 };

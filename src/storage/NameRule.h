@@ -18,13 +18,8 @@ constexpr bool IsNameLetter(QChar Letter) {
          (Code >= 0xA0 && Code < 0xFF && Letter != FieldSeparator && Letter != QChar::SoftHyphen);
 }
 
-/// The text without the letters that a name can't hold.
-inline QString HeldToNameRule(const QString& Text) {
-  QString Held;
-  for (const QChar Letter : Text) {
-    if (IsNameLetter(Letter)) Held += Letter;
-  }
-  return Held;
-}
+/// The text as a name can hold it: other letters are folded to their base letters ("Łukasz" to "Lukasz"), and left out
+/// where they have none.
+QString HeldToNameRule(const QString& Text);
 
 }  // namespace blunko

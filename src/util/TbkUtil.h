@@ -3,10 +3,12 @@
 #include <QByteArray>
 #include <QString>
 
+#include "storage/HighRollers.h"
+
 namespace blunko {
 
 /// What the program asks of its utility library besides random numbers.
-class TbkUtil {
+class TbkUtil : public ListStore {
  public:
   /// `VersionAddress`: where a text "major.minor.revision" names the newest version. `TimeLimit` in ms.
   explicit TbkUtil(QString VersionAddress, int TimeLimit = 5000);
@@ -24,7 +26,7 @@ class TbkUtil {
 
   /// Puts exactly these bytes in place of "highscores.dat": at any moment it holds the old or the new ones, whole.
   /// False if the old ones are still there.
-  bool UtilStoreLists(const QByteArray& Text) const;
+  bool UtilStoreLists(const QByteArray& Text) const override;
 
  private:
   bool Store(const QString& Name, const QByteArray& Bytes) const;

@@ -9,6 +9,8 @@
 
 #include "widgets/ButtonPlus.h"
 #include "widgets/Fonts.h"
+#include "widgets/TickBox.h"
+#include "widgets/WordButton.h"
 
 namespace blunko {
 
@@ -53,6 +55,17 @@ ButtonPlus* MakeButton(Form* Parent, const QString& Name, const QString& Caption
 /// What a screen reader calls the widget. It hears of it only when it changes.
 inline void SetName(QWidget& Widget, const QString& Name) {
   if (Widget.accessibleName() != Name) Widget.setAccessibleName(Name);
+}
+
+/// The words beside a tick box: a click on them is one on the box, which takes the focus for both.
+inline WordButton* MakeWordsOf(TickBox* Box, const QString& Name, const QString& Caption) {
+  auto* Made = Make<WordButton>(Box->parentWidget(), Name, Caption);
+  Made->setFont(FontOf(Typeface::Verdana, 8.25));
+  Made->setFocusPolicy(Qt::NoFocus);
+  Made->setForeColor(Made->palette().color(QPalette::WindowText));
+  Box->setAccessibleName(Caption);
+  QObject::connect(Made, &QPushButton::clicked, Box, &QAbstractButton::click);
+  return Made;
 }
 
 /// Changes colours of a widget, and of what inherits them.

@@ -6,14 +6,15 @@
 
 namespace blunko {
 
-/// Lets only names in that the game's files can carry; from a pasted text the other letters are left out.
+/// Lets only names in that the game's files can carry; the other letters of a pasted text are folded to them or left
+/// out.
 class NameValidator : public QValidator {
  public:
   using QValidator::QValidator;
 
   State validate(QString& Text, int& Cursor) const override {
-    const QString Before = HeldToNameRule(Text.left(Cursor));
-    Text = HeldToNameRule(Text);
+    const QString Before = HeldToNameRule(Text.left(Cursor)).left(LongestName);
+    Text = HeldToNameRule(Text).left(LongestName);
     Cursor = static_cast<int>(Before.size());
     return Acceptable;
   }

@@ -1,3 +1,4 @@
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
 
@@ -7,20 +8,6 @@
 namespace blunko::test {
 namespace {
 
-const struct {
-  const char *Event, *Caption, *File;
-} Rows[] = {
-    {"Blunko", "Blunko", "bust.wav"},
-    {"GameOver", "Game Over", "gameover.wav"},
-    {"MoveDie", "Move Dice", "moveit.wav"},
-    {"Passem1", "Pass Dice (w/ points)", "passem1.wav"},
-    {"Passem2", "Pass Dice (w/o points)", "passem2.wav"},
-    {"MultiDie", "Roll Multiple Dice", "33d.wav"},
-    {"OneDie", "Roll One Die", "11d.wav"},
-    {"Undo", "Undo", "undo.wav"},
-};
-constexpr int Undo = 7;
-
 class CustomizeSounds : public testing::Test {
  protected:
   QTemporaryDir Place;
@@ -28,75 +15,87 @@ class CustomizeSounds : public testing::Test {
   GameSettings Settings{Where};
   Table Game;
   QWidget Owner;
-  frmCustomizeSounds Form{Game.game, Settings, &Owner};
-  QString Answer = QStringLiteral("/own/x.wav"), Title;
+  frmCustomizeSounds Form{Game.m.FormMessage, Settings, Game.Screen, &Owner};
+  Answers Next;
+  QString Own = Place.filePath(QStringLiteral("own.wav"));
 
   CustomizeSounds() {
-    Game.m.TempFolder = Where.Temp.toStdString();
-    Form.PickFile = [this](const QString& Asked) {
-      Title = Asked;
-      return Answer;
-    };
+    Put(Own, {});
     Form.show();
   }
-  std::string Original(int Index) const { return Game.m.TempFolder + Rows[Index].File; }
-  std::string Stored(int Index) const { return GameSettings(Where).GetSound(Rows[Index].Event); }
+  /// The file dialog comes next: it's left with this file, or none.
+  void Pick(const QString& File, std::string* Begins = nullptr) {
+    Next.Expect<QFileDialog>([=](QFileDialog& Dialog) {
+      if (Begins != nullptr) *Begins = Dialog.directory().path().toStdString();
+      auto* Line = Dialog.findChild<QLineEdit*>();
+      Line->setText(File);
+      QTest::keyClick(Line, File.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
+    });
+  }
+  std::string Stored(std::size_t i) const { return GameSettings(Where).GetSound(SoundEvents[i].Name); }
 };
 
-TEST_F(CustomizeSounds, EveryEntryOfTheListIsItsEventAndOKWritesAll) {
-  ASSERT_EQ(Form.lstEvents->count(), static_cast<int>(std::size(Rows)));
-  EXPECT_EQ(Form.lstEvents->currentRow(), 0);
-  for (int i = 0; i < Form.lstEvents->count(); ++i) {
-    SCOPED_TRACE(Rows[i].Event);
-    EXPECT_EQ(Form.lstEvents->item(i)->text(), QLatin1String(Rows[i].Caption));
-    Form.lstEvents->setCurrentRow(i);
-    EXPECT_EQ(Form.txtSound->text(), QLatin1String(Rows[i].File));
-    Click(Form.cmdTest);
-    EXPECT_EQ(Game.TakeLog(), Lines{"test sound " + Original(i)});
-    Answer = QStringLiteral("/own music/%1 ü.wav").arg(i);
-    Click(Form.cmdBrowse);
-    EXPECT_EQ(Title, QStringLiteral("Select \"%1\" sound").arg(QLatin1String(Rows[i].Caption)));
-    EXPECT_EQ(Form.txtSound->text(), QStringLiteral("%1 ü.wav").arg(i));
-  }
+TEST_F(CustomizeSounds, EveryEntryOfTheListIsItsEventAndOKAloneWritesAll) {
   for (ButtonPlus* Button : {Form.cmdCancel, Form.cmdOK}) {
     Form.show();
+    for (std::size_t i = 0; i < SoundEvents.size(); ++i) {
+      SCOPED_TRACE(SoundEvents[i].Name);
+      Form.lstEvents->setCurrentRow(static_cast<int>(i));
+      EXPECT_EQ(Form.txtSound->text(), QLatin1String(Button == Form.cmdCancel ? SoundEvents[i].File : "own.wav"));
+      Pick(Own);
+      Click(Form.cmdBrowse);
+      EXPECT_EQ(Next.Seen.back(), std::string("Select \"") + SoundEvents[i].Caption + "\" sound");
+      EXPECT_EQ(Form.txtSound->text(), QStringLiteral("own.wav"));
+      Click(Form.cmdTest);
+      EXPECT_EQ(Game.TakeLog(), Lines{"test sound " + Own.toStdString()});
+    }
     Click(Button);
     EXPECT_FALSE(Form.isVisible());
-    for (int i = 0; i < Form.lstEvents->count(); ++i) {
-      const std::string Own = "/own music/" + std::to_string(i) + " ü.wav";
-      EXPECT_EQ(Settings.GetSound(Rows[i].Event), Button == Form.cmdOK ? Own : Original(i));
-      EXPECT_EQ(Stored(i), Button == Form.cmdOK ? Own : Original(i));
-    }
+    for (std::size_t i = 0; i < SoundEvents.size(); ++i)
+      EXPECT_EQ(Stored(i) == Own.toStdString(), Button == Form.cmdOK);
   }
 }
 
-TEST_F(CustomizeSounds, ADoubleClickBrowsesAndACancelledChoiceChangesNothing) {
-  Answer = frmCustomizeSounds::NothingPicked;
-  const QPoint Row = Form.lstEvents->visualItemRect(Form.lstEvents->item(Undo)).center();
+TEST_F(CustomizeSounds, BrowsingBeginsWhereSoundsAreKeptAndACancelledChoiceChangesNothing) {
+  qputenv("HOME", QFile::encodeName(Place.path()));
+  const QPoint Row = Form.lstEvents->visualItemRect(Form.lstEvents->item(2)).center();
   QTest::mouseClick(Form.lstEvents->viewport(), Qt::LeftButton, {}, Row);
+  std::string Home, Beside;
+  Pick({}, &Home);
   QTest::mouseDClick(Form.lstEvents->viewport(), Qt::LeftButton, {}, Row);
-  EXPECT_EQ(Title, QLatin1String("Select \"Undo\" sound"));
-  EXPECT_EQ(Form.txtSound->text(), QLatin1String("undo.wav"));
+  EXPECT_EQ(Home, Place.path().toStdString()) << "the default's folder is no place for people";
+  EXPECT_EQ(Form.txtSound->text(), QLatin1String(SoundEvents[2].File));
+  QDir(Place.path()).mkdir(QStringLiteral("mine"));
+  Own = Place.filePath(QStringLiteral("mine/a.wav"));
+  Put(Own, {});
+  Pick(Own);
+  Click(Form.cmdBrowse);
+  Pick({}, &Beside);
+  Click(Form.cmdBrowse);
+  EXPECT_EQ(Beside, Place.filePath(QStringLiteral("mine")).toStdString());
+  EXPECT_EQ(Form.txtSound->text(), QLatin1String("a.wav"));
 }
 
 TEST_F(CustomizeSounds, BackspaceRestoresWhereverTheCursorIsAndOKAloneStoresIt) {
+  constexpr int Undo = 7;
   Settings.SetSound("Undo", "/own/before.wav");
   QWidget* const Places[] = {Form.lstEvents, Form.txtSound, Form.cmdBrowse, Form.cmdTest, Form.cmdOK, Form.cmdCancel};
   for (QWidget* Focus : Places) {
     SCOPED_TRACE(Focus->objectName().toStdString());
     Form.lstEvents->setCurrentRow(Undo);
+    Pick(Own);
     Click(Form.cmdBrowse);
     Focus->setFocus();
     for (const auto Other : {Qt::Key_Delete, Qt::Key_A, Qt::Key_8}) QTest::keyClick(Focus, Other);
     Form.lstEvents->setCurrentRow(Undo);
-    EXPECT_EQ(Form.txtSound->text(), QLatin1String("x.wav"));
+    EXPECT_EQ(Form.txtSound->text(), QStringLiteral("own.wav"));
     QTest::keyClick(Focus, Qt::Key_Backspace);
     EXPECT_EQ(Form.txtSound->text(), QLatin1String("undo.wav"));
     EXPECT_EQ(Game.TakeLog(), Lines{"box Original Sounds Restored."});
   }
   EXPECT_EQ(Stored(Undo), "/own/before.wav");
   Click(Form.cmdOK);
-  EXPECT_EQ(Stored(Undo), Original(Undo));
+  EXPECT_EQ(Stored(Undo), (Where.Temp + QStringLiteral("undo.wav")).toStdString());
 }
 
 TEST_F(TheProgram, SwitchedOffNothingSoundsButTheTestDoes) {

@@ -4,13 +4,12 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
+#include <sstream>
+
 #include "tests/app/Run.h"
 
 namespace blunko::test {
 namespace {
-
-/// Text of the info file, with a bar for the byte that parts the fields.
-QByteArray Fields(const QByteArray& Text) { return QByteArray(Text).replace('|', '\xA4'); }
 
 class NewGame : public testing::Test {
  protected:
@@ -19,16 +18,16 @@ class NewGame : public testing::Test {
   GameSettings Settings{FoldersIn(Place)};
   Table Game;
   QWidget Main;
-  frmNewGame Form{Game.game, Info, Settings, &Main};
+  frmNewGame Form{Game.Screen, Info, Settings, &Main};
   Answers Next;
 
   /// Opens the dialog, does something in it, and closes it if that hasn't.
-  void Open(const std::function<void()>& Do) {
+  std::optional<GameSetup> Open(const std::function<void()>& Do) {
     Next.Expect<frmNewGame>([&](frmNewGame&) {
       Do();
       Form.close();
     });
-    Form.ShowModal();
+    return Form.ShowModal(Game.m.FormMessage);
   }
   void Choose(int Players) { Form.optNumPlayers[static_cast<std::size_t>(Players - 1)]->click(); }
   void Seat(std::size_t i, const char* Name, int Style = -1) {
@@ -52,18 +51,27 @@ class NewGame : public testing::Test {
     }
     return All;
   }
-  std::string Limits() const {
-    return std::string(Form.optPlayTo[0]->isChecked() ? "5000" : "10000") +
+  std::string Shown() const {
+    return Rows() + (Form.optPlayTo[0]->isChecked() ? " 5000" : " 10000") +
            (Form.optBreakIn[0]->isChecked() ? " 500" : " 1000");
   }
-  std::string Begun() const {
-    return std::to_string(Game.m.NumPlayers) + ' ' + Game.m.PlayerName[0] + ' ' + std::to_string(Game.m.PlayToScore);
+  /// Number of players, scores, and the seats that play.
+  static std::string Told(const std::optional<GameSetup>& Chosen) {
+    if (!Chosen) return "nothing";
+    std::ostringstream All;
+    All << int{Chosen->NumPlayers} << ' ' << Chosen->PlayToScore << ' ' << Chosen->BreakInScore;
+    for (int i = 0; i < qMax<int>(2, Chosen->NumPlayers); ++i) {
+      const GameSetup::Seat& Seat = Chosen->Seats[i];
+      All << (i == 0 ? " " : ", ") << Seat.Name;
+      if (Seat.IsComputer) All << " *" << StyleWords.at(Seat.Style - 1U);
+    }
+    return All.str();
   }
 };
 
 TEST_F(NewGame, EveryNumberOfPlayersHasItsLayout) {
   Open([&] {
-    EXPECT_EQ(Rows() + ' ' + Limits(), "Player1, [Computer] *Normal 5000 500");
+    EXPECT_EQ(Shown(), "Player1, [Computer] *Normal 5000 500");
     EXPECT_EQ(Form.focusWidget(), Form.cmdPlay);
     EXPECT_EQ(Game.TakeLog(), Lines{"beep"});
     for (int n : {8, 1, 2, 3, 4, 5, 6, 7, 8}) {
@@ -75,23 +83,23 @@ TEST_F(NewGame, EveryNumberOfPlayersHasItsLayout) {
       EXPECT_EQ(Rows(), Expected);
       EXPECT_EQ(Form.cboStyle[0]->currentText(), QLatin1String("Normal"));
       QTest::qWait(0);
-      ExpectNothingCut(Form);
+      ExpectUsable(Form);
+      EXPECT_EQ(Form.size(), QSize(400, 233 + 24 * qMax(0, n - 2)));
     }
   });
 }
 
-TEST_F(NewGame, SaveWritesWhatIsShownToTheLetter) {
-  using Seats = std::vector<std::tuple<std::size_t, const char*, int>>;  // seat, name, list index of a computer or -1
-  const auto Check = [this](int Count, const Seats& Chosen, const QByteArray& Names, const QByteArray& Computers,
-                            const QByteArray& Styles) {
+TEST_F(NewGame, SavesWhatIsShownAndOpensWithIt) {
+  for (const int Count : {1, 3, 8}) {
     SCOPED_TRACE(Count);
-    const QByteArray Unused = QByteArray("~|").repeated(8 - Count);
     std::string Expected;
     Open([&] {
       Choose(Count);
-      for (const auto& [Index, Name, Style] : Chosen) Seat(Index, Name, Style);
-      for (const auto& Options : {Form.optPlayTo, Form.optBreakIn}) Options[Count % 2 == 0 ? 1 : 0]->click();
-      Expected = Rows() + ' ' + Limits();
+      for (const auto& Options : {Form.optPlayTo, Form.optBreakIn}) Options[Count == 3 ? 1 : 0]->click();
+      Seat(0, "Zoë; ~", Count == 8 ? 4 : -1);
+      if (Count > 1) Seat(1, "", 5);
+      Form.cboStyle[1]->setCurrentIndex(6);
+      Expected = Shown();
       Lines Captions;
       Game.Screen.OnSleep = [&] { Captions.push_back(Form.cmdSetDefault->text().toStdString()); };
       Game.TakeLog();
@@ -100,97 +108,55 @@ TEST_F(NewGame, SaveWritesWhatIsShownToTheLetter) {
       EXPECT_EQ(Form.cmdSetDefault->text(), QLatin1String("Save Game Setup as Default"));
       EXPECT_EQ(Game.TakeLog(), (Lines{"sleep 400", "beep", "sleep 400"}));
     });
-    const QByteArray Written = BytesOf(Info.InfoPath);
-    for (const QByteArray& Line :
-         {"defNumPlayers=" + QByteArray::number(Count), "defPlayerNameString=" + Names + Unused,
-          "defPlayerIsCompString=" + Computers + Unused, "defPlayerStyleString=" + Styles}) {
-      EXPECT_TRUE(Written.contains(Fields(Line) + '\n')) << Written.toStdString();
-    }
-    if (Names.contains('~')) return;  // a name that is the mark of an unused seat
-    Open([&] { EXPECT_EQ(Rows() + ' ' + Limits(), Expected); });
-  };
-  Check(3, {{0, "Ann", -1}, {1, "Box", 5}, {2, "Zoë", -1}}, "Ann|Box|Zo\xEB|", "False|True|False|",
-        "00|5|22|33|44|55|66|77|");
-  Check(1, {{1, "Computer", 6}}, "Player1|", "False|", "00|6|22|33|44|55|66|77|");
-  Check(8, {{0, "", 0}, {1, "", 1}, {2, "", 2}, {3, "", 3}, {4, "", 4}, {5, "", 5}, {6, "", 6}, {7, "", 1}}, "||||||||",
-        QByteArray("True|").repeated(8), "0|1|2|3|4|5|6|1|");
-  Check(2, {{0, "a;b", -1}, {1, "~", -1}}, "a;b|~|", "False|False|", "00|11|22|33|44|55|66|77|");
-}
-
-TEST_F(NewGame, ADamagedSetupOpensSoundly) {
-  const std::string Default = "Player1, [Computer] *Normal";
-  const std::pair<const char*, std::string> Cases[] = {
-      {"defNumPlayers=0", Default},
-      {"defNumPlayers=99999999999", Default},
-      {"defPlayerStyleString=00|-1|", Default},
-      {"defPlayerStyleString=00|6", "Player1, [Computer] *Moron"},
-      {"defNumPlayers=3\ndefPlayerNameString=Ann\ndefPlayerIsCompString=True\ndefPlayerStyleString=5",
-       "Ann *Genius, Player2, Player3"},
-      {"defNumPlayers=3\ndefPlayerNameString=Ann|Bob|Cid|\ndefPlayerIsCompString=true|True|1|\n"
-       "defPlayerStyleString=|||",
-       "Ann, Bob *Normal, Cid"},
-      {"defNumPlayers=2\ndefPlayerNameString=ABCDEFGHIJKLMNOPQ|\x80"
-       "B\x01"
-       "c|",
-       "ABCDEFGHIJKLMN, Bc *Normal"},
-      {"defPlayToScore=7\ndefBreakInScore=x", Default},
-  };
-  for (const auto& [Keys, Expected] : Cases) {
-    SCOPED_TRACE(Keys);
-    Put(Info.InfoPath, "[Info]\n" + Fields(Keys) + "\n");
-    Open([&] { EXPECT_EQ(Rows() + ' ' + Limits(), Expected + " 5000 500"); });
+    Open([&] { EXPECT_EQ(Shown(), Expected); });
   }
 }
 
-TEST_F(NewGame, PlayReadsEverySeatAndRestartWordsNeedNoDialog) {
+TEST_F(NewGame, PlayReadsEverySeatRestartWordsNeedNoDialogAndLeavingItBeginsNothing) {
   const auto Word = [&](const char* Restart) {
     Game.m.FormMessage = Restart;
-    Game.m.NumPlayers = 0;
-    Form.ShowModal();
+    const auto Chosen = Form.ShowModal(Game.m.FormMessage);
     EXPECT_EQ(Game.m.FormMessage, "");
-    return Begun();
+    return Told(Chosen);
   };
-  EXPECT_EQ(Word("RestartGame"), "2 Player1 5000");  // before any dialog
-  Open([&] {
-    Choose(3);
-    Seat(0, "");
-    Seat(1, "Box", 5);
-    Seat(2, "Zoë");
-    Form.optPlayTo[1]->click();
-    Form.optBreakIn[1]->click();
-    QTest::keyClick(Form.cmdPlay, Qt::Key_Return);
-  });
-  EXPECT_EQ(Begun(), "3  10000");
-  EXPECT_EQ(Game.m.PlayerName[2], "Zoë");
-  EXPECT_TRUE(Game.m.PlayerIsComputer[1] && !Game.m.PlayerIsComputer[2]);
-  EXPECT_EQ(Game.m.PlayerStyle[1], Genius);
-  EXPECT_EQ(Game.m.BreakInScore, 1000);
-  Open([&] {
-    Choose(7);
-    Seat(0, "Bob");
-    Click(Form.cmdSetDefault);
-    Choose(5);
-  });
-  EXPECT_EQ(Word("SameGame"), "3  10000");
-  EXPECT_EQ(Word("RestartGame"), "7 Bob 5000");
-  EXPECT_EQ(Word("SameGame"), "7 Bob 5000");
-}
-
-TEST_F(NewGame, LeavingItBeginsNothing) {
+  EXPECT_EQ(Word("RestartGame"), "1 5000 500 Player1, Computer *Normal");  // before any dialog
+  const std::string Played = "3 10000 1000 , Box *Genius, Zoë";
+  EXPECT_EQ(Told(Open([&] {
+              Choose(3);
+              Seat(0, "");
+              Seat(1, "Box", 5);
+              Seat(2, "Zoë");
+              Form.optPlayTo[1]->click();
+              Form.optBreakIn[1]->click();
+              QTest::keyClick(Form.cmdPlay, Qt::Key_Return);
+            })),
+            Played);
   Game.m.FormMessage = "x";
   for (QWidget* Focus : {static_cast<QWidget*>(&Form), static_cast<QWidget*>(Form.TxtPlayerName[0])}) {
-    Game.t.cmdRoll.Enabled = true;
-    Open([&] { QTest::keyClick(Focus, Qt::Key_Escape); });
-    EXPECT_FALSE(Game.t.cmdRoll.Enabled);
-    EXPECT_EQ(Game.m.FormMessage, "x");
-    EXPECT_EQ(Game.m.GameNumber, 0U);
+    const auto Left = Open([&] {
+      Choose(2);
+      Seat(0, "Bob");
+      Click(Form.cmdSetDefault);
+      Choose(5);
+      QTest::keyClick(Focus, Qt::Key_Escape);
+    });
+    EXPECT_EQ(Told(Left) + Game.m.FormMessage, "nothingx");
   }
+  EXPECT_EQ(Word("SameGame"), Played);
+  EXPECT_EQ(Word("RestartGame"), "2 5000 500 Bob, Player2");
+  EXPECT_EQ(Word("SameGame"), "2 5000 500 Bob, Player2");
 }
 
 TEST_F(NewGame, NamesHoldWhatTheFilesCanCarry) {
-  QApplication::clipboard()->setText(QString::fromUtf8("Zoë¤€Ж🎲\t&ÿñß"));
-  Form.TxtPlayerName[0]->paste();
-  EXPECT_EQ(Form.TxtPlayerName[0]->text(), QString::fromUtf8("Zoë&ñß"));
+  const std::pair<const char*, const char*> Pasted[] = {
+      {"Zoë¤€Ж🎲\t&ÿñß", "Zoë&yñß"}, {"Łukasz Dvořák’s", "Lukasz Dvorák'"}, {"e\u0301 ŒŒŒŒŒŒŒ", "é OEOEOEOEOEOE"}};
+  for (const auto& [Text, Held] : Pasted) {
+    Form.TxtPlayerName[2]->clear();
+    QApplication::clipboard()->setText(QString::fromUtf8(Text));
+    Form.TxtPlayerName[2]->paste();
+    EXPECT_EQ(Form.TxtPlayerName[2]->text(), QString::fromUtf8(Held));
+    EXPECT_EQ(Form.cboStyle[2]->accessibleName(), QString::fromUtf8(Held).prepend(QStringLiteral("Style of seat 3, ")));
+  }
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
@@ -48,15 +49,18 @@ inline void Put(const QString& Path, const QByteArray& Bytes) {
 
 inline void Click(QWidget* Control) { QTest::mouseClick(Control, Qt::LeftButton); }
 
-/// Every text of a window has the room that it asks for.
-inline void ExpectNothingCut(const QWidget& Form) {
-  for (const QWidget* Part : Form.findChildren<QWidget*>()) {
-    const bool Text =
-        qobject_cast<const QLabel*>(Part) != nullptr || qobject_cast<const QAbstractButton*>(Part) != nullptr;
-    if (!Text || !Part->isVisible()) continue;
+/// Every text of a window has the room that it asks for, and every stop of the Tab key has a name.
+inline void ExpectUsable(const QWidget& Form) {
+  for (QWidget* Part : Form.findChildren<QWidget*>()) {
+    if (!Part->isVisible()) continue;
+    SCOPED_TRACE(Part->objectName().toStdString());
+    if ((Part->focusPolicy() & Qt::TabFocus) != 0 && Part->isEnabled() && Part->focusProxy() == nullptr) {
+      EXPECT_NE(QAccessible::queryAccessibleInterface(Part)->text(QAccessible::Name), QString());
+    }
+    if (qobject_cast<QLabel*>(Part) == nullptr && qobject_cast<QAbstractButton*>(Part) == nullptr) continue;
     const QSize Needed =
         Part->hasHeightForWidth() ? QSize(0, Part->heightForWidth(Part->width())) : Part->minimumSizeHint();
-    EXPECT_EQ(Part->size().expandedTo(Needed), Part->size()) << Part->objectName().toStdString();
+    EXPECT_EQ(Part->size().expandedTo(Needed), Part->size());
     EXPECT_TRUE(Form.rect().contains(QRect(Part->mapTo(&Form, QPoint()), Part->size())));
   }
 }

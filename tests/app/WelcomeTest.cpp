@@ -9,44 +9,39 @@ using testing::ElementsAre;
 using testing::StartsWith;
 
 TEST(Welcome, TheBoxIsKeptAtOnceAndClosingTellsOfIt) {
-  enum { Button, Escape, Frame };
   const struct {
     const char* Stored;  ///< before the dialog opens
     bool Ticked;
-    int Clicks, Closes;
+    int Clicks;
     const char* Kept;
     bool Told;
   } Rows[] = {
-      {"", true, 0, Button, "", false},  // no key counts as ticked, and looking at it writes nothing
-      {"1", true, 1, Button, "0", true},   {"", true, 1, Escape, "0", true},
-      {"1", true, 1, Frame, "0", true},    {"1", true, 2, Frame, "1", false},
-      {"", true, 3, Escape, "0", true},    {"0", false, 0, Escape, "0", false},  // off already: nothing new to tell
-      {"0", false, 1, Button, "1", false}, {"True", false, 0, Button, "True", false},  // a word is no tick
+      {"", true, 0, "", false},  // no key counts as ticked, and looking at it writes nothing
+      {"1", true, 1, "0", true},   {"", true, 3, "0", true},          {"1", true, 1, "0", true},
+      {"1", true, 2, "1", false},  {"0", false, 0, "0", false},        // off already: nothing new to tell
+      {"0", false, 1, "1", false}, {"True", false, 0, "True", false},  // a word is no tick
   };
   for (const auto& Row : Rows) {
     SCOPED_TRACE(&Row - Rows);
     const QTemporaryDir Place;
     const IniInfo Info(Place.filePath(QStringLiteral("game.ini")));
-    const QString Key = QStringLiteral("ShowWelcomeMessage");
-    if (*Row.Stored != '\0') Info.WriteInfoValue(Key, QLatin1String(Row.Stored));
+    if (*Row.Stored != '\0') Info.WriteInfoValue(ShowWelcomeMessageKey, QLatin1String(Row.Stored));
     Table Game;
     frmWelcome Form(Info, Game.Screen, nullptr);
     Form.show();
+    ExpectUsable(Form);
     EXPECT_EQ(Form.lblCheck->isChecked(), Row.Ticked);
     for (int i = 0; i < Row.Clicks; ++i) {
       Click(i % 2 == 0 ? static_cast<QWidget*>(Form.lblShowWelcome) : Form.lblCheck);
     }
-    EXPECT_EQ(Info.ReadInfoValue(Key), QLatin1String(Row.Kept)) << "before it closes";
+    EXPECT_EQ(Info.ReadInfoValue(ShowWelcomeMessageKey), QLatin1String(Row.Kept)) << "before it closes";
     EXPECT_EQ(Game.TakeLog(), Lines(static_cast<std::size_t>(Row.Clicks), "beep"));
-    if (Row.Closes == Button) Click(Form.cmdExit);
-    if (Row.Closes == Escape) QTest::keyClick(&Form, Qt::Key_Escape);
-    if (Row.Closes == Frame) Form.close();
+    const auto Way = (&Row - Rows) % 3;
+    if (Way == 0) Click(Form.cmdExit);
+    if (Way == 1) QTest::keyClick(&Form, Qt::Key_Escape);
+    if (Way == 2) Form.close();
     EXPECT_FALSE(Form.isVisible());
-    EXPECT_EQ(
-        Game.TakeLog(),
-        Lines(Row.Told ? 1U : 0U,
-              "box This Welcome Window will no longer be displayed when Tollmoor Blunko starts up.\nIf you want to "
-              "view it again, just click on \"Help, How to Play\" from the main menu."));
+    EXPECT_EQ(Game.TakeLog("box This Welcome Window will no longer be displayed").size(), Row.Told ? 1U : 0U);
   }
 }
 
@@ -89,9 +84,7 @@ TEST_F(TheProgram, HelpWorksUnderTheWelcomeOutlivesItAndGoesWithTheGame) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return Help != nullptr && QApplication::activeModalWidget() == nullptr; }, 5000));
   EXPECT_TRUE(Help->isVisible());
   QTest::keyClick(Help, Qt::Key_Escape);
-  EXPECT_FALSE(Help->isVisible());
-  EXPECT_FALSE(Run->State.Quitting) << "Escape was the help's";
-
+  EXPECT_FALSE(Help->isVisible() || Run->State.Quitting) << "Escape was the help's";
   Run->ShowHelpTopic(QStringLiteral("Overview.htm"));
   Run->Form->close();
   EXPECT_FALSE(Help->isVisible());

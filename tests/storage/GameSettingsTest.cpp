@@ -190,7 +190,7 @@ TEST_F(GameSettingsTest, AHandEditedSetupTakesTheDefaultForEachUnusableField) {
       {"3", "A|B|~|", "False|True|~|", "00|2|22|", 3, {A, {"B", true, Fearless}, {"Player3", false}}},
       {"2", "A|B|", "true|yes|", "1|1|", 2, {A, B}},
       {"2", "A|B|", "True|True|", "7|x|", 2, {{"A", true}, {"B", true}}},
-      {"2", "A\t\xF6\xAD\xFF|FifteenLettersX|", "|", "|", 2, {{"A\u00F6", false}, {"FifteenLetters", false}}},
+      {"2", "A\t\xF6\xAD\xFF|FifteenLettersX|", "|", "|", 2, {{"A\u00F6y", false}, {"FifteenLetters", false}}},
       {"2", "|\t\xAD|", "|", "|", 2, {{"", false}, {"Player2", false}}}};
   for (const Row& row : Rows) {
     const QByteArray Text = QByteArray("[Info]\ndefNumPlayers=") + row.Count + "\ndefPlayerNameString=" + row.Names +

@@ -18,14 +18,14 @@ constexpr WhichList Turns = &RollerLists::lstHSTS;
 QByteArray Plain(const char* Text) { return QByteArray(Text).replace('|', '\xA4'); }
 
 /// The program's copies that work in one folder.
-class HighRollersTest : public testing::Test {
+class HighRollersTest : public testing::Test, private ListStore {
  protected:
   HighRollers Copy() {
-    HighRollers Made(place.Path(Name),
-                     [this](const QByteArray& Text) { return works && ReplaceFile(place.Path(Name), Text); });
+    HighRollers Made(place.Path(Name), *this);
     Made.LoadHighRollers();
     return Made;
   }
+  bool UtilStoreLists(const QByteArray& Text) const override { return works && ReplaceFile(place.Path(Name), Text); }
   QByteArray Text() const { return UnscrambleText(place.Get(Name)); }
   RollerLists Held() const { return RollerLists::OfText(Text()).value_or(RollerLists{}); }
   /// The first names of the list in the file.
