@@ -71,6 +71,7 @@ HelpWindow::HelpWindow(const QString& Folder, const QWidget* Beside) : folder(Fo
   LayOut();
   ConnectControls();
   ConnectKeys();
+  FixButtonColours(*this);
   FillContents();
   PlaceBeside(Beside);
 }

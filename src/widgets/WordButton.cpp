@@ -43,7 +43,9 @@ void WordButton::paintEvent(QPaintEvent*) {
   QColor Ink = foreColor;
   if (testAttribute(Qt::WA_ForceDisabled)) Ink.setAlphaF(0.5F);  // not faded together with a table that stands still
   const QRectF Room = QRectF(rect()).adjusted(FocusRingWidth, 0, -FocusRingWidth, 0);
-  words.Draw(Painter, Room, Qt::AlignCenter, text(), font(), Ink);
+  if (!plain) return words.Draw(Painter, Room, Qt::AlignCenter, text(), font(), Ink);
+  Painter.setPen(Ink);
+  Painter.drawText(Room, Qt::AlignCenter, text());
 }
 
 }  // namespace blunko

@@ -15,6 +15,8 @@ class WordButton : public QPushButton {
   explicit WordButton(const QString& Caption, QWidget* Parent = nullptr);
 
   void setForeColor(const QColor& Colour);
+  /// Without a halo, for words on a plain ground.
+  void setPlain() { plain = true; }
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
@@ -24,6 +26,7 @@ class WordButton : public QPushButton {
 
  private:
   QColor foreColor = Qt::black;
+  bool plain = false;
   HaloText words;
 };
 
