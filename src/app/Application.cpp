@@ -12,7 +12,7 @@
 #include "app/Accessibility.h"
 #include "app/Announcements.h"
 #include "app/Announcer.h"
-#include "app/OpenInShell.h"
+#include "app/StartQuestions.h"
 #include "app/frmAbout.h"
 #include "app/frmCongrats.h"
 #include "app/frmCustomizeSounds.h"
@@ -55,10 +55,13 @@ bool Application::Main() {
   State.PlayToScore = static_cast<std::int16_t>(Settings.ReadPlayToScore());
   State.BreakInScore = static_cast<std::int16_t>(Settings.ReadBreakInScore());
   Util.UtilSetFolder(QFileInfo(folders.ListsPath()).path());
+  StartQuestions Questions(Settings, Screen, Util);
   const bool FirstStart = !Settings.Scanned();
-  SurveyHardware();
+  Questions.SurveyHardware();
   if (FirstStart || Numbers->UtilRandom(LaterStartsPerVersionCheck) == 1) {
-    if (!CheckForUpdate()) return false;
+    const bool GoesOn = Questions.CheckForUpdate();
+    versionCheckFailed = Questions.VersionCheckFailed();
+    if (!GoesOn) return false;
   }
   State.Quitting = false;
   Uniform = UniformGenerator(static_cast<std::uint64_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000));
@@ -95,41 +98,6 @@ void Application::LoadForm() {
   On(&frmMain::helpAsked, [this] { ShowHelpTopic(QStringLiteral("Overview.htm")); });
   On(&frmMain::aboutAsked, [this] { frmAbout(folders, Settings, Screen, Form.get()).exec(); });
   Screen.ShowOn(*Form);
-}
-
-/// Asked once in the life of an installation, whatever the answer.
-void Application::SurveyHardware() {
-  if (Settings.Scanned()) return;
-  if (Screen.AskYesNo("To better serve our customers we would like to record the hardware configuration of your "
-                      "computer.  This information is reported anonymously and contains no personally identifying "
-                      "information.\nMay we do this?",
-                      ProductName.toStdString())) {
-    Util.UtilSurveyHardware();
-    Screen.MessageBox("Thank You");
-  }
-  Settings.setScanned(true);
-}
-
-/// False when the player has gone off to fetch a newer version: then the program ends.
-bool Application::CheckForUpdate() {
-  if (!Screen.AskYesNo("Would you like to check for a new version of Tollmoor Blunko", ProductName.toStdString())) {
-    return true;
-  }
-  switch (Util.UtilCheckVersion(VersionMajor, VersionMinor, VersionRevision)) {
-    case TbkUtil::VersionError:
-      versionCheckFailed = true;
-      Screen.MessageBox("An error has occurred. Please try again later.");
-      break;
-    case TbkUtil::UpToDate: Screen.MessageBox("You have the latest version."); break;
-    case TbkUtil::NewerExists:
-      if (Screen.AskYesNo("A newer version is available, would you like to go to the web site to download it?",
-                          ProductName.toStdString())) {
-        OpenInShell(DownloadPage);
-        return false;
-      }
-      break;
-  }
-  return true;
 }
 
 /// The table has come up: a newcomer is greeted.

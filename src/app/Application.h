@@ -77,8 +77,6 @@ class Application : public Program, private HighRollersScreen {
   std::unique_ptr<frmMain> Form;
 
  private:
-  void SurveyHardware();
-  bool CheckForUpdate();
   void LoadForm();
   void Form_Activate();
   void Form_Resize();
