@@ -355,9 +355,11 @@ void frmMain::Shift(int Down) {
 void frmMain::wheelEvent(QWheelEvent* Event) { Shift(Event->angleDelta().y() / 2); }
 
 bool frmMain::focusNextPrevChild(bool Next) {
+  constexpr int Margin = 12;  // px
   const bool Moved = QWidget::focusNextPrevChild(Next);
   if (const QWidget* Focus = focusWidget()) {
-    const QRect Screen = screen()->availableGeometry(), Seen(Focus->mapToGlobal(QPoint()), Focus->size());
+    const QRect Screen = screen()->availableGeometry(),
+                Seen(Focus->mapToGlobal(QPoint(-Margin, -Margin)), Focus->size() + 2 * QSize(Margin, Margin));
     if (Seen.bottom() > Screen.bottom()) Shift(Screen.bottom() - Seen.bottom());
     if (Seen.top() < Screen.top()) Shift(Screen.top() - Seen.top());
   }
@@ -369,7 +371,7 @@ void frmMain::mouseReleaseEvent(QMouseEvent* Event) {
   const QRect Scores = Label1->geometry() | lblTurnScore->geometry();
   const bool Counts = Event->button() == Qt::LeftButton && picGameTray->isEnabled();
   if (Counts && Scores.contains(picGameTray->mapFrom(this, Event->position().toPoint()))) {
-    emit scorePadAsked();
+    Ask(&frmMain::scorePadAsked);
   }
 }
 

@@ -1,5 +1,8 @@
+#include <QMenu>
 #include <QTcpServer>
 #include <QTcpSocket>
+
+#include <algorithm>
 
 #include "app/Scale.h"
 #include "app/frmCongrats.h"
@@ -10,6 +13,7 @@ namespace {
 
 const std::string Box = "Tollmoor Blunko: ";
 const std::string Version = Box + "Would you like to check for a new version of Tollmoor Blunko";
+const std::string QuitGame = "Quit?: Are you sure you want to quit the current game?";
 const QByteArray TwoPersons =
     "ShowWelcomeMessage=0\ndefNumPlayers=2\ndefPlayerIsCompString=False\xA4"
     "False\xA4\n";
@@ -26,6 +30,18 @@ class Playing : public TheProgram {
     for (auto& Seat : Setup.Seats) Seat = {"Somebody", Computers, Simple};
     Run->Form->Handle([&] { Run->Table.FreshGame(Setup); });
   }
+  void Key(int Code) {
+    for (const auto Type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent Event(Type, Code, {});
+      QApplication::sendEvent(Run->Form.get(), &Event);
+    }
+  }
+  using Step = std::function<void()>;
+  const std::array<std::pair<const char*, Step>, 4> Ways{
+      {{"the button", [this] { Run->Form->cmdExit->click(); }},
+       {"the menu", [this] { Run->Form->mnuGame->actions().last()->trigger(); }},
+       {"Esc", [this] { Key(Qt::Key_Escape); }},
+       {"the close box", [this] { Run->Form->close(); }}}};
   /// Rolls with the button; the dice tumble first, then show the faces.
   void Roll(std::initializer_list<int> Faces) {
     constexpr int Cycles[] = {0, 20, 15, 10, 8, 7, 5};
@@ -87,35 +103,98 @@ TEST_F(Playing, TwoPersonsReachTheTrophyWithTheMouse) {
   EXPECT_FALSE(Form.isVisible());
 }
 
-TEST_F(Playing, ClosesInTheMiddleOfAComputersTurn) {
-  const Lines QuitGame(2, "Quit?: Are you sure you want to quit the current game?");
-  for (const int Delay : {0, 1, 3, 10, 30}) {
-    SCOPED_TRACE(Delay);
-    Start();
-    const auto CloseSoon = [&] { QTimer::singleShot(Delay, Run->Form.get(), [this] { Run->Form->close(); }); };
-    Next.Expect<GameBox>([&](GameBox& Question) {
-      CloseSoon();
-      Question.cmdNo->click();
-    });
-    Next.Press(&GameBox::cmdYes);
-    CloseSoon();
-    Begin(8, true);
-    EXPECT_EQ(std::exchange(Next.Seen, {}), QuitGame);
-    EXPECT_TRUE(Run->State.Quitting);
-    EXPECT_FALSE(Run->Form->isVisible());
-    EXPECT_EQ(Run->Table.Fault(), "");
+TEST_F(Playing, EveryWayOutEndsItInTheMiddleOfAComputersTurn) {
+  for (const auto& [Way, Out] : Ways) {
+    for (const int Delay : {0, 3, 30}) {
+      SCOPED_TRACE(std::string(Way) + " after " + std::to_string(Delay));
+      Start();
+      const auto LeaveSoon = [&, &Out = Out] { QTimer::singleShot(Delay, Run->Form.get(), Out); };
+      Next.Expect<GameBox>([&](GameBox& Question) {
+        LeaveSoon();
+        Question.cmdNo->click();
+      });
+      Next.Press(&GameBox::cmdYes);
+      LeaveSoon();
+      Begin(8, true);
+      EXPECT_EQ(std::exchange(Next.Seen, {}), Lines(2, QuitGame));
+      EXPECT_TRUE(Run->State.Quitting);
+      EXPECT_FALSE(Run->Form->isVisible());
+      EXPECT_EQ(Run->Table.Fault(), "");
+    }
   }
 }
 
-TEST_F(Playing, StaysUnderADialogThatIsOpen) {
-  Start();
-  Next.Expect<frmNewGame>([this](frmNewGame& Dialog) {
-    Run->Form->close();
-    EXPECT_TRUE(Run->Form->isVisible());
-    Dialog.reject();
-  });
-  Click(Run->Form->ARCmdNewGame);
-  EXPECT_FALSE(Run->State.Quitting);
+/// A window that is gone while its process lives on is a game lost.
+TEST_F(Playing, EveryWayOutInsideEveryOtherLeavesTheTableOrEndsTheProgram) {
+  frmMain* Form = nullptr;
+  const auto Within = [this](Step Out, ButtonPlus* GameBox::*Answer) {
+    Next.Expect<GameBox>([Out = std::move(Out), Answer](GameBox& Box) {
+      Out();
+      (Box.*Answer)->click();
+    });
+  };
+  std::vector<std::tuple<std::string, int, std::function<void(const Step&)>>> Places{
+      // with the questions asked; each is answered with No
+      {"the new game dialog", 0,
+       [&](const Step& Out) {
+         Next.Expect<frmNewGame>([&](frmNewGame& Dialog) {
+           Out();
+           Dialog.reject();
+         });
+         Key(Qt::Key_F2);
+       }},
+      {"a roll", 0,
+       [&](const Step& Out) {
+         Run->Screen.WaitFactor = 0.01;
+         QTimer::singleShot(0, Form, Out);
+         Roll({1, 2, 3, 3, 4, 6});
+         Run->Screen.WaitFactor = 0;
+       }},
+      {"the going-out box and the flash", 0,
+       [&](const Step& Out) {
+         Run->State.PlayerScore = {5000, 0};
+         Roll({1, 1, 1, 2, 3, 3});
+         Click(Form->Picture1[0]);
+         Run->Screen.WaitFactor = 0.01;
+         Within([&] { QTimer::singleShot(0, Form, Out), Out(); }, &GameBox::cmdOK);
+         Click(Form->cmdPassDice);
+         Run->Screen.WaitFactor = 0;
+       }},
+      {"the options", 1,
+       [&](const Step& Out) {
+         Form->cmdOptions->click();
+         // The button is off, and Esc closes the panel and no more.
+         const bool Asks = &Out == &Ways[1].second || &Out == &Ways[3].second;
+         Asks ? Next.Press(&GameBox::cmdNo) : Next.Seen.push_back(QuitGame);
+         Out();
+         Run->CancelOptions();
+       }},
+  };
+  for (const auto& [Outer, Do] : Ways) {
+    Places.emplace_back(Outer, 1, [&Within, &Do = Do](const Step& Out) {
+      Within(Out, &GameBox::cmdNo);
+      Do();
+    });
+  }
+  for (const auto& [Place, Questions, In] : Places) {
+    for (const auto& [Way, Out] : Ways) {
+      SCOPED_TRACE(Place + ", " + Way);
+      Start(TwoPersons);
+      Form = Run->Form.get();
+      const bool Dialog = Place == "the new game dialog";
+      if (!Dialog) Begin(2, false);
+      Next.Seen.clear();
+      In(Out);
+      EXPECT_EQ(std::ranges::count(Next.Seen, QuitGame), Questions);
+      EXPECT_FALSE(Run->State.Quitting);
+      EXPECT_TRUE(Form->isVisible());
+      EXPECT_EQ(Run->Table.Fault(), "");
+      if (!Dialog) Next.Press(&GameBox::cmdYes);
+      Out();
+      EXPECT_TRUE(Run->State.Quitting);
+      EXPECT_FALSE(Form->isVisible());
+    }
+  }
 }
 
 TEST_F(Playing, TheScorePadGoesAndComesBackToItsPlaceWithTheTable) {
