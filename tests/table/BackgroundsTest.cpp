@@ -62,14 +62,9 @@ TEST(Backgrounds, TheFoldersAreLookedThroughAfreshAsOneListSortedByCharacterCode
   EXPECT_EQ(Found.ColourIndexOf("Z.jpg"), 0) << "the colour goes with the picture";
 }
 
-TEST(Backgrounds, FiveThousandPicturesStayWithinTheList) {
+TEST(Backgrounds, HundredsOfPicturesStayWithinTheList) {
   Place Folder;
-  Folder.Put("picture", "");
-  const QByteArray One = QFile::encodeName(Folder.Path("picture"));
-  for (int i = 0; i < 5000; ++i) {
-    const QString Name = QStringLiteral("%1.jpg").arg(i, 4, 10, QChar('0'));
-    ASSERT_EQ(link(One.constData(), QFile::encodeName(Folder.Path(Name)).constData()), 0);
-  }
+  for (int i = 0; i < 300; ++i) Folder.Put(QStringLiteral("%1.jpg").arg(i, 4, 10, QChar('0')), "");
   Backgrounds Found({Folder.Path()});
   Found.ScanBackgrounds();
   ASSERT_EQ(Found.BackgroundFiles.size(), 255) << "256 entries with (None)";
