@@ -1,6 +1,7 @@
 // The game's start up to the first painted table, for start_up: table_window STATE_FOLDER
 
 #include <QApplication>
+#include <QFileInfo>
 
 #include "app/Application.h"
 #include "bench/FirstPaint.h"
@@ -18,8 +19,10 @@ int main(int argc, char** argv) {
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication app(argc, argv);
   blunko::Folders Where = blunko::Folders::OfProgram();
+  Where.Program = QFileInfo(Where.Program).path();  // the shipped files lie beside the game
   if (argc > 1) Where.State = QString::fromLocal8Bit(argv[1]);
-  blunko::Application Program(Where, std::make_unique<NeverOne>());
+  const blunko::IniInfo Info(Where.InfoPath());
+  blunko::Application Program(Where, Info, std::make_unique<NeverOne>());
   if (!Program.Main()) return 1;
   const FirstPaint Watch(*Program.Form->picGameTray);
   return QApplication::exec();
