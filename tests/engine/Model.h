@@ -38,18 +38,13 @@ struct Model {
 
   // What dice are worth.
   auto Count(int Face) const { return std::count(Rolled.begin(), Rolled.end(), Face); }
-  bool EachFace(bool (*Fits)(std::ptrdiff_t)) const {
-    for (int Face = 1; Face <= 6; ++Face) {
-      if (!Fits(Count(Face))) return false;
-    }
-    return Rolled.size() == 6;
+  bool FacesCome(std::vector<std::ptrdiff_t> Times) const {
+    std::vector<std::ptrdiff_t> Counts;
+    for (int Face = 1; Face <= 6; ++Face) Counts.push_back(Count(Face));
+    return std::is_permutation(Counts.begin(), Counts.end(), Times.begin());
   }
-  bool Straight() const {
-    return EachFace([](std::ptrdiff_t n) { return n == 1; });
-  }
-  bool ThreePairs() const {
-    return EachFace([](std::ptrdiff_t n) { return n == 0 || n == 2; });
-  }
+  bool Straight() const { return FacesCome({1, 1, 1, 1, 1, 1}); }
+  bool ThreePairs() const { return FacesCome({2, 2, 2, 0, 0, 0}); }
   bool OfAKind(int Face) const { return Count(Face) >= 3; }
   bool IsScorer(int Face) const { return Straight() || ThreePairs() || OfAKind(Face) || Face == 1 || Face == 5; }
   int Worth(int Face) const {
@@ -76,7 +71,7 @@ struct Model {
     return Found;
   }
 
-  std::size_t DiceToRoll() const { return 6 - Tray.size() % 6; }
+  std::ptrdiff_t DiceToRoll() const { return 6 - std::ssize(Tray) % 6; }
   void Roll(const std::vector<int>& Faces) {
     Told.push_back(Faces.size() == 1 ? "sound OneDie" : "sound MultiDie");
     if (Tray.size() == 6) Tray.clear();
@@ -84,8 +79,7 @@ struct Model {
     Rolled = Faces, Up.assign(Faces.size(), true);
     if (Sorts) std::sort(Rolled.begin(), Rolled.end());
     if (UpDice(true) == 0) return Told.push_back("sound Blunko"), EndTurn(false);
-    const bool MayBank = BrokenIn() && Frozen > 0 && UpDice(false) > 0;
-    Offer(MayAtRoll = MayBank ? "sp" : "s");
+    Offer(MayAtRoll = BrokenIn() && Frozen > 0 && UpDice(false) > 0 ? "sp" : "s");
   }
   /// A group goes whole; a straight and three pairs go in the order of their faces.
   void Take(std::size_t Position) {
@@ -102,7 +96,7 @@ struct Model {
     Turn = std::min(Turn + Worth(Face), Limit);
     const bool Scorers = UpDice(true) > 0, Others = UpDice(false) > 0;
     if (Others) return Offer(std::string("r") + (Scorers ? "s" : "") + (BrokenIn() ? "p" : ""));
-    Offer(Scorers ? "s" : "r");
+    Offer(Scorers ? "s" : "r");  // no stopping on six dice that score
     if (!Scorers) Status = "All dice score - You must roll.";
   }
   /// Everything taken since the roll goes back, unless nothing is left on the table.
@@ -134,10 +128,8 @@ struct Model {
     Told.push_back("high turn " + Names[OnTurn] + " " + std::to_string(Turn));
     if (Out != Nobody || Scores[OnTurn] < PlayTo) return;
     Out = OnTurn;
-    Told.insert(Told.end(), {"sound overtop.wav", "box " + Names[Out] +
-                                                      " has gone out.  Everybody else gets one more roll to try and "
-                                                      "beat " +
-                                                      Score + " points."});
+    const std::string Beat = " has gone out.  Everybody else gets one more roll to try and beat ";
+    Told.insert(Told.end(), {"sound overtop.wav", "box " + Names[Out] + Beat + Score + " points."});
   }
   /// The seat that went out wins a tie, else the first after it.
   void EndGame() {

@@ -8,69 +8,36 @@
 namespace blunko::test {
 namespace {
 
-/// Dice that often show groups: they repeat a few faces, with a stray one now and then.
-struct LoadedDice : NumberSource {
-  std::mt19937_64& Chance;
-  std::vector<int> Drawn;
-  std::array<int, 6> Faces{1, 2, 3, 4, 5, 6};
-  std::size_t Different = 1, Strays = 0;
-
-  explicit LoadedDice(std::mt19937_64& Source) : Chance(Source) {}
-  void Load() {
-    std::shuffle(Faces.begin(), Faces.end(), Chance);
-    Different = 1 + Chance() % 6, Strays = Chance() % 6;
-    Drawn.clear();
-  }
-  std::int32_t UtilRandom(std::int32_t) override {
-    const bool Stray = Chance() % 8 < Strays;
-    Drawn.push_back(Faces[Stray ? Chance() % 6 : Drawn.size() % Different]);
-    return Drawn.back();
-  }
-};
-
-/// A person who presses anything, on the game and on the rule sheet.
-class Masher {
+/// A person who presses anything, on the game and on the rule sheet; with dice that often show groups, because they
+/// repeat a few faces with a stray one now and then.
+class Masher : NumberSource {
  public:
   explicit Masher(std::uint64_t Seed) : chance(Seed) {
     table.Others.OnNewGame = [this] { Begin(); };
-    table.game.PersonBeginsGame();
-    table.Screen.Log.clear();
   }
 
   void Press() {
-    dice.Load();
-    const int Die = Any(6), Kind = Any(40);
-    const auto At = static_cast<std::size_t>(Die);
-    switch (Kind < 10 ? Kind : Kind % 3) {
-      case 0: Do("clicks Roll", 0, [&] { game.PersonRolls(); }), Roll(); break;
-      case 1: Do("clicks die", Die, [&] { game.PersonClicksDie(Word16(Die), LeftButton); }), sheet.Take(At); break;
-      case 2: Key("types face", Die + 1, (Any(2) ? Digit1 : NumPad1) + Die), TakeFace(Die + 1); break;
-      case 3:
-        Do("clicks slot", Die, [&] { game.PersonClicksDie(Word16(10 + Die), LeftButton); }), sheet.Undo(At);
-        break;
-      case 4:
-        Do("right-clicks die", Die, [&] { game.PersonClicksDie(Word16(Die + Any(2) * 10), RightButton); }), Roll();
-        break;
-      case 5: Do("right-clicks beside", Die, [&] { game.PersonClicksTray(1 + Die % 2, RightButton); }), Roll(); break;
-      case 6: Key("types roll", 0, Any(2) ? LetterR : NumPad0), Roll(); break;
-      case 7: Do("clicks Pass", 0, [&] { game.PersonPasses(); }), Pass(); break;
-      case 8: Key("types pass", 0, Any(2) ? LetterP : NumPadDecimal), Pass(); break;
-      default: Any(2) ? TypeBackspace() : NewGame();
-    }
+    std::shuffle(faces.begin(), faces.end(), chance);
+    different = 1 + chance() % 6, strays = Any(6);
+    drawn.clear();
+    sheet.Told.clear();
+    const int Die = Any(6), Way = Any(4), Kind = Any(32);
+    commands.push_back(std::to_string(100 * Kind + 10 * Die + Way));
+    if (sheet.OnTurn == Model::Nobody) game.PersonBeginsGame(), sheet.Told = {"new game"};
+    if (Kind == 0) return Click(10 + Die, LeftButton), sheet.Undo(static_cast<std::size_t>(Die));
+    if (Kind == 1) return Type(Backspace), sheet.Undo(sheet.Frozen);
+    Kind == 2 ? Pass(Way) : Kind < 17 ? Roll(Die, Way) : Take(Die, Way);
   }
   /// What the game shows or keeps otherwise than the rules have it; empty if nothing is.
   std::string Difference() {
     const Module1& m = table.m;
     const TableControls& t = table.t;
-    const bool Plays = sheet.OnTurn != Model::Nobody;
     differences = game.Fault();
     Compare("seat on turn", sheet.OnTurn, m.CurrentPlayer);
     Compare("seat that went out", sheet.Out, m.OutPlayer);
-    if (sheet.Winner != Model::Nobody) Compare("winner", sheet.Winner, m.Winner);
     for (std::size_t i = 0; i < sheet.Scores.size(); ++i) Compare("banked score", sheet.Scores[i], m.PlayerScore[i]);
-    Compare("turn score", sheet.Turn, m.TurnScore);
-    Compare("turn score shown", std::to_string(sheet.Turn), t.lblTurnScore.Caption);
-    Compare("name shown", Plays ? sheet.Names[sheet.OnTurn] : " ", t.lblPlayer.Caption);
+    Compare("turn score", std::to_string(sheet.Turn), t.lblTurnScore.Caption);
+    Compare("name", sheet.OnTurn == Model::Nobody ? " " : sheet.Names[sheet.OnTurn], t.lblPlayer.Caption);
     Compare("status", sheet.Status, t.lblStatus.Caption);
     Compare("may roll", sheet.Allows('r'), t.CanPress(t.cmdRoll));
     Compare("may pass", sheet.Allows('p'), t.CanPress(t.cmdPassDice));
@@ -82,17 +49,17 @@ class Masher {
       Compare("mark", Up && table.Options.Mark && sheet.IsScorer(sheet.Rolled[i]), t.picMarker[i]);
       Compare("die in the tray", InTray ? Base + sheet.Tray[i] : 0, t.Picture1(10 + Box));
     }
-    Compare("divider", sheet.Frozen > 0, t.pctDivider.Visible);
-    if (sheet.Frozen > 0) Compare("divider's place", DieBoxLeft[sheet.Frozen] - 84, t.pctDivider.Left);
-    Compare("last turn shown", !sheet.Need.empty(), t.lblLastRoll.Visible);
-    if (t.lblLastRoll.Visible) Compare("points needed", sheet.Need, t.lblLastRoll.Caption);
+    Compare("divider", sheet.Frozen > 0 ? DieBoxLeft[sheet.Frozen] - 84 : 0,
+            t.pctDivider.Visible ? t.pctDivider.Left : 0);
+    Compare("last turn", sheet.Need, t.lblLastRoll.Visible ? t.lblLastRoll.Caption : "");
     Compare("told", Lines(sheet.Told), Lines(table.TakeLog()));
     return differences;
   }
-  std::string LastCommands() const { return Lines({commands.begin(), commands.end()}); }
+  std::string LastCommands() const {
+    return Lines({commands.end() - std::min<std::ptrdiff_t>(12, std::ssize(commands)), commands.end()});
+  }
 
  private:
-  static std::int16_t Word16(int Value) { return static_cast<std::int16_t>(Value); }
   int Any(int Bound) { return static_cast<int>(chance() % static_cast<unsigned>(Bound)); }
 
   template <typename Expected, typename Found>
@@ -112,58 +79,55 @@ class Masher {
     return Text;
   }
 
+  std::int16_t NearLimit() { return static_cast<std::int16_t>(32000 * Any(2)); }
+
   void Begin() {
-    static const std::vector<const char*> Names{"Ann", "Ben", "Cleo", "Dan", "Eve", "Fay", "Gus", "Hal"};
+    static const std::vector<const char*> Names{"A", "B", "C", "D", "E", "F", "G", "H"};
     const std::vector<const char*> Seats(Names.begin(), Names.begin() + 2 + Any(7) * Any(2));
     const int PlayTo = std::array{1000, 3000, 32600}[static_cast<std::size_t>(Any(3))], BreakIn = 500 + 500 * Any(2);
     table.Options.Sort = Any(2) == 0, table.Options.Mark = Any(2) == 0;
     table.Begin(Seats, PlayTo, BreakIn);
     sheet.Begin({Seats.begin(), Seats.end()}, PlayTo, BreakIn, table.Options.Sort);
     if (PlayTo < 30000) return;
-    for (std::size_t i = 0; i < Seats.size(); ++i)
-      sheet.Scores[i] = table.m.PlayerScore[i] = static_cast<std::int16_t>(32000 * Any(2));  // near their limit
+    for (std::size_t i = 0; i < Seats.size(); ++i) sheet.Scores[i] = table.m.PlayerScore[i] = NearLimit();
+    sheet.Turn = table.m.TurnScore = NearLimit();
+    table.t.lblTurnScore.Caption = std::to_string(sheet.Turn);
   }
-  template <typename Action>
-  void Do(const char* Name, int Detail, Action Run) {
-    commands.push_back(std::string(Name) + ' ' + std::to_string(Detail));
-    if (commands.size() > 12) commands.pop_front();
-    sheet.Told.clear();
-    Run();
+  void Click(int Index, std::int16_t Button) { game.PersonClicksDie(static_cast<std::int16_t>(Index), Button); }
+  void Type(int Code) { game.Form_KeyUp(static_cast<std::int16_t>(Code), 0); }
+
+  void Roll(int Die, int Way) {
+    if (Way == 0) game.PersonRolls();
+    if (Way == 1) Click(Die + 10 * Any(2), RightButton);
+    if (Way == 2) game.PersonClicksTray(1 + Die % 2, RightButton);
+    if (Way == 3) Type(Die < 3 ? LetterR : NumPad0);
+    if (sheet.Allows('r')) sheet.Roll({drawn.end() - std::min(sheet.DiceToRoll(), std::ssize(drawn)), drawn.end()});
   }
-  void Key(const char* Name, int Detail, int Code) {
-    Do(Name, Detail, [&] { game.Form_KeyUp(Word16(Code), 0); });
+  void Take(int Die, int Way) {
+    auto Position = static_cast<std::size_t>(Die);
+    if (Way < 2) return Click(Die, LeftButton), sheet.Take(Position);
+    Type((Way == 2 ? Digit1 : NumPad1) + Die);
+    for (Position = 0; Position < Dice && !(sheet.IsUp(Position) && sheet.Rolled[Position] == Die + 1);) ++Position;
+    sheet.Take(Position);
   }
-  void Roll() {
-    if (!sheet.Allows('r')) return;
-    const auto Count = static_cast<std::ptrdiff_t>(std::min(sheet.DiceToRoll(), dice.Drawn.size()));
-    sheet.Roll({dice.Drawn.end() - Count, dice.Drawn.end()});
-  }
-  void Pass() {
+  void Pass(int Way) {
+    Way < 2 ? game.PersonPasses() : Type(Way == 2 ? LetterP : NumPadDecimal);
     if (sheet.Allows('p')) sheet.EndTurn(true);
   }
-  void TakeFace(int Face) {
-    for (std::size_t i = 0; i < 6; ++i) {
-      if (sheet.IsUp(i) && sheet.Rolled[i] == Face) return sheet.Take(i);
-    }
-  }
-  void TypeBackspace() {
-    Key("types Backspace", 0, Backspace);
-    for (std::size_t Slot = 0; Slot < 6; ++Slot) sheet.Undo(Slot);
-  }
-  void NewGame() {
-    const bool Asks = sheet.OnTurn != Model::Nobody;
-    table.Screen.Answer = !Asks || Any(8) == 0;
-    Key("types F2", table.Screen.Answer, F2);
-    if (Asks) sheet.Told = {"beep", "ask Quit?: Are you sure you want to quit the current game?"};
-    if (table.Screen.Answer) sheet.Told.push_back("new game");
+
+  std::int32_t UtilRandom(std::int32_t Bound) override {
+    return drawn.emplace_back(Any(8) < strays ? 1 + Any(Bound) : faces[drawn.size() % different]);
   }
 
   std::mt19937_64 chance;
-  LoadedDice dice{chance};
-  Table table{nullptr, &dice};
+  std::array<int, 6> faces{1, 2, 3, 4, 5, 6};
+  std::vector<int> drawn;
+  std::size_t different = 1;
+  int strays = 0;
+  Table table{nullptr, this};
   Game& game = table.game;
   Model sheet;
-  std::deque<std::string> commands;
+  std::vector<std::string> commands;
   std::string differences;
 };
 
