@@ -29,8 +29,7 @@ class AccessibleButton : public QAccessibleWidget {
   }
 };
 
-/// A die that a press doesn't take is disabled, to whoever asks: by mouse and keys it can be tried, and beeps. An empty
-/// place isn't there.
+/// A die that a press doesn't take is disabled, to whoever asks: by mouse and keys it can be tried, and beeps.
 class AccessibleDie : public AccessibleButton {
  public:
   explicit AccessibleDie(DieBox* Box) : AccessibleButton(Box, QAccessible::Button) {}
@@ -38,7 +37,6 @@ class AccessibleDie : public AccessibleButton {
   QAccessible::State state() const override {
     const auto* Box = static_cast<DieBox*>(object());
     QAccessible::State State = AccessibleButton::state();
-    State.invisible = State.invisible || Box->Picture() == 0;
     State.disabled = State.disabled || !Box->IsTakeable();
     return State;
   }

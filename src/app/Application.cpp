@@ -51,6 +51,7 @@ Application::Application(const Folders& Where, const IniInfo& Info, std::unique_
 Application::~Application() = default;
 
 bool Application::Main() {
+  InstallAccessibility();
   State.HelpFile = folders.Shipped(QStringLiteral("help")).toStdString();
   State.PlayToScore = static_cast<std::int16_t>(Settings.ReadPlayToScore());
   State.BreakInScore = static_cast<std::int16_t>(Settings.ReadBreakInScore());
@@ -76,7 +77,6 @@ bool Application::Main() {
 
 /// Makes the table's window, dresses it as the settings say, and connects it with the rest.
 void Application::LoadForm() {
-  InstallAccessibility();
   Form = std::make_unique<frmMain>(Table);
   speaker = new Announcer(Form.get());
   Form->Wears.Trays = StartColour(Settings.DieColour());

@@ -123,6 +123,7 @@ void frmNewGame::DescribeSeat(int Index) {
   TxtPlayerName[Index]->setAccessibleName("Name of " + Seat);
   chkComputer[Index]->setAccessibleName("Computer player in " + WithName);
   cboStyle[Index]->setAccessibleName("Style of " + WithName);
+  cboStyle[Index]->setAccessibleDescription("Style of " + WithName);  // where a list's name is what is chosen in it
 }
 
 QLayout* frmNewGame::BuildButtons() {

@@ -51,8 +51,10 @@ void Game::cmdRoll_Click() {
   const std::uint8_t NumDiceUp = Dice - InTray;
   for (int i = 0; i < Dice; ++i) m.DieUp[i] = i < NumDiceUp;
 
+  t.Rolling = true;
   RollDice(NumDiceUp);
   ScoreDice(NumDiceUp);
+  t.Rolling = false;
   if (Settings.MarkScorers()) {
     for (int i = 0; i < NumDiceUp; ++i) {
       if (m.DieScoreCode[i] != NoScore) t.picMarker[i] = true;

@@ -59,7 +59,8 @@ struct TableControls {
   DieBoxes Picture1;                ///< bitmap numbers, 0 for an empty box
   std::array<bool, 6> picMarker{};  ///< visible marks over the table positions
   PictureBox pctDivider{198, false, 0};
-  bool Busted = false;  ///< the dice on the table are lost, and pale
+  bool Rolling = false;  ///< the dice are in the air: what they show doesn't count yet
+  bool Busted = false;   ///< the dice on the table are lost, and pale
 
   /// Whether a press of the button has an effect: a hidden one, or one on a disabled table, is as good as disabled.
   bool CanPress(const Button& Which) const { return Which.Enabled && Which.Visible && picGameTray.Enabled; }

@@ -1,5 +1,6 @@
 #include "table/DieBox.h"
 
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -46,14 +47,15 @@ QImage Threads(const QSize& Size, const QColor& Colour) {
 DieBox::DieBox(int Index, Bitmaps& Pictures, QWidget* Parent)
     : QAbstractButton(Parent), index(Index), bitmaps(Pictures) {
   setAttribute(Qt::WA_Hover);
-  setFocusPolicy(Qt::NoFocus);
+  setFocusPolicy(Qt::TabFocus);
+  hide();
   connect(this, &QAbstractButton::clicked, this, [this] { emit mouseUp(index, ButtonNumber(Qt::LeftButton)); });
 }
 
 void DieBox::setPicture(int Number) {
   if (picture == Number) return;
   picture = Number;
-  setFocusPolicy(picture == 0 ? Qt::NoFocus : Qt::TabFocus);
+  setVisible(picture != 0);
   update();
 }
 
@@ -62,6 +64,10 @@ void DieBox::setTakeable(bool Takeable) {
   takeable = Takeable;
   setCursor(takeable ? Qt::PointingHandCursor : Qt::ArrowCursor);
   update();
+  QAccessible::State Changed;
+  Changed.disabled = true;
+  QAccessibleStateChangeEvent Event(this, Changed);
+  QAccessible::updateAccessibility(&Event);
 }
 
 void DieBox::setPale(bool Pale) {

@@ -7,7 +7,7 @@
 namespace blunko {
 
 /// One box of the dice array: shows the die's bitmap in its top left corner, on the tray's felt, and reports clicks. A
-/// press from the keyboard is a left click; an empty box has no keyboard.
+/// press from the keyboard is a left click. An empty box is hidden: a click there is one beside the dice.
 class DieBox : public QAbstractButton {
   Q_OBJECT
 

@@ -1,5 +1,6 @@
 #include "table/frmMain.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -97,10 +98,12 @@ void frmMain::PlaceTrays() {
       Picture1[Index < 10 ? i : 6 + i] = Placed(Box, TwipsRect(DieBoxLeft[i], DieTop, DieSide, DieSide));
     }
     auto* Mark = Make<BitmapBox>(picGameTray, QStringLiteral("picMarker(%1)").arg(i), MarkerBitmap, std::ref(Pictures));
+    SetName(*Mark, QStringLiteral("Mark over die %1").arg(i + 1));
     picMarker[i] = Placed(Mark, TwipsRect(MarkerLeft[i], MarkerTop, MarkerSide, MarkerSide));
   }
   pctDivider = Placed(Make<BitmapBox>(picTray2, QStringLiteral("pctDivider"), DividerBitmap, std::ref(Pictures)),
                       TwipsRect(0, DividerTop, DividerWidth, DividerHeight));
+  SetName(*pctDivider, QStringLiteral("Divider"));
   picSampleDice = Tray(QStringLiteral("picSampleDice"), SampleTop, false);
   PlaceCover();
 }
@@ -216,10 +219,10 @@ void frmMain::ShowControls() {
   Show(cmdPassDice, t.cmdPassDice);
   EnableTray(picTray1, t.picTray1.Enabled);
   EnableTray(picTray2, t.picTray2.Enabled);
-  const bool PersonPlays = game.PersonMayPlay();
+  const bool PersonPlays = game.PersonMayPlay() && !t.Rolling;
   for (int i = 0; i < 6; ++i) {
-    Picture1[i]->setPicture(Wears.SampleSet == 0 ? t.Picture1(i) : Wears.SampleSet + i + 1);
-    Picture1[6 + i]->setPicture(t.Picture1(10 + i));
+    ShowDie(i, Wears.SampleSet == 0 ? t.Picture1(i) : Wears.SampleSet + i + 1);
+    ShowDie(6 + i, t.Picture1(10 + i));
     Picture1[i]->setTakeable(PersonPlays && game.CanTake(i));
     Picture1[6 + i]->setTakeable(PersonPlays && game.CanTake(10 + i));
     Picture1[i]->setPale(t.Busted && !Wears.Covered);
@@ -254,14 +257,21 @@ void frmMain::Show(ButtonPlus* Widget, const Button& Control) {
 }
 
 void frmMain::Show(FitLabel* Widget, const std::string& Caption, bool Visible, int Top) {
+  const auto IsBlank = [Widget] { return Widget->text().trimmed().isEmpty(); };
+  const bool WasBlank = IsBlank();
   Widget->setText(QString::fromStdString(Caption));
   Widget->setVisible(Visible);
+  if (Visible && IsBlank() != WasBlank) {  // to a listener an empty text isn't there
+    QAccessibleEvent Event(Widget, WasBlank ? QAccessible::ObjectShow : QAccessible::ObjectHide);
+    QAccessible::updateAccessibility(&Event);
+  }
   Widget->move(Widget->x(), Top);
 }
 
 /// What a screen reader says of the dice: "Die 3: five, scores".
 void frmMain::DescribeDice() {
   static const char* const Faces[] = {"", "one", "two", "three", "four", "five", "six"};
+  if (game.t.Rolling) return;
   const Module1& m = game.m;
   for (std::size_t i = 0; i < described.size(); ++i) {
     const bool OnTable = i < 6;
@@ -270,7 +280,7 @@ void frmMain::DescribeDice() {
     if (std::exchange(described[i], {Face, Counts}) == std::pair(Face, Counts)) continue;
     QString Name = QStringLiteral("%1 %2: %3").arg(OnTable ? "Die" : "Tray").arg(i % 6 + 1).arg(Faces[Face]);
     if (Counts) Name += OnTable ? ", scores" : ", can be taken back";
-    SetName(*Picture1[i], Face == 0 ? QString() : Name);
+    if (Face != 0) SetName(*Picture1[i], Name);  // an empty box isn't there
   }
 }
 
@@ -280,13 +290,21 @@ void frmMain::EnableTray(DiceTray* Tray, bool Enabled) {
   Tray->setEnabled(Enabled);
 }
 
-/// A die that was taken with the keyboard leaves the focus to its neighbour, the last one to the table.
+/// A die that goes hands the focus to the table.
+void frmMain::ShowDie(std::size_t Box, int Picture) {
+  if (Picture == 0 && focusWidget() == Picture1[Box]) {
+    setFocus();
+    focusedRow = Box < 6 ? 0 : 6;
+  }
+  Picture1[Box]->setPicture(Picture);
+}
+
+/// When the handler has done with the dice, the focus is again where it was among them: on the first one that is left.
 void frmMain::KeepFocusOnDice() {
-  const auto Here = std::find(Picture1.begin(), Picture1.end(), focusWidget());
-  if (Here == Picture1.end() || (*Here)->Picture() != 0) return;
-  const auto Row = Here - Picture1.begin() < 6 ? Picture1.begin() : Picture1.begin() + 6;
-  const auto Next = std::find_if(Row, Row + 6, [](DieBox* Box) { return Box->Picture() != 0 && Box->isEnabled(); });
-  Next != Row + 6 ? (*Next)->setFocus() : setFocus();
+  if (!focusedRow) return;
+  const auto Row = Picture1.begin() + *std::exchange(focusedRow, std::nullopt);
+  const auto First = std::find_if(Row, Row + 6, [](DieBox* Box) { return Box->Picture() != 0 && Box->isEnabled(); });
+  if (First != Row + 6 && focusWidget() == this) (*First)->setFocus();
 }
 
 /// As the eye goes: from the menus over the dice to the buttons.

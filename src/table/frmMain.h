@@ -115,6 +115,7 @@ class frmMain : public QWidget {
   void ShowBackground(const QString& Path);
   void DescribeDice();
   void EnableTray(DiceTray* Tray, bool Enabled);
+  void ShowDie(std::size_t Box, int Picture);
   void KeepFocusOnDice();
   void OrderTabStops();
   void SetStripWidth(int Width, const QImage& Whole);
@@ -126,6 +127,8 @@ class frmMain : public QWidget {
   std::optional<Dress> drawn;
   /// The dice as they were described last: faces, and what can be taken.
   std::array<std::pair<int, bool>, 12> described{};
+  /// First box of the row in which a die had the focus, until the handler that took the die has ended.
+  std::optional<std::ptrdiff_t> focusedRow;
   bool rollHadFocus = false;  ///< Roll Dice went off with the focus: it takes it back when it comes on again
   bool activatedBefore = false;
 };
