@@ -81,6 +81,9 @@ void HoldRightEdge(QWidget& Window, const QImage& Whole) {
   XSetWindowAttributes Wanted{};
   Wanted.bit_gravity = NorthEastGravity;
   XChangeWindowAttributes(To, Window.winId(), CWBitGravity, &Wanted);
+  // Until the new size is fixed nobody looks: a window manager that saw the change half done would give the frame
+  // grips.
+  XGrabServer(To);
   if (Is.visual->red_mask != 0xFF0000 || Is.depth < 24) return;
   QImage Picture = Whole.convertToFormat(QImage::Format_RGB32);
   XImage* const Sent =
@@ -101,7 +104,10 @@ void HoldRightEdge(QWidget& Window, const QImage& Whole) {
 
 void AwaitSize(const QWidget& Window) {
   Display* const To = Server();
-  if (To == nullptr || !Window.isVisible()) return;
+  if (To == nullptr) return;
+  XUngrabServer(To);
+  XFlush(To);
+  if (!Window.isVisible()) return;
   const QSize Wanted = Window.size() * Window.devicePixelRatioF();
   XWindowAttributes Is{};
   for (int Waited = 0; Waited < LongestWait; Waited += LookEvery) {

@@ -18,7 +18,8 @@ std::optional<QMargins> FrameToCome(QWidget& Window);
 void HearKeysReleasedOnce();
 
 /// Prepares a window that will change its width at its left edge: what it shows stays at the right edge, and what comes
-/// to light shows `Whole`, the window in its new size, before the program has painted anything.
+/// to light shows `Whole`, the window in its new size, before the program has painted anything. Other programs stand
+/// still until AwaitSize.
 void HoldRightEdge(QWidget& Window, const QImage& Whole);
 
 /// Waits until the window so prepared has got the size that it has asked for.
