@@ -91,7 +91,7 @@ void OptionsPanel::BuildSwitches() {
   }
   Sound->addLayout(OnOff);
   cmdCustomizeSounds = AddTo(Sound, MakeButton(this, QStringLiteral("cmdCustomizeSounds"), QStringLiteral("Customize"),
-                                               &OptionsPanel::customizeSoundsAsked));
+                                               [this] { game.Command([this] { emit customizeSoundsAsked(); }); }));
   cmdCustomizeSounds->setFixedHeight(CommandHeight);
 }
 
@@ -131,9 +131,9 @@ void OptionsPanel::BuildSwatches() {
 
 void OptionsPanel::BuildCommands() {
   ARCmdSaveOptions = MakeButton(this, QStringLiteral("ARCmdSaveOptions"), QStringLiteral("Save"),
-                                &OptionsPanel::ARCmdSaveOptions_Click);
+                                [this] { game.Command([this] { ARCmdSaveOptions_Click(); }); });
   ARCmdCancelOptions = MakeButton(this, QStringLiteral("ARCmdCancelOptions"), QStringLiteral("Cancel"),
-                                  &OptionsPanel::ARCmdCancelOptions_Click);
+                                  [this] { game.Command([this] { ARCmdCancelOptions_Click(); }); });
   for (ButtonPlus* Command : {ARCmdSaveOptions, ARCmdCancelOptions}) {
     Command->setFixedHeight(CommandHeight);
     frames->addWidget(Command);
