@@ -4,7 +4,6 @@
 #include <QByteArrayList>
 #include <QString>
 
-#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -12,7 +11,7 @@
 #include "storage/HighRollers.h"
 #include "storage/IniInfo.h"
 
-namespace blunko {
+using blunko::IniInfo, blunko::RollerLists, blunko::ScrambleText, blunko::UnscrambleText;
 
 namespace {
 
@@ -24,21 +23,17 @@ void Holds(bool Truth, const char* What, const QByteArray& Text) {
 
 /// A key that is written holds its value, changes no other key, and is written once.
 void CheckInfo(const QByteArray& Text) {
-  const QString Keys[] = {QStringLiteral("DieColor"), QStringLiteral("Background"), QStringLiteral("New")};
-  const QString Values[] = {QStringLiteral("112"), QStringLiteral(" \"blank\" ends "),
-                            QString::fromLatin1(Text.left(40)), QString()};
+  const QString Keys[] = {"DieColor", "Background", "New"};
   for (const QString& Key : Keys) {
-    Holds(IniInfo::FindValue(Text, Key).size() <= IniInfo::LongestValue, "a value has an end", Text);
-    for (const QString& Value : Values) {
+    for (const QString& Value : {QString(), QStringLiteral(" \"blank\" ends "), QStringLiteral("\"quoted\""),
+                                 QStringLiteral("'\n[a]=b\r"), QString::fromLatin1(Text)}) {
       const QByteArray Written = IniInfo::WithValue(Text, Key, Value);
-      QString Expected = Value;
-      for (QChar& Letter : Expected) {
-        if (Letter == QLatin1Char('\n') || Letter == QLatin1Char('\r') || Letter.isNull()) Letter = QLatin1Char(' ');
-      }
+      QString Expected = Value.left(IniInfo::LongestValue);
+      for (const char16_t Letter : {u'\n', u'\r', u'\0'}) Expected.replace(Letter, ' ');
       Holds(IniInfo::FindValue(Written, Key) == Expected, "a written value is read", Text);
       for (const QString& Other : Keys) {
-        Holds(Other == Key || IniInfo::FindValue(Written, Other) == IniInfo::FindValue(Text, Other),
-              "other keys keep their values", Text);
+        Holds(Other == Key || IniInfo::FindValue(Written, Other) == IniInfo::FindValue(Text, Other), "others stay",
+              Text);
       }
     }
   }
@@ -49,21 +44,18 @@ void CheckInfo(const QByteArray& Text) {
 void CheckLists(const QByteArray& File) {
   const QByteArray Text = UnscrambleText(File);
   Holds(UnscrambleText(ScrambleText(Text)) == Text, "scrambling can be undone", Text);
+  Holds(!ScrambleText(Text).contains('\0'), "no scrambled letter is 0", Text);
   const auto Lists = RollerLists::OfText(Text);
-  if (!Lists) return;
-  const QByteArray Written = Lists->Text();
-  Holds(RollerLists::OfText(Written) == Lists, "written lists are read", Text);
-  Holds(Written.size() <= Text.size(), "nothing is added", Text);  // zeros before a score go
+  Holds(!Lists || RollerLists::OfText(Lists->Text()) == Lists, "written lists are read", Text);
+  Holds(!Lists || Lists->Text().size() <= Text.size(), "nothing is added", Text);  // zeros before a score go
 }
 
 }  // namespace
 
-}  // namespace blunko
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size) {
   const QByteArray Text(reinterpret_cast<const char*>(Data), static_cast<qsizetype>(Size));
-  blunko::CheckInfo(Text);
-  blunko::CheckLists(Text);
+  CheckInfo(Text);
+  CheckLists(Text);
   return 0;
 }
 
@@ -74,36 +66,28 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size
 
 /// file_readers_fuzz [seconds [seed]]: mutates sound files for that long.
 int main(int argc, char** argv) {
-  const int Seconds = argc > 1 ? std::atoi(argv[1]) : 5;
-  const unsigned Seed = argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 1;
+  const std::chrono::seconds Time(argc > 1 ? std::atoi(argv[1]) : 5);
+  const int Seed = argc > 2 ? std::atoi(argv[2]) : 1;
   const QByteArray Seeds[] = {
       "[Info]\r\nDieColor=112\r\n; a remark\r\nBackground=\"/a b/c.jpg\"\r\n\r\n[Other]\r\nDieColor=1\r\n",
-      "\xEF\xBB\xBF[info]\ndiecolor = 7\nScanned=True\n[Info]\nNew=2",
-      blunko::ScrambleText(blunko::RollerLists::Default().Text()),
-  };
-  QByteArrayList Pieces = QByteArray("[Info]|]=|\"|'|\r\n|\n|\r|DieColor|\xEF\xBB\xBF|\xA4").split('|');
-  Pieces << blunko::ScrambleText("\xA4") << blunko::ScrambleText("9\r\n");
-  std::mt19937 Random(Seed);
+      "\xEF\xBB\xBF[info]\ndiecolor = 7\nScanned=True\n[Info]\nNew=2", ScrambleText(RollerLists::Default().Text())};
+  QByteArrayList Pieces = QByteArray("|[Info]|]=|\"|'|\r\n|\n|\r|DieColor|\xEF\xBB\xBF|\xA4").split('|');
+  Pieces << ScrambleText("\xA4") << ScrambleText("9\r\n");
+  std::mt19937 Random(static_cast<unsigned>(Seed));
   const auto Below = [&](qsizetype Bound) { return static_cast<qsizetype>(Random() % static_cast<unsigned>(Bound)); };
-  const auto End = std::chrono::steady_clock::now() + std::chrono::seconds(Seconds);
+  const auto End = std::chrono::steady_clock::now() + Time;
   long Runs = 0;
   for (; std::chrono::steady_clock::now() < End; ++Runs) {
     QByteArray Text = Seeds[Below(std::size(Seeds))];
     for (qsizetype Changes = Below(6); Changes > 0; --Changes) {
-      const qsizetype Place = Below(Text.size() + 1);
-      switch (Below(5)) {
-        case 0: Text.insert(Place, Pieces[Below(Pieces.size())]); break;
-        case 1: Text.remove(Place, 1 + Below(20)); break;
-        case 2: Text.insert(Place, Text.mid(Below(Text.size() + 1), Below(60))); break;
-        case 3: Text.truncate(Place); break;
-        default:
-          if (Place < Text.size()) Text[Place] = static_cast<char>(Random());
-      }
+      const qsizetype From = Below(Text.size() + 1), Lengths[] = {0, 1, Below(20), Text.size()};
+      const QByteArray News[] = {Pieces[Below(Pieces.size())], QByteArray(1, static_cast<char>(Random())),
+                                 Text.mid(Below(Text.size() + 1), Below(60))};
+      Text.replace(From, Lengths[Below(4)], News[Below(3)]);
     }
-    LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(Text.constData()),
-                           static_cast<std::size_t>(Text.size()));
+    LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(Text.data()), static_cast<std::size_t>(Text.size()));
   }
-  std::printf("%ld texts, seed %u\n", Runs, Seed);
+  std::printf("%ld texts, seed %d\n", Runs, Seed);
   return Runs > 0 ? 0 : 1;
 }
 
