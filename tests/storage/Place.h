@@ -28,9 +28,12 @@ class Place {
   QStringList Names() const {
     return QDir(Path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
   }
+  void Chmod(const QString& Name, mode_t Mode) const {
+    if (chmod(QFile::encodeName(Path(Name)).constData(), Mode) != 0) abort();
+  }
   QString Mkdir(const QString& Name, mode_t Mode) const {
-    const QByteArray Folder = QFile::encodeName(Path(Name));
-    if (!QDir().mkpath(Path(Name)) || chmod(Folder.constData(), Mode) != 0) abort();
+    if (!QDir().mkpath(Path(Name))) abort();
+    Chmod(Name, Mode);
     return Path(Name);
   }
 
@@ -42,10 +45,8 @@ class Place {
 class Unprivileged {
  public:
   explicit Unprivileged(const Place& Where) {
-    if (!root) return;
-    constexpr uid_t Nobody = 65534;
-    if (chown(QFile::encodeName(Where.Path()).constData(), Nobody, Nobody) != 0) abort();
-    if (setresuid(Nobody, Nobody, 0) != 0) abort();
+    const QByteArray Folder = QFile::encodeName(Where.Path());
+    if (root && (chown(Folder.constData(), nobody, nobody) != 0 || setresuid(nobody, nobody, 0) != 0)) abort();
   }
   ~Unprivileged() {
     if (root && setresuid(0, 0, 0) != 0) abort();
@@ -53,6 +54,7 @@ class Unprivileged {
   Q_DISABLE_COPY_MOVE(Unprivileged)
 
  private:
+  static constexpr uid_t nobody = 65534;
   const bool root = geteuid() == 0;
 };
 

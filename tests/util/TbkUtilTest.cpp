@@ -2,10 +2,8 @@
 #include <QRegularExpression>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTimer>
 
 #include <atomic>
-#include <functional>
 #include <future>
 #include <gtest/gtest.h>
 #include <thread>
@@ -18,49 +16,37 @@ namespace {
 
 constexpr int Limit = 400;      // ms, for a server that never comes to an end
 constexpr int Patience = 5000;  // ms: a loaded machine may be late, but not for ever
+const QByteArray Ok = "HTTP/1.1 200 OK\r\n";
 
-/// Answers every request on loopback as it is told.
+/// On loopback, answers with `Begin` and hangs up; `Stays` on the line instead, sending `More` for ever.
 class Server {
+  std::promise<quint16> port;
+  std::atomic<bool> done = false;
+  std::thread thread;
+
  public:
-  explicit Server(std::function<void(QTcpSocket&)> Answer) : answer(std::move(Answer)) {
-    if (!tcp.listen(QHostAddress::LocalHost)) abort();
-    QObject::connect(&tcp, &QTcpServer::newConnection, &tcp, [this] {
-      QTcpSocket* Client = tcp.nextPendingConnection();
-      QObject::connect(Client, &QTcpSocket::readyRead, Client, [this, Client] {
-        if (!Client->readAll().contains("\r\n\r\n")) return;
-        answer(*Client);
-      });
-    });
+  explicit Server(const QByteArray& Begin, bool Stays = false, const QByteArray& More = {})
+      : thread([=, this] {
+          QTcpServer Tcp;
+          if (!Tcp.listen(QHostAddress::LocalHost)) abort();
+          port.set_value(Tcp.serverPort());
+          while (!done) {
+            if (!Tcp.waitForNewConnection(5)) continue;
+            QTcpSocket* const Client = Tcp.nextPendingConnection();
+            Client->waitForReadyRead(Patience);
+            Client->readAll();
+            Client->write(Begin);
+            do Client->write(More);
+            while (Client->waitForBytesWritten(Patience) && !More.isEmpty() && !done);
+            if (!Stays) Client->disconnectFromHost();
+          }
+        }) {}
+  ~Server() {
+    done = true;
+    thread.join();
   }
-  QString Address(const QString& Path = "/version.txt") const {
-    return QStringLiteral("http://127.0.0.1:%1%2").arg(tcp.serverPort()).arg(Path);
-  }
-
- private:
-  std::function<void(QTcpSocket&)> answer;
-  QTcpServer tcp;
+  const QByteArray Address = "http://127.0.0.1:" + QByteArray::number(port.get_future().get()) + "/version.txt";
 };
-
-/// A whole answer that the connection's end follows.
-std::function<void(QTcpSocket&)> Reply(const QByteArray& Status, const QByteArray& Fields, const QByteArray& Body) {
-  return [=](QTcpSocket& Client) {
-    Client.write("HTTP/1.1 " + Status + "\r\nConnection: close\r\n" + Fields + "\r\n" + Body);
-    Client.disconnectFromHost();
-  };
-}
-std::function<void(QTcpSocket&)> Text(const QByteArray& Body) {
-  return Reply("200 OK", "Content-Length: " + QByteArray::number(Body.size()) + "\r\n", Body);
-}
-
-/// An answer that never ends.
-std::function<void(QTcpSocket&)> Endless(const QByteArray& Begin, const QByteArray& Part) {
-  return [=](QTcpSocket& Client) {
-    Client.write(Begin);
-    auto* Timer = new QTimer(&Client);
-    QObject::connect(Timer, &QTimer::timeout, &Client, [&Client, Part] { Client.write(Part); });
-    Timer->start(5);
-  };
-}
 
 TbkUtil::VersionAnswer Ask(const QString& Address, int TimeLimit = 10 * Patience) {
   return TbkUtil(Address, TimeLimit).UtilCheckVersion(1, 9, 3);
@@ -71,79 +57,51 @@ TEST(UtilCheckVersion, ComparesNumberByNumber) {
       {TbkUtil::UpToDate, {"1.9.3", "1.8.9", "0.10.10"}},
       {TbkUtil::NewerExists, {"1.9.10", "1.10.0", "2.0.0", " \t1.9.4 \r\n"}},
       {TbkUtil::VersionError,
-       {"", "newest", "2.0", "2.0.0.0", "2.0.0.", ".2.0.0", "2..0", "v2.0.0", "2. 0.0", "2.0.0\n2.0.0", "-2.0.0",
+       {"", "newest", "2.0", "2.0.0.0", "2.0.0.", ".2.0.0", "2..0", "v2.0.0", "2. 0.0", "-2.0.0",
         QByteArray("2.0.0\0", 6), "99999999999.0.0", "2.0.0" + QByteArray(500, ' ')}}};
   for (const auto& [Answer, Bodies] : Rows) {
     for (const QByteArray& Body : Bodies) {
-      const Server server(Text(Body));
-      EXPECT_EQ(Ask(server.Address()), Answer) << Body.constData();
+      const Server Target(Ok + "Content-Length: " + QByteArray::number(Body.size()) + "\r\n\r\n" + Body);
+      EXPECT_EQ(Ask(Target.Address), Answer) << Body.constData();
     }
   }
+  const Server Target(Ok + "\r\n1.9.4"), Moved("HTTP/1.1 301 Moved\r\nLocation: " + Target.Address + "\r\n\r\n");
+  EXPECT_EQ(Ask(Moved.Address), TbkUtil::NewerExists);
 }
 
 TEST(UtilCheckVersion, AnythingUnexpectedIsAnErrorWithinTheLimit) {
-  const auto Says = [](const QByteArray& Begin) { return [=](QTcpSocket& Client) { Client.write(Begin); }; };
   struct Row {
-    const char* Trouble;
-    std::function<void(QTcpSocket&)> Answer;
-    bool Waits = false;  ///< a slow server has until the limit; all else is known at once
+    QByteArray Begin;
+    bool Stays = false;
+    QByteArray More = {};
+    int TimeLimit = 10 * Patience;  ///< a slow server has until the limit; all else is known at once
   };
-  const Row Rows[] = {
-      {"not found", Reply("404 Not Found", "", "2.0.0")},
-      {"redirect to itself", Reply("302 Found", "Location: /version.txt\r\n", "")},
-      {"redirect to a file", Reply("302 Found", "Location: file:///etc/hostname\r\n", "")},
-      {"no HTTP", [](QTcpSocket& Client) { Client.write("2.0.0\n"), Client.disconnectFromHost(); }},
-      {"hangs up early", Reply("200 OK", "Content-Length: 100\r\n", "2.0.0")},
-      {"breaks off", [](QTcpSocket& Client) { Client.write("HTTP/1.1 200 OK\r\nContent-Le"), Client.abort(); }},
-      {"sends for ever", Endless("HTTP/1.1 200 OK\r\n\r\n", QByteArray(5000, '1'))},
-      {"says nothing", Says(""), true},
-      {"stops in the middle", Says("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\n2.0"), true},
-      {"dribbles its head", Endless("HTTP/1.1 200 OK\r\n", "X: y\r\n"), true}};
+  const Row Rows[] = {{"HTTP/1.1 404 Not Found\r\n\r\n2.0.0"},
+                      {"HTTP/1.1 302 Found\r\nLocation: /version.txt\r\n\r\n"},
+                      {"HTTP/1.1 302 Found\r\nLocation: file:///etc/hostname\r\n\r\n"},
+                      {"2.0.0\n"},
+                      {Ok + "Content-Length: 100\r\n\r\n2.0.0"},
+                      {Ok + "\r\n", true, QByteArray(5000, '1')},
+                      {"", true, "", Limit},
+                      {Ok + "Content-Length: 5\r\n\r\n2.0", true, "", Limit},
+                      {Ok, true, QByteArray("X-Head: y\r\n").repeated(10000), Limit}};
   for (const Row& row : Rows) {
-    const Server server(row.Answer);
+    const Server Target(row.Begin, row.Stays, row.More);
     QElapsedTimer Clock;
     Clock.start();
-    EXPECT_EQ(Ask(server.Address(), row.Waits ? Limit : 10 * Patience), TbkUtil::VersionError) << row.Trouble;
-    EXPECT_LT(Clock.elapsed(), Patience) << row.Trouble;
-    EXPECT_GE(Clock.elapsed(), row.Waits ? Limit - 5 : 0) << row.Trouble;
+    EXPECT_EQ(Ask(Target.Address, row.TimeLimit), TbkUtil::VersionError) << row.Begin.constData();
+    // The library's own end waits for 5 s while a server floods it.
+    EXPECT_LT(Clock.elapsed(), Patience - 100) << row.Begin.constData();
+    EXPECT_GE(Clock.elapsed(), row.TimeLimit == Limit ? Limit - 5 : 0) << row.Begin.constData();
   }
-}
-
-TEST(UtilCheckVersion, FollowsARedirect) {
-  const Server Target(Text("1.9.4"));
-  const Server Start(Reply("301 Moved", "Location: " + Target.Address().toLatin1() + "\r\n", ""));
-  EXPECT_EQ(Ask(Start.Address()), TbkUtil::NewerExists);
-}
-
-TEST(UtilCheckVersion, ALimitIsALimitForAServerThatFloods) {
-  std::promise<quint16> Port;
-  std::atomic<bool> Enough = false;
-  std::thread Flood([&] {
-    QTcpServer Tcp;
-    if (!Tcp.listen(QHostAddress::LocalHost)) abort();
-    Port.set_value(Tcp.serverPort());
-    if (!Tcp.waitForNewConnection(Patience)) return;
-    QTcpSocket* const Client = Tcp.nextPendingConnection();
-    Client->write("HTTP/1.1 200 OK\r\n");
-    do Client->write(QByteArray("X-Head: y\r\n").repeated(10000));
-    while (!Enough && Client->waitForBytesWritten(Patience));
-  });
-  QElapsedTimer Clock;
-  Clock.start();
-  EXPECT_EQ(Ask(QStringLiteral("http://127.0.0.1:%1/").arg(Port.get_future().get()), Limit), TbkUtil::VersionError);
-  EXPECT_LT(Clock.elapsed(), Limit + Patience - 500) << "the library's own end waits for 5 s";
-  Enough = true;
-  Flood.join();
 }
 
 TEST(UtilCheckVersion, TakesWebAddressesOnly) {
   const Place place;
   place.Put("version.txt", "2.0.0");
-  ASSERT_EQ(mkfifo(QFile::encodeName(place.Path("pipe")).constData(), 0600), 0);
-  for (const QString& Address :
-       {QString(), QStringLiteral("http://"), QStringLiteral("http://127.0.0.1:99999/"), QStringLiteral("nonsense"),
-        place.Path("version.txt"), "file://" + place.Path("version.txt"), "file://" + place.Path("pipe"),
-        QStringLiteral("data:,2.0.0"), Server(Text("2.0.0")).Address()}) {  // it is gone by then
+  const QString Path = place.Path("version.txt");
+  for (const QString& Address : {QString(), QStringLiteral("http://"), QStringLiteral("http://127.0.0.1:99999/"), Path,
+                                 "file://" + Path, QStringLiteral("data:,2.0.0")}) {
     EXPECT_EQ(Ask(Address), TbkUtil::VersionError) << Address.toStdString();
   }
 }
@@ -153,13 +111,11 @@ TEST(UtilSurveyHardware, IsReadableAndNamesNobody) {
   TbkUtil Util("");
   Util.UtilSetFolder(place.Path());
   Util.UtilSurveyHardware();
-  EXPECT_EQ(place.Names(), QStringList("hardware.txt"));
   const QString Survey = QString::fromUtf8(place.Get("hardware.txt"));
-  static const QRegularExpression Form(
-      QStringLiteral("\\AProcessor: [^\\n]*\\w[^\\n]*, \\d+ threads\\nMemory: \\d+ kB\\nSystem: [^\\n]+, linux "
-                     "\\d[^\\n]*\\n(Screen: \\d+ x \\d+ pixels, scale [\\d.]+\\n)+\\z"));
+  const QRegularExpression Form(
+      "\\AProcessor: .*\\w.*, \\d+ threads\nMemory: \\d+ kB\nSystem: .+, linux \\d.*\n"
+      "(Screen: \\d+ x \\d+ pixels, scale [\\d.]+\n)+\\z");
   EXPECT_TRUE(Form.match(Survey).hasMatch()) << Survey.toStdString();
-
   for (const QString& Name : {QSysInfo::machineHostName(), QFileInfo(place.Path()).owner(), QDir::homePath()}) {
     const QRegularExpression Word("(?<![\\w.-])" + QRegularExpression::escape(Name) + "(?![\\w.-])");
     EXPECT_FALSE(Survey.contains(Word)) << Name.toStdString() << " in\n" << Survey.toStdString();
@@ -171,13 +127,9 @@ TEST(UtilStoreLists, PutsExactlyTheseBytesInPlace) {
   TbkUtil Util("");
   EXPECT_FALSE(Util.UtilStoreLists("lost")) << "there is no folder yet";
   Util.UtilSetFolder(place.Path());
-  for (const QByteArray& Bytes : {QByteArray("a\r\n\0\xFF\xA4\n", 7), QByteArray(30000, '\x01')}) {
-    EXPECT_TRUE(Util.UtilStoreLists(Bytes));
-    EXPECT_EQ(place.Get("highscores.dat"), Bytes);
-  }
-  Util.UtilSetFolder(place.Path("gone"));
-  EXPECT_FALSE(Util.UtilStoreLists("new"));
-  EXPECT_EQ(place.Names(), QStringList("highscores.dat"));
+  const QByteArray Bytes("a\r\n\0\xFF\xA4\n", 7);
+  EXPECT_TRUE(Util.UtilStoreLists(Bytes));
+  EXPECT_EQ(place.Get("highscores.dat"), Bytes);
 }
 
 }  // namespace
