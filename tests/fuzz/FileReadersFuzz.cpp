@@ -47,7 +47,6 @@ void CheckLists(const QByteArray& File) {
   Holds(!ScrambleText(Text).contains('\0'), "no scrambled letter is 0", Text);
   const auto Lists = RollerLists::OfText(Text);
   Holds(!Lists || RollerLists::OfText(Lists->Text()) == Lists, "written lists are read", Text);
-  Holds(!Lists || Lists->Text().size() <= Text.size(), "nothing is added", Text);  // zeros before a score go
 }
 
 }  // namespace
@@ -66,18 +65,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size
 
 /// file_readers_fuzz [seconds [seed]]: mutates sound files for that long.
 int main(int argc, char** argv) {
-  const std::chrono::seconds Time(argc > 1 ? std::atoi(argv[1]) : 5);
-  const int Seed = argc > 2 ? std::atoi(argv[2]) : 1;
   const QByteArray Seeds[] = {
       "[Info]\r\nDieColor=112\r\n; a remark\r\nBackground=\"/a b/c.jpg\"\r\n\r\n[Other]\r\nDieColor=1\r\n",
       "\xEF\xBB\xBF[info]\ndiecolor = 7\nScanned=True\n[Info]\nNew=2", ScrambleText(RollerLists::Default().Text())};
   QByteArrayList Pieces = QByteArray("|[Info]|]=|\"|'|\r\n|\n|\r|DieColor|\xEF\xBB\xBF|\xA4").split('|');
   Pieces << ScrambleText("\xA4") << ScrambleText("9\r\n");
-  std::mt19937 Random(static_cast<unsigned>(Seed));
+  std::mt19937 Random(argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 1);
   const auto Below = [&](qsizetype Bound) { return static_cast<qsizetype>(Random() % static_cast<unsigned>(Bound)); };
-  const auto End = std::chrono::steady_clock::now() + Time;
-  long Runs = 0;
-  for (; std::chrono::steady_clock::now() < End; ++Runs) {
+  const auto End = std::chrono::steady_clock::now() + std::chrono::seconds(argc > 1 ? std::atoi(argv[1]) : 5);
+  while (std::chrono::steady_clock::now() < End) {
     QByteArray Text = Seeds[Below(std::size(Seeds))];
     for (qsizetype Changes = Below(6); Changes > 0; --Changes) {
       const qsizetype From = Below(Text.size() + 1), Lengths[] = {0, 1, Below(20), Text.size()};
@@ -87,8 +83,6 @@ int main(int argc, char** argv) {
     }
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(Text.data()), static_cast<std::size_t>(Text.size()));
   }
-  std::printf("%ld texts, seed %d\n", Runs, Seed);
-  return Runs > 0 ? 0 : 1;
 }
 
 #endif

@@ -10,8 +10,7 @@ namespace blunko::test {
 namespace {
 
 /// An installation: the program's folder with its default picture.
-class GameSettingsTest : public testing::Test {
- protected:
+struct GameSettingsTest : testing::Test {
   GameSettingsTest() { place.Put("Background/Satin.jpg", "a picture"); }
 
   GameSettings Load() const { return GameSettings(Folders{place.Path(), "Game", place.Path(), "/tmp/own/"}); }
@@ -39,33 +38,52 @@ class GameSettingsTest : public testing::Test {
 };
 
 TEST_F(GameSettingsTest, TakesWhateverStandsInTheFile) {
-  const std::pair<int, QByteArrayList> Rows[] = {
-      {0,
-       {"Scanned=", "SoundFXOFF=", "Scanned=perhaps", "ShowWelcomeMessage=0", "SortDice=fALSE",
-        "ComputerFast=", "ComputerFast=7", "TextColor=", "TextColor=12345", "TextColor=-1", "TextColor=99999999999"}},
-      {1, {"ShowWelcomeMessage=", "SortDice=", "MarkScorers=", "Scanned=-1"}},
-      {0x0000FF, {"TextColor=1"}},
-      {0xFF0000, {"TextColor=16711680"}},
-      {112, {"DieColor=", "DieColor=blue 240", "DieColor=0", "DieColor=-5", "DieColor=32768", "DieColor=nan"}},
-      {240, {"DieColor=240 blue", "DieColor=+240"}},
-      {114, {"DieColor=113.5", "DieColor=114.5"}},
-      {5000, {"defPlayToScore=", "defPlayToScore=7500"}},
-      {500, {"defBreakInScore=", "defBreakInScore=501"}},
-      {100, {"Scale=", "Scale=401", "Scale=99"}},
-      {101, {"Scale= 101 "}}};
-  for (const auto& [Value, Lines] : Rows) {
-    for (const QByteArray& Line : Lines) {
-      const QByteArray Expected = ' ' + Line.left(Line.indexOf('=') + 1) + QByteArray::number(Value) + ' ';
-      EXPECT_THAT(Held(Load(Line)), testing::HasSubstr(Expected.toStdString())) << Line.constData();
-      EXPECT_EQ(Keys(), Line) << "reading repairs nothing";
-    }
+  static const char* const Rows[] = {"Scanned=|0",
+                                     "Scanned=-1|1",
+                                     "Scanned=perhaps|0",
+                                     "ShowWelcomeMessage=|1",
+                                     "ShowWelcomeMessage=0|0",
+                                     "SortDice=|1",
+                                     "SortDice=fALSE|0",
+                                     "MarkScorers=|1",
+                                     "SoundFXOFF=|0",
+                                     "Background=|Satin.jpg",
+                                     "UndoSound=|/tmp/own/undo.wav",
+                                     "DieColor=|112",
+                                     "DieColor=240 blue|240",
+                                     "DieColor=blue 240|112",
+                                     "DieColor=0|112",
+                                     "DieColor=+240|240",
+                                     "DieColor=-5|112",
+                                     "DieColor=113.5|114",
+                                     "DieColor=114.5|114",
+                                     "DieColor=32768|112",
+                                     "DieColor=nan|112",
+                                     "TextColor=|0",
+                                     "TextColor=1|255",
+                                     "TextColor=16711680|16711680",
+                                     "TextColor=12345|0",
+                                     "TextColor=-1|0",
+                                     "TextColor=99999999999|0",
+                                     "ComputerFast=|0",
+                                     "ComputerFast=7|0",
+                                     "defPlayToScore=|5000",
+                                     "defPlayToScore=7500|5000",
+                                     "defBreakInScore=|500",
+                                     "defBreakInScore=501|500",
+                                     "Scale=|100",
+                                     "Scale= 101 |101",
+                                     "Scale=401|100",
+                                     "Scale=99|100"};
+  for (const QByteArray Row : Rows) {
+    const QByteArray Line = Row.left(Row.indexOf('|')), Value = Row.mid(Row.indexOf('|') + 1) + ' ';
+    EXPECT_THAT(Held(Load(Line)), testing::HasSubstr((' ' + Line.left(Line.indexOf('=') + 1) + Value).toStdString()));
+    EXPECT_EQ(Keys(), Line) << "reading repairs nothing";
   }
 }
 
 TEST_F(GameSettingsTest, EachSetterWritesItsOwnKeyAtOnce) {
   GameSettings s = Load();
-  EXPECT_EQ(s.Background(), Satin());
-  EXPECT_EQ(s.GetSound("Undo"), "/tmp/own/undo.wav");
   EXPECT_EQ(place.Names(), QStringList("Background")) << "a first run writes nothing";
   s.setScanned(true);
   s.setShowWelcome(false);
@@ -85,10 +103,6 @@ TEST_F(GameSettingsTest, EachSetterWritesItsOwnKeyAtOnce) {
       "Scanned=True\nShowWelcomeMessage=False\nDieColor=240\nTextColor=3\nBackground=(None)\nSoundFXOFF="
       "True\nUndoSound=/t\xC3\xB6ne/u.wav\nNoseSound=/no/"
       "event.wav\ndefPlayToScore=10000\ndefBreakInScore=1000\nComputerFast=2\nSortDice=False\nMarkScorers=False\n");
-  EXPECT_EQ(Held(s),
-            " Scanned=1 ShowWelcomeMessage=0 DieColor=240 TextColor=65535 Background=(None) SoundFXOFF=1 "
-            "UndoSound=/t\xC3\xB6ne/u.wav defPlayToScore=10000 defBreakInScore=1000 ComputerFast=2 SortDice=0 "
-            "MarkScorers=0 Scale=100 ");
   EXPECT_EQ(Held(Load()), Held(s));
   s.setTextColour(0xFFFF80);
   EXPECT_EQ(Load().TextColour(), 0xFFFF80U);

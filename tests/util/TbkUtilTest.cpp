@@ -52,57 +52,45 @@ TbkUtil::VersionAnswer Ask(const QString& Address, int TimeLimit = 10 * Patience
   return TbkUtil(Address, TimeLimit).UtilCheckVersion(1, 9, 3);
 }
 
-TEST(UtilCheckVersion, ComparesNumberByNumber) {
+TEST(UtilCheckVersion, ComparesNumberByNumberAndTakesNothingElse) {
+  const auto Text = [](const QByteArray& Body) {
+    return Ok + "Content-Length: " + QByteArray::number(Body.size()) + "\r\n\r\n" + Body;
+  };
+  const Server Other(Text("1.9.4"));
   const std::pair<TbkUtil::VersionAnswer, QByteArrayList> Rows[] = {
-      {TbkUtil::UpToDate, {"1.9.3", "1.8.9", "0.10.10"}},
-      {TbkUtil::NewerExists, {"1.9.10", "1.10.0", "2.0.0", " \t1.9.4 \r\n"}},
+      {TbkUtil::UpToDate, {Text("1.9.3"), Text("1.8.9"), Text("0.10.10")}},
+      {TbkUtil::NewerExists,
+       {Text("1.9.10"), Text("1.10.0"), Text("2.0.0"), Text(" \t1.9.4 \r\n"),
+        "HTTP/1.1 301 Moved\r\nLocation: " + Other.Address + "\r\n\r\n"}},
       {TbkUtil::VersionError,
-       {"", "newest", "2.0", "2.0.0.0", "2.0.0.", ".2.0.0", "2..0", "v2.0.0", "2. 0.0", "-2.0.0",
-        QByteArray("2.0.0\0", 6), "99999999999.0.0", "2.0.0" + QByteArray(500, ' ')}}};
-  for (const auto& [Answer, Bodies] : Rows) {
-    for (const QByteArray& Body : Bodies) {
-      const Server Target(Ok + "Content-Length: " + QByteArray::number(Body.size()) + "\r\n\r\n" + Body);
-      EXPECT_EQ(Ask(Target.Address), Answer) << Body.constData();
-    }
+       {Text(""), Text("newest"), Text("2.0"), Text("2.0.0.0"), Text("2.0.0."), Text(".2.0.0"), Text("2..0"),
+        Text("v2.0.0"), Text("2. 0.0"), Text("-2.0.0"), Text(QByteArray("2.0.0\0", 6)), Text("99999999999.0.0"),
+        Text("2.0.0" + QByteArray(500, ' ')), "HTTP/1.1 404 Not Found\r\n\r\n2.0.0",
+        "HTTP/1.1 302 Found\r\nLocation: /version.txt\r\n\r\n",
+        "HTTP/1.1 302 Found\r\nLocation: file:///etc/hostname\r\n\r\n", "2.0.0\n",
+        Ok + "Content-Length: 100\r\n\r\n2.0.0"}}};
+  for (const auto& [Answer, Replies] : Rows) {
+    for (const QByteArray& Reply : Replies) EXPECT_EQ(Ask(Server(Reply).Address), Answer) << Reply.constData();
   }
-  const Server Target(Ok + "\r\n1.9.4"), Moved("HTTP/1.1 301 Moved\r\nLocation: " + Target.Address + "\r\n\r\n");
-  EXPECT_EQ(Ask(Moved.Address), TbkUtil::NewerExists);
+  for (const char* Address : {"", "http://", "http://127.0.0.1:99999/", "/etc/hostname", "data:,2.0.0"}) {
+    EXPECT_EQ(Ask(Address), TbkUtil::VersionError) << Address;
+  }
 }
 
-TEST(UtilCheckVersion, AnythingUnexpectedIsAnErrorWithinTheLimit) {
-  struct Row {
-    QByteArray Begin;
-    bool Stays = false;
-    QByteArray More = {};
-    int TimeLimit = 10 * Patience;  ///< a slow server has until the limit; all else is known at once
-  };
-  const Row Rows[] = {{"HTTP/1.1 404 Not Found\r\n\r\n2.0.0"},
-                      {"HTTP/1.1 302 Found\r\nLocation: /version.txt\r\n\r\n"},
-                      {"HTTP/1.1 302 Found\r\nLocation: file:///etc/hostname\r\n\r\n"},
-                      {"2.0.0\n"},
-                      {Ok + "Content-Length: 100\r\n\r\n2.0.0"},
-                      {Ok + "\r\n", true, QByteArray(5000, '1')},
-                      {"", true, "", Limit},
-                      {Ok + "Content-Length: 5\r\n\r\n2.0", true, "", Limit},
-                      {Ok, true, QByteArray("X-Head: y\r\n").repeated(10000), Limit}};
-  for (const Row& row : Rows) {
-    const Server Target(row.Begin, row.Stays, row.More);
+TEST(UtilCheckVersion, ASlowServerHasUntilTheLimit) {
+  const std::tuple<QByteArray, QByteArray, int> Rows[] = {
+      {Ok + "\r\n", QByteArray(5000, '1'), 10 * Patience},  // enough is known at once
+      {"", "", Limit},
+      {Ok + "Content-Length: 5\r\n\r\n2.0", "", Limit},
+      {Ok, QByteArray("X-Head: y\r\n").repeated(10000), Limit}};
+  for (const auto& [Begin, More, TimeLimit] : Rows) {
+    const Server Target(Begin, true, More);
     QElapsedTimer Clock;
     Clock.start();
-    EXPECT_EQ(Ask(Target.Address, row.TimeLimit), TbkUtil::VersionError) << row.Begin.constData();
+    EXPECT_EQ(Ask(Target.Address, TimeLimit), TbkUtil::VersionError) << Begin.constData();
     // The library's own end waits for 5 s while a server floods it.
-    EXPECT_LT(Clock.elapsed(), Patience - 100) << row.Begin.constData();
-    EXPECT_GE(Clock.elapsed(), row.TimeLimit == Limit ? Limit - 5 : 0) << row.Begin.constData();
-  }
-}
-
-TEST(UtilCheckVersion, TakesWebAddressesOnly) {
-  const Place place;
-  place.Put("version.txt", "2.0.0");
-  const QString Path = place.Path("version.txt");
-  for (const QString& Address : {QString(), QStringLiteral("http://"), QStringLiteral("http://127.0.0.1:99999/"), Path,
-                                 "file://" + Path, QStringLiteral("data:,2.0.0")}) {
-    EXPECT_EQ(Ask(Address), TbkUtil::VersionError) << Address.toStdString();
+    EXPECT_LT(Clock.elapsed(), Patience - 100) << Begin.constData();
+    EXPECT_GE(Clock.elapsed(), TimeLimit == Limit ? Limit - 5 : 0) << Begin.constData();
   }
 }
 
