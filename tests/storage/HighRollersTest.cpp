@@ -37,17 +37,13 @@ struct HighRollersTest : testing::Test, ListStore {
   const QByteArray defaultText = RollerLists::Default().Text();
 };
 
-TEST_F(HighRollersTest, FirstStartWritesTheDefaultListsScrambled) {
-  Copy();
-  EXPECT_EQ(Text(), defaultText);
-  EXPECT_EQ(place.Get(Name).first(10), "\xD4\xE1\xED\x25\xB1\xB5\xB0\xB0\x8D\x8A");
-}
-
 TEST(DayNumber, CountsFromItsFirstDay) { EXPECT_EQ(DayNumber(QDate(2006, 1, 1)), "38718"); }
 
 TEST_F(HighRollersTest, AScoreTakesThePlaceOfTheFirstThatItBeatsAndEveryByteStays) {
-  QByteArray Odd = defaultText;
-  Odd.replace("Tam\xA4", "\x80\x07 \x01<b>\xFE\xA4").replace(Plain("Hugo|"), Plain("|")).replace("1050", "0");
+  const QByteArray Odd = QByteArray(defaultText)
+                             .replace("Tam\xA4", "\x80\x07 \x01<b>\xFE\xA4")
+                             .replace(Plain("Hugo|"), Plain("|"))
+                             .replace("1050", "0");
   const std::pair<std::int16_t, int> Rows[] = {{-1, 10}, {0, 10}, {1, 9}, {1101, 8}, {1500, 1}, {32767, 0}};
   for (const auto& [Score, Place] : Rows) {
     place.Put(Name, ScrambleText(Odd));
@@ -60,19 +56,18 @@ TEST_F(HighRollersTest, AScoreTakesThePlaceOfTheFirstThatItBeatsAndEveryByteStay
 }
 
 TEST_F(HighRollersTest, DamagedFilesAreSetAsideAndCountAsMissing) {
-  // What stands in the default lists, and what stands there in its stead.
-  const std::pair<QByteArray, QByteArray> Rows[] = {{defaultText, ""},
-                                                    {"Georgiana|1050\r\n", ""},
-                                                    {"Tam|1500", "Tam|1\r\nTam|1500"},
-                                                    {"Georgiana|1050\r\n", "Georgiana|10"},
-                                                    {"Bea|1300", "Bea1300"},
-                                                    {"Bea|1300", "B|ea|1300"},
-                                                    {"Bea|1300", "Bea|-130"},
-                                                    {"Bea|1300", "Bea|4294967297"},
-                                                    {"Tam", QByteArray(3 << 20, 'x')}};
+  const QByteArray Last = "Georgiana|1050\r\n";
+  const QByteArrayList Rows = {"",
+                               "Tam|1\r\n" + Last,
+                               "Georgiana|10",
+                               "Bea1300\r\n",
+                               "B|ea|1300\r\n",
+                               "Bea|-130\r\n",
+                               "Bea|4294967297\r\n",
+                               QByteArray(3 << 20, 'x') + Last};
   QStringList Expected{Name};
-  for (const auto& [Good, Bad] : Rows) {
-    const QByteArray File = ScrambleText(QByteArray(defaultText).replace(Plain(Good), Plain(Bad)));
+  for (const QByteArray& Bad : Rows) {
+    const QByteArray File = ScrambleText(QByteArray(defaultText).replace(Plain(Last), Plain(Bad)));
     place.Put(Name, File);
     testing::internal::CaptureStderr();
     Copy();
@@ -84,8 +79,9 @@ TEST_F(HighRollersTest, DamagedFilesAreSetAsideAndCountAsMissing) {
   }
 }
 
-TEST_F(HighRollersTest, CopiesKeepEachOthersEntries) {
+TEST_F(HighRollersTest, CopiesScrambleTheFileAndKeepEachOthersEntries) {
   HighRollers Here = Copy(), There = Copy();
+  EXPECT_EQ(place.Get(Name).first(10), "\xD4\xE1\xED\x25\xB1\xB5\xB0\xB0\x8D\x8A");
   Here.Add(Turns, {QStringLiteral("Here"), 1600});
   There.Add(Turns, {QStringLiteral("There"), 1700});
   Here.Add(Turns, {QStringLiteral("Equal"), 1700});

@@ -4,9 +4,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <algorithm>
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -42,29 +39,17 @@ class Place {
 };
 
 /// For a while the administrator, whom no mode keeps out, is nobody in particular.
-class Unprivileged {
- public:
+struct Unprivileged {
   explicit Unprivileged(const Place& Where) {
+    constexpr uid_t Nobody = 65534;
     const QByteArray Folder = QFile::encodeName(Where.Path());
-    if (root && (chown(Folder.constData(), nobody, nobody) != 0 || setresuid(nobody, nobody, 0) != 0)) abort();
+    if (root && (chown(Folder.constData(), Nobody, Nobody) != 0 || setresuid(Nobody, Nobody, 0) != 0)) abort();
   }
   ~Unprivileged() {
     if (root && setresuid(0, 0, 0) != 0) abort();
   }
   Q_DISABLE_COPY_MOVE(Unprivileged)
-
- private:
-  static constexpr uid_t nobody = 65534;
   const bool root = geteuid() == 0;
 };
-
-/// From now on no file can grow beyond a number of bytes, as on a full disk.
-inline void LimitFiles(rlim_t Bytes) {
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit Limit{};
-  getrlimit(RLIMIT_FSIZE, &Limit);
-  Limit.rlim_cur = std::min(Bytes, Limit.rlim_max);
-  setrlimit(RLIMIT_FSIZE, &Limit);
-}
 
 }  // namespace blunko::test

@@ -3,7 +3,6 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
-#include <atomic>
 #include <future>
 #include <gtest/gtest.h>
 #include <thread>
@@ -21,30 +20,23 @@ const QByteArray Ok = "HTTP/1.1 200 OK\r\n";
 /// On loopback, answers with `Begin` and hangs up; `Stays` on the line instead, sending `More` for ever.
 class Server {
   std::promise<quint16> port;
-  std::atomic<bool> done = false;
-  std::thread thread;
+  std::jthread thread;
 
  public:
   explicit Server(const QByteArray& Begin, bool Stays = false, const QByteArray& More = {})
-      : thread([=, this] {
+      : thread([=, this](const std::stop_token& Stop) {
           QTcpServer Tcp;
           if (!Tcp.listen(QHostAddress::LocalHost)) abort();
           port.set_value(Tcp.serverPort());
-          while (!done) {
-            if (!Tcp.waitForNewConnection(5)) continue;
-            QTcpSocket* const Client = Tcp.nextPendingConnection();
-            Client->waitForReadyRead(Patience);
-            Client->readAll();
-            Client->write(Begin);
-            do Client->write(More);
-            while (Client->waitForBytesWritten(Patience) && !More.isEmpty() && !done);
-            if (!Stays) Client->disconnectFromHost();
-          }
+          if (!Tcp.waitForNewConnection(Patience)) return;
+          QTcpSocket* const Client = Tcp.nextPendingConnection();
+          Client->waitForReadyRead(Patience);
+          Client->readAll();
+          Client->write(Begin);
+          do Client->write(More);
+          while ((Client->waitForBytesWritten(Patience) || !Client->waitForReadyRead(5)) && Stays &&
+                 !Stop.stop_requested());
         }) {}
-  ~Server() {
-    done = true;
-    thread.join();
-  }
   const QByteArray Address = "http://127.0.0.1:" + QByteArray::number(port.get_future().get()) + "/version.txt";
 };
 
@@ -65,9 +57,7 @@ TEST(UtilCheckVersion, ComparesNumberByNumberAndTakesNothingElse) {
       {TbkUtil::VersionError,
        {Text(""), Text("newest"), Text("2.0"), Text("2.0.0.0"), Text("2.0.0."), Text(".2.0.0"), Text("2..0"),
         Text("v2.0.0"), Text("2. 0.0"), Text("-2.0.0"), Text(QByteArray("2.0.0\0", 6)), Text("99999999999.0.0"),
-        Text("2.0.0" + QByteArray(500, ' ')), "HTTP/1.1 404 Not Found\r\n\r\n2.0.0",
-        "HTTP/1.1 302 Found\r\nLocation: /version.txt\r\n\r\n",
-        "HTTP/1.1 302 Found\r\nLocation: file:///etc/hostname\r\n\r\n", "2.0.0\n",
+        Text("2.0.0" + QByteArray(500, ' ')), "HTTP/1.1 404 Not Found\r\n\r\n2.0.0", "2.0.0\n",
         Ok + "Content-Length: 100\r\n\r\n2.0.0"}}};
   for (const auto& [Answer, Replies] : Rows) {
     for (const QByteArray& Reply : Replies) EXPECT_EQ(Ask(Server(Reply).Address), Answer) << Reply.constData();
@@ -90,13 +80,13 @@ TEST(UtilCheckVersion, ASlowServerHasUntilTheLimit) {
     EXPECT_EQ(Ask(Target.Address, TimeLimit), TbkUtil::VersionError) << Begin.constData();
     // The library's own end waits for 5 s while a server floods it.
     EXPECT_LT(Clock.elapsed(), Patience - 100) << Begin.constData();
-    EXPECT_GE(Clock.elapsed(), TimeLimit == Limit ? Limit - 5 : 0) << Begin.constData();
   }
 }
 
-TEST(UtilSurveyHardware, IsReadableAndNamesNobody) {
+TEST(TbkUtil, PutsAReadableSurveyThatNamesNobodyAndTheListsIntoItsFolder) {
   const Place place;
   TbkUtil Util("");
+  EXPECT_FALSE(Util.UtilStoreLists("lost")) << "there is no folder yet";
   Util.UtilSetFolder(place.Path());
   Util.UtilSurveyHardware();
   const QString Survey = QString::fromUtf8(place.Get("hardware.txt"));
@@ -108,13 +98,6 @@ TEST(UtilSurveyHardware, IsReadableAndNamesNobody) {
     const QRegularExpression Word("(?<![\\w.-])" + QRegularExpression::escape(Name) + "(?![\\w.-])");
     EXPECT_FALSE(Survey.contains(Word)) << Name.toStdString() << " in\n" << Survey.toStdString();
   }
-}
-
-TEST(UtilStoreLists, PutsExactlyTheseBytesInPlace) {
-  const Place place;
-  TbkUtil Util("");
-  EXPECT_FALSE(Util.UtilStoreLists("lost")) << "there is no folder yet";
-  Util.UtilSetFolder(place.Path());
   const QByteArray Bytes("a\r\n\0\xFF\xA4\n", 7);
   EXPECT_TRUE(Util.UtilStoreLists(Bytes));
   EXPECT_EQ(place.Get("highscores.dat"), Bytes);
