@@ -13,16 +13,14 @@
 
 using blunko::IniInfo, blunko::RollerLists, blunko::ScrambleText, blunko::UnscrambleText;
 
-namespace {
-
-void Holds(bool Truth, const char* What, const QByteArray& Text) {
+static void Holds(bool Truth, const char* What, const QByteArray& Text) {
   if (Truth) return;
   std::fprintf(stderr, "untrue: %s, of the text (hexadecimal) %s\n", What, Text.toHex().constData());
   std::abort();
 }
 
 /// A key that is written holds its value, changes no other key, and is written once.
-void CheckInfo(const QByteArray& Text) {
+static void CheckInfo(const QByteArray& Text) {
   const QString Keys[] = {"DieColor", "Background", "New"};
   for (const QString& Key : Keys) {
     for (const QString& Value : {QString(), QStringLiteral(" \"blank\" ends "), QStringLiteral("\"quoted\""),
@@ -41,15 +39,13 @@ void CheckInfo(const QByteArray& Text) {
 
 /// Lists that are read are written back as what is read again; every text survives the scrambling but for its last
 /// letter.
-void CheckLists(const QByteArray& File) {
+static void CheckLists(const QByteArray& File) {
   const QByteArray Text = UnscrambleText(File);
   Holds(UnscrambleText(ScrambleText(Text)) == Text, "scrambling can be undone", Text);
   Holds(!ScrambleText(Text).contains('\0'), "no scrambled letter is 0", Text);
   const auto Lists = RollerLists::OfText(Text);
   Holds(!Lists || RollerLists::OfText(Lists->Text()) == Lists, "written lists are read", Text);
 }
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size) {
   const QByteArray Text(reinterpret_cast<const char*>(Data), static_cast<qsizetype>(Size));

@@ -5,7 +5,6 @@
 #include "tests/storage/Place.h"
 
 namespace blunko::test {
-namespace {
 
 constexpr QFile::Permissions Private{0x7700};  // rwx for the owner alone
 
@@ -74,5 +73,4 @@ TEST_F(FoldersTest, StateLiesBesideTheProgramOrWithTheUser) {
   EXPECT_EQ(place.Get("home/bin/game.ini"), "old info") << "somebody else may share it";
 }
 
-}  // namespace
 }  // namespace blunko::test

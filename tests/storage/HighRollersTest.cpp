@@ -7,13 +7,12 @@
 #include "tests/storage/Place.h"
 
 namespace blunko::test {
-namespace {
 
 const QString Name = QStringLiteral("highscores.dat");
 constexpr WhichList Turns = &RollerLists::lstHSTS;
 
 /// Text with a bar for each separator.
-QByteArray Plain(QByteArray Text) { return Text.replace('|', '\xA4'); }
+static QByteArray Plain(QByteArray Text) { return Text.replace('|', '\xA4'); }
 
 /// The program's copies that work in one folder.
 struct HighRollersTest : testing::Test, ListStore {
@@ -36,7 +35,6 @@ TEST(DayNumber, CountsFromItsFirstDay) { EXPECT_EQ(DayNumber(QDate(2006, 1, 1)),
 
 TEST(RollerLists, AreReadFromAWholeTextOnly) {
   const QByteArray Whole = RollerLists::Default().Text(), Last = Plain("Georgiana|1050\r\n");
-  EXPECT_TRUE(Whole.endsWith(Last));
   for (const char* Bad : {"", "Tam|1\r\nTam|1\r\n", "Georgiana|10", "Bea1300\r\n", "B|ea|1300\r\n", "Bea|-130\r\n",
                           "Bea|4294967297\r\n", "Bea|1050\n"}) {
     EXPECT_FALSE(RollerLists::OfText(QByteArray(Whole).replace(Last, Plain(Bad)))) << Bad;
@@ -90,5 +88,4 @@ TEST_F(HighRollersTest, WhatCannotBeSavedStaysForTheRunAndGoesWithTheNextSave) {
   }
 }
 
-}  // namespace
 }  // namespace blunko::test

@@ -11,7 +11,6 @@
 #include "util/TbkUtil.h"
 
 namespace blunko::test {
-namespace {
 
 constexpr int Limit = 400;      // ms, for a server that never comes to an end
 constexpr int Patience = 5000;  // ms: a loaded machine may be late, but not for ever
@@ -40,7 +39,7 @@ class Server {
   const QByteArray Address = "http://127.0.0.1:" + QByteArray::number(port.get_future().get()) + "/version.txt";
 };
 
-TbkUtil::VersionAnswer Ask(const QString& Address, int TimeLimit = 10 * Patience) {
+static TbkUtil::VersionAnswer Ask(const QString& Address, int TimeLimit = 10 * Patience) {
   return TbkUtil(Address, TimeLimit).UtilCheckVersion(1, 9, 3);
 }
 
@@ -101,5 +100,4 @@ TEST(TbkUtil, PutsAReadableSurveyThatNamesNobodyAndTheListsIntoItsFolder) {
   EXPECT_EQ(place.Get("highscores.dat"), Bytes);
 }
 
-}  // namespace
 }  // namespace blunko::test

@@ -4,7 +4,6 @@
 #include "util/UtilRandom.h"
 
 namespace blunko::test {
-namespace {
 
 // The draws of an implementation in another language, written from the published recurrence of the 64-bit Mersenne
 // twister and checked against its documented 10000th number: face = floor(high half * bound / 2^32) + 1, where a number
@@ -24,5 +23,4 @@ TEST(UtilRandom, DrawsTheSameNumbersEverywhere) {
   EXPECT_EQ(UniformGenerator(5489).Next(), 0.7868209548678019) << "the high 53 bits of 14514284786278117030";
 }
 
-}  // namespace
 }  // namespace blunko::test
