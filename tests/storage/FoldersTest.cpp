@@ -60,17 +60,17 @@ TEST_F(FoldersTest, StateLiesBesideTheProgramOrWithTheUser) {
   const std::string Config = "home/config/TollmoorBlunko/", Data = "home/data/TollmoorBlunko/";
   EXPECT_EQ(Start("games/game"), Config + "game.ini=info " + Config + "highscores.dat=lists games/help ");
   EXPECT_EQ(QFile::permissions(place.Path("home/config")), Private);
-  place.Chmod("games", 0755);
+  place.Chmod("games", 0777);
 
   // An installed program takes over what earlier versions left beside it, unless there is something newer.
-  place.Put("home/bin/game.ini", "old info");
-  place.Put("home/bin/highscores.dat", "old lists");
-  place.Mkdir("home/share/tollmoor-blunko", 0755);
-  const std::string Shipped = " home/share/tollmoor-blunko/help " + Data + "Background";
-  EXPECT_EQ(Start("home/bin/game"), Config + "game.ini=info " + Data + "highscores.dat=lists" + Shipped);
+  place.Put("games/game.ini", "old info");
+  place.Put("games/highscores.dat", "old lists");
+  place.Mkdir("share/tollmoor-blunko", 0755);
+  const std::string Shipped = " share/tollmoor-blunko/help " + Data + "Background";
+  EXPECT_EQ(Start("games/game"), Config + "game.ini=info " + Data + "highscores.dat=lists" + Shipped);
   for (const char* Folder : {"home/config", "home/data"}) QDir(place.Path(Folder)).removeRecursively();
-  EXPECT_EQ(Start("home/bin/game"), Config + "game.ini=old info " + Data + "highscores.dat=old lists" + Shipped);
-  EXPECT_EQ(place.Get("home/bin/game.ini"), "old info") << "somebody else may share it";
+  EXPECT_EQ(Start("games/game"), Config + "game.ini=old info " + Data + "highscores.dat=old lists" + Shipped);
+  EXPECT_EQ(place.Get("games/game.ini"), "old info") << "somebody else may share it";
 }
 
 }  // namespace blunko::test
