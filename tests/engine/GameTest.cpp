@@ -11,24 +11,16 @@ const std::string Question = "ask Quit?: Are you sure you want to quit the curre
 TEST(FreshGame, ReadsAllSeatsAndClearsTheTable) {
   Table table;
   GameSetup Setup;
-  Setup.PlayToScore = 10000;
-  Setup.BreakInScore = 1000;
-  Setup.Seats[0].Name = "Ann";
   Setup.Seats[1] = {"Bot", true, Simple};
   Setup.Seats[7] = {"Last", true, Genius};
   table.game.FreshGame(Setup);
   Setup.Seats[1].Style = 0;
-  Setup.Seats[2].Style = 8;
-  table.m.PlayerStyle[2] = Moron;
+  Setup.Seats[7].Style = 8;
   table.game.FreshGame(Setup);
   EXPECT_EQ(table.m.NumPlayers, 2) << "one player is a game of two seats";
   EXPECT_EQ(table.m.PlayerStyle[1], Simple) << "a number that is no style leaves the seat's";
-  EXPECT_EQ(table.m.PlayerStyle[2], Moron);
   EXPECT_EQ(table.m.PlayerStyle[7], Genius) << "seats beyond the number are read too";
-  EXPECT_EQ(table.m.PlayToScore + table.m.BreakInScore, 11000);
-  EXPECT_TRUE(table.m.TurnOver && table.m.ScorePadShown && table.t.cmdRoll.Enabled);
-  EXPECT_EQ(table.Look(), "Ann 0: ...... /  / Roll the dice. (r)");
-
+  EXPECT_TRUE(table.m.TurnOver && table.m.ScorePadShown);
   table.t.ShowLastRoll();
   table.Begin({"Normal", "Ann"});
   EXPECT_EQ(table.Look(), "Normal 0: ...... /  / Roll the dice. (r)");
@@ -70,15 +62,14 @@ TEST(PassDice, BanksOrNotAndHandsOn) {
 }
 
 TEST(PassDice, ABustIsShown) {
-  const std::string Person =
-      "pointer 11; buttons ; sleep 250; sound Blunko; status BLUNKO !!!; sleep 100; status ; sleep 100; "
-      "status BLUNKO !!!; sleep 100; status ; sleep 100; status BLUNKO !!!; sleep 100; status ; sleep 100; "
-      "status BLUNKO !!!; sleep 300; status BLUNKO - P; sleep 20; status BLUNKO - Pa; sleep 20; status BLUNKO - Pas; "
-      "sleep 20; status BLUNKO - Pass; sleep 20; status BLUNKO - Passi; sleep 20; status BLUNKO - Passin; sleep 20; "
-      "status BLUNKO - Passing; sleep 20; status BLUNKO - Passing t; sleep 20; status BLUNKO - Passing th; sleep 20; "
-      "status BLUNKO - Passing the; sleep 20; status BLUNKO - Passing the d; sleep 20; "
-      "status BLUNKO - Passing the di; sleep 20; status BLUNKO - Passing the dic; sleep 20; "
-      "status BLUNKO - Passing the dice; sleep 20; status BLUNKO - Passing the dice.; score 0; sleep 300; ";
+  const std::string Blink = "status BLUNKO !!!; sleep 100; status ; sleep 100; ";
+  std::string Person =
+      "pointer 11; buttons ; sleep 250; sound Blunko; " + Blink + Blink + Blink + "status BLUNKO !!!; sleep 300; ";
+  for (const char* Typed : {"P", "Pa", "Pas", "Pass", "Passi", "Passin", "Passing", "Passing t", "Passing th",
+                            "Passing the", "Passing the d", "Passing the di", "Passing the dic", "Passing the dice"}) {
+    Person += std::string("status BLUNKO - ") + Typed + "; sleep 20; ";
+  }
+  Person += "status BLUNKO - Passing the dice.; score 0; sleep 300; ";
   const std::string Hurried =
       "pointer 11; sound Blunko; status BLUNKO !!!; status ; status BLUNKO !!!; status ; status BLUNKO !!!; status ; "
       "status BLUNKO !!!; status BLUNKO - Passing the dice; sleep 20; status BLUNKO - Passing the dice.; score 0; ";
@@ -162,15 +153,11 @@ TEST(EndGame, ABustThatEndsTheGameWritesNothingIntoTheNext) {
   EXPECT_EQ(table.m.SavedTurnScore, 77);
 }
 
-/// The keys that are commands, and their neighbours; with Shift as well.
-void PressKeys(Table& table, bool OnDiceOnly) {
-  for (std::int16_t Key = 0; Key < 128; ++Key) {
-    if (OnDiceOnly && (Key == Escape || Key == F2)) continue;
-    for (const std::int16_t Shift : {0, 1}) table.game.Form_KeyUp(Key, Shift);
-  }
-}
+/// Whatever touches the dice or may stand beside it: all keys but those of the window, all buttons.
 void PressDice(Table& table) {
-  PressKeys(table, true);
+  for (std::int16_t Key = 0; Key < 128; ++Key) {
+    if (Key != Escape && Key != F2) table.game.Form_KeyUp(Key, 0);
+  }
   for (const std::int16_t Button : {LeftButton, RightButton}) {
     for (std::int16_t Index = -1; Index <= 16; ++Index) table.game.PersonClicksDie(Index, Button);
     for (const int Row : {1, 2}) table.game.PersonClicksTray(Row, Button);
@@ -180,9 +167,9 @@ void PressDice(Table& table) {
 }
 void PressAll(Table& table) {
   PressDice(table);
-  PressKeys(table, false);
+  table.game.Form_KeyUp(Escape, 0);
+  for (const std::int16_t Shift : {0, 1}) table.game.Form_KeyUp(F2, Shift);
   table.game.ARCmdNewGame_Click();
-  table.game.PersonBeginsGame(true);
   table.game.Command([&] { table.Screen.Log.push_back("a command of the window"); });
   EXPECT_FALSE(table.game.PersonCloses());
 }
@@ -246,61 +233,43 @@ TEST(Commands, OfTheFlashEndTheGameThatItBelongsTo) {
   }
 }
 
-TEST(Commands, ANewGameIsAskedForAndGivesTheOldOneUp) {
+TEST(Commands, NewGameAndTheEndAreAskedForAndClearUp) {
+  constexpr std::int16_t CloseBox = 0;
   const struct {
     const char* Rule;
-    std::int16_t Shift;
-    bool Yes;
-    std::string Told;
-    bool GivenUp;
-  } Rows[] = {{"No", 0, false, "beep; " + Question, false},
-              {"Yes", 0, true, "beep; " + Question + "; new game", true},
-              {"Shift doesn't ask", ShiftAlone, false, "beep; new game", true},
-              {"Shift and Control do", 3, false, "beep; " + Question, false}};
-  for (const auto& Row : Rows) {
-    Table table;
-    table.Begin({"Ann", "Bob"});
-    table.Play("123446 @0 12334");
-    const std::string Before = table.Look();
-    table.TakeLog();
-    table.Screen.Answer = Row.Yes;
-    table.game.Form_KeyUp(F2, Row.Shift);
-    EXPECT_EQ(table.Told(), Row.Told) << Row.Rule;
-    EXPECT_EQ(table.Look(), Row.GivenUp ? " : ...... /  /  (s)" : Before) << Row.Rule;
-    EXPECT_EQ(table.t.ARCmdNewGame.Visible, Row.GivenUp);
-    EXPECT_EQ(table.t.picTray1.Enabled && table.t.picTray2.Enabled, !Row.GivenUp);
-    EXPECT_EQ(table.m.CurrentPlayer, 0) << "the seat on turn isn't touched";
-  }
-}
-
-TEST(Commands, EndTheProgramFromEverywhere) {
-  const struct {
-    const char* Rule;
-    bool Key, GameRuns, PanelOpen, Yes;
+    std::int16_t Key, Shift;
+    bool GameRuns, PanelOpen, Yes;
     std::string Told;
   } Rows[] = {
-      {"no game, no question", false, false, false, false, "exit"},
-      {"Esc takes the other forms along", true, false, false, false, "unload others; exit"},
-      {"No: play on", false, true, false, false, "beep; " + Question},
-      {"Yes", false, true, false, true, "beep; " + Question + "; exit"},
-      {"Esc", true, true, false, true, "unload others; beep; " + Question + "; exit"},
-      {"Esc closes the panel first", true, true, true, true, "cancel options"},
-      {"the close box doesn't", false, true, true, true, "beep; " + Question + "; exit"},
+      {"no game, no question", CloseBox, 0, false, false, false, "exit"},
+      {"Esc takes the other forms along", Escape, 0, false, false, false, "unload others; exit"},
+      {"No: play on", CloseBox, 0, true, false, false, "beep; " + Question},
+      {"Yes", Escape, 0, true, false, true, "unload others; beep; " + Question + "; exit"},
+      {"Esc closes the panel first", Escape, 0, true, true, true, "cancel options"},
+      {"the close box doesn't", CloseBox, 0, true, true, true, "beep; " + Question + "; exit"},
+      {"F2: No", F2, 0, true, false, false, "beep; " + Question},
+      {"F2: Yes", F2, 0, true, false, true, "beep; " + Question + "; new game"},
+      {"Shift doesn't ask", F2, ShiftAlone, true, false, false, "beep; new game"},
+      {"Shift and Control do", F2, 3, true, false, false, "beep; " + Question},
+      {"no new game from the panel", F2, ShiftAlone, true, true, true, ""},
   };
   for (const auto& Row : Rows) {
+    SCOPED_TRACE(Row.Rule);
     Table table;
-    if (Row.GameRuns) table.Begin({"Ann", "Bob"});
+    if (Row.GameRuns) table.Begin({"Ann", "Bob"}), table.Play("123446 @0 12334");
     table.t.picGameTray.Enabled = !Row.PanelOpen;
     table.Screen.Answer = Row.Yes;
     table.TakeLog();
-    Row.Key ? table.game.Form_KeyUp(Escape, 0) : static_cast<void>(table.game.PersonCloses());
-    EXPECT_EQ(table.Told(), Row.Told) << Row.Rule;
-    EXPECT_EQ(table.m.Quitting, Row.Told.ends_with("exit"));
-    EXPECT_EQ(table.game.TakesCommands(), !table.m.Quitting);
-    if (table.m.Quitting) {
-      EXPECT_TRUE(table.game.PersonCloses()) << "the window may go";
-      EXPECT_EQ(table.Told(), "");
-    }
+    const std::string Before = table.Look();
+    Row.Key != 0 ? table.game.Form_KeyUp(Row.Key, Row.Shift) : static_cast<void>(table.game.PersonCloses());
+    EXPECT_EQ(table.Told(), Row.Told);
+    const bool Ends = Row.Told.ends_with("exit"), GivenUp = Row.Told.ends_with("new game");
+    EXPECT_EQ(table.Look(), GivenUp ? " : ...... /  /  (s)" : Before);
+    EXPECT_EQ(table.t.ARCmdNewGame.Visible && !table.t.picTray1.Enabled && !table.t.picTray2.Enabled, GivenUp);
+    EXPECT_EQ(table.m.Quitting, Ends);
+    EXPECT_EQ(table.game.TakesCommands(), !Ends);
+    EXPECT_EQ(Ends && table.game.PersonCloses(), Ends) << "the window may go";
+    EXPECT_EQ(table.Told(), "");
   }
 }
 
