@@ -56,35 +56,23 @@ class Vandal {
     static constexpr std::int16_t Keys[] = {49, 50, 51, 52, 53, 54, 97, 101, 82, 82, 82, 80, 80, 96, 110, 8, 65};
     screen.Answer = Pick(3) != 0;
     const bool PanelOpen = !table.t.picGameTray.Enabled;
-    switch (Pick(12)) {
-      case 0:
-      case 1:
-      case 2: game.Form_KeyUp(Keys[Pick(std::size(Keys))], 0); break;
-      case 3:
-      case 4:
-      case 5:
-        game.PersonClicksDie(static_cast<std::int16_t>(Pick(17) - 1), static_cast<std::int16_t>(1 + Pick(2)));
-        break;
-      case 6: game.PersonRolls(); break;
-      case 7: game.PersonPasses(); break;
-      case 8:
-        if (Pick(4) == 0) game.Form_KeyUp(113, static_cast<std::int16_t>(Pick(3)));
-        break;
-      case 9: Pick(2) == 0 ? game.ARCmdNewGame_Click() : game.PersonClicksTray(1 + Pick(2), RightButton); break;
-      case 10:  // the options panel opens and closes
-        if (PanelOpen || game.TakesCommands()) {
-          table.t.picGameTray.Enabled = PanelOpen;
-          table.m.PauseComputer = !PanelOpen;
-        }
-        break;
-      default:
-        if (Pick(30) == 0) {
-          screen.Answer = Pick(6) == 0;
-          Pick(2) == 0 ? game.Form_KeyUp(27, 0) : static_cast<void>(game.PersonCloses());
-        }
-        break;
+    const int Kind = Pick(12);
+    if (Kind < 3) game.Form_KeyUp(Keys[Pick(std::size(Keys))], 0);
+    if (Kind >= 3 && Kind < 6)
+      game.PersonClicksDie(static_cast<std::int16_t>(Pick(17) - 1), static_cast<std::int16_t>(1 + Pick(2)));
+    if (Kind == 6) game.PersonRolls();
+    if (Kind == 7) game.PersonPasses();
+    if (Kind == 8 && Pick(4) == 0) game.Form_KeyUp(113, static_cast<std::int16_t>(Pick(3)));
+    if (Kind == 9) Pick(2) == 0 ? game.ARCmdNewGame_Click() : game.PersonClicksTray(1 + Pick(2), RightButton);
+    if (Kind == 10 && (PanelOpen || game.TakesCommands())) {  // the options panel opens and closes
+      table.t.picGameTray.Enabled = PanelOpen;
+      table.m.PauseComputer = !PanelOpen;
     }
-    Check();
+    if (Kind == 11 && Pick(30) == 0) {
+      screen.Answer = Pick(6) == 0;
+      Pick(2) == 0 ? game.Form_KeyUp(27, 0) : static_cast<void>(game.PersonCloses());
+    }
+    if (fault.empty() && game.TakesCommands()) fault = game.Fault();
   }
 
   void NewGameDialog() {
@@ -104,10 +92,6 @@ class Vandal {
       Seat.Style = static_cast<std::uint8_t>(1 + Pick(7));
     }
     game.FreshGame(Setup);
-  }
-
-  void Check() {
-    if (fault.empty() && game.TakesCommands()) fault = game.Fault();
   }
 
   std::minstd_rand chance;
