@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <deque>
 #include <functional>
 #include <map>
@@ -24,7 +25,7 @@ class ScriptedDice : public NumberSource {
     if (Faces.empty()) return NoScorers[beyond++ % 4];
     const int Face = Faces.front();
     Faces.pop_front();
-    return Face <= Bound ? Face : Bound;
+    return std::min(Face, Bound);
   }
 
  private:
@@ -113,39 +114,35 @@ class RecordingDesktop : public Desktop {
 };
 
 /// Writes the calls into the log of the desktop; a dialog does what the test gives it to do.
-class RecordingProgram : public QuietProgram {
- public:
-  explicit RecordingProgram(std::vector<std::string>& Log) : log(Log) {}
+struct RecordingProgram : QuietProgram {
+  explicit RecordingProgram(std::vector<std::string>& Lines) : Log(Lines) {}
 
+  std::vector<std::string>& Log;
   std::function<void()> OnCongrats, OnNewGame, OnDialog;
   std::function<void(GameEvent)> OnEvent;
+  int PadUpdates = 0;
 
+  void Open(const std::string& Line, const std::function<void()>& Done = {}) {
+    Log.push_back(Line);
+    if (OnDialog) OnDialog();
+    if (Done) Done();
+  }
   void Announce(GameEvent Event) override {
     if (OnEvent) OnEvent(Event);
   }
   void UpdateActivePlayer() override { ++PadUpdates; }
   void CheckHighTurn(const std::string& Name, std::int16_t Score) override {
-    Open("high turn " + Name + " " + std::to_string(Score), {});
+    Open("high turn " + Name + " " + std::to_string(Score));
   }
   void CheckWhoopin(const std::string& Name, std::int16_t Margin) override {
-    Open("whoopin " + Name + " " + std::to_string(Margin), {});
+    Open("whoopin " + Name + " " + std::to_string(Margin));
   }
   void ShowCongrats() override { Open("congrats", OnCongrats); }
   void ShowNewGame() override { Open("new game", OnNewGame); }
-  void CancelOptions() override { log.push_back("cancel options"); }
-  void UnloadOtherForms() override { log.push_back("unload others"); }
-  void ExitProgram() override { log.push_back("exit"); }
-  void Abort() override { log.push_back("abort"); }
-
-  int PadUpdates = 0;
-
- private:
-  void Open(const std::string& Line, const std::function<void()>& Done) {
-    log.push_back(Line);
-    if (OnDialog) OnDialog();
-    if (Done) Done();
-  }
-  std::vector<std::string>& log;
+  void CancelOptions() override { Log.push_back("cancel options"); }
+  void UnloadOtherForms() override { Log.push_back("unload others"); }
+  void ExitProgram() override { Log.push_back("exit"); }
+  void Abort() override { Log.push_back("abort"); }
 };
 
 /// Notes in the log of the desktop that a computer's turn has begun.
@@ -187,12 +184,9 @@ struct Table {
     Setup.NumPlayers = static_cast<std::uint8_t>(Names.size());
     Setup.PlayToScore = static_cast<std::int16_t>(PlayTo);
     Setup.BreakInScore = static_cast<std::int16_t>(BreakIn);
-    int i = 0;
-    for (const char* Name : Names) {
-      GameSetup::Seat& Seat = Setup.Seats[static_cast<std::size_t>(i++)];
-      Seat.Name = Name;
-      Seat.Style = StyleOfWord(Name);
-      Seat.IsComputer = Seat.Style != 0;
+    for (std::size_t i = 0; i < Names.size(); ++i) {
+      const std::uint8_t Style = StyleOfWord(Names[i]);
+      Setup.Seats[i] = {Names[i], Style != 0, Style};
     }
     game.FreshGame(Setup);
   }
@@ -205,11 +199,9 @@ struct Table {
     Numbers.Faces.insert(Numbers.Faces.end(), Faces.begin(), Faces.end());
   }
   void Click(int Index, int Button = LeftButton) {
-    if (m.PlayerIsComputer[m.CurrentPlayer]) {
+    game.Command([=, this] {
       game.Picture1_MouseUp(static_cast<std::int16_t>(Index), static_cast<std::int16_t>(Button), 0, 0, 0);
-    } else {
-      game.PersonClicksDie(static_cast<std::int16_t>(Index), static_cast<std::int16_t>(Button));
-    }
+    });
   }
   /// Moves of the seat on turn: "134466 @0 @10 pass" rolls six dice, clicks the first, then its slot in the tray, and
   /// passes the dice.
@@ -218,12 +210,12 @@ struct Table {
       const std::string_view Move = Moves.substr(0, Moves.find(' '));
       Moves.remove_prefix(std::min(Move.size() + 1, Moves.size()));
       if (Move == "pass") {
-        m.PlayerIsComputer[m.CurrentPlayer] ? game.cmdPassDice_Click() : game.PersonPasses();
+        game.Command([this] { game.cmdPassDice_Click(); });
       } else if (Move.front() == '@') {
         Click(std::stoi(std::string(Move.substr(1))));
       } else {
         Script(Digits(Move));
-        m.PlayerIsComputer[m.CurrentPlayer] ? game.cmdRoll_Click() : game.PersonRolls();
+        game.Command([this] { game.cmdRoll_Click(); });
       }
     }
   }
@@ -250,22 +242,18 @@ struct Table {
   }
   /// Takes the lines of the log that begin with `Kind`, and forgets the log.
   std::vector<std::string> TakeLog(const std::string& Kind = "") {
-    std::vector<std::string> Lines;
-    for (const std::string& Line : Screen.Log) {
-      if (Line.starts_with(Kind)) Lines.push_back(Line);
-    }
-    Screen.Log.clear();
+    std::vector<std::string> Lines = std::exchange(Screen.Log, {});
+    std::erase_if(Lines, [&](const std::string& Line) { return !Line.starts_with(Kind); });
     return Lines;
   }
   /// The same in one text: "beep; sleep 10 x30".
   std::string Told(const std::string& Kind = "") {
     std::string All;
-    int Times = 1;
     const auto Lines = TakeLog(Kind);
-    for (std::size_t i = 0; i < Lines.size(); ++i, ++Times) {
-      if (i + 1 < Lines.size() && Lines[i + 1] == Lines[i]) continue;
-      All += (All.empty() ? "" : "; ") + Lines[i] + (Times > 1 ? " x" + std::to_string(Times) : "");
-      Times = 0;
+    for (auto Line = Lines.begin(); Line != Lines.end();) {
+      const auto Same = std::find_if(Line, Lines.end(), [&](const std::string& Other) { return Other != *Line; });
+      All += (All.empty() ? "" : "; ") + *Line + (Same - Line > 1 ? " x" + std::to_string(Same - Line) : "");
+      Line = Same;
     }
     return All;
   }
