@@ -51,28 +51,20 @@ class SoundRecorder {
   QString Path() const { return NameInFolder("recorded.raw"); }
   QString NameInFolder(const char* Name) const { return Folder.filePath(QString::fromLatin1(Name)); }
 
-  /// What the left channel sounded like, without the silence around it.
+  /// What sounded, without the silence around it.
   struct Heard {
-    double Seconds = 0, Peak = 0, Frequency = 0;
+    double Seconds = 0, Peak = 0;
   };
   Heard Hear() const {
     const QByteArray All = ReadFile(Path());
     Heard Found;
-    qsizetype First = -1, Last = 0, Crossings = 0, CrossingsAtLast = 0;
-    double Before = 0;
+    qsizetype First = -1;
     for (qsizetype i = 0; i < All.size() / 4; ++i) {
-      const double Value = qFromLittleEndian<qint16>(All.constData() + 4 * i) / 32768.0;
-      Found.Peak = std::max(Found.Peak, std::abs(Value));
-      if (First >= 0) Crossings += (Value < 0) != (Before < 0);
-      Before = Value;
-      if (std::abs(Value) < 0.02) continue;
+      const double Value = std::abs(qFromLittleEndian<qint16>(All.constData() + 4 * i) / 32768.0);
+      Found.Peak = std::max(Found.Peak, Value);
+      if (Value < 0.02) continue;
       if (First < 0) First = i;
-      Last = i;
-      CrossingsAtLast = Crossings;
-    }
-    if (Last > First) {
-      Found.Seconds = static_cast<double>(Last - First) / 44100;
-      Found.Frequency = static_cast<double>(CrossingsAtLast) / 2 / Found.Seconds;
+      Found.Seconds = static_cast<double>(i - First) / 44100;
     }
     return Found;
   }
