@@ -174,16 +174,14 @@ TEST(OptionsPanel, TheTableStandsStillAndKeepsItsPlace) {
   EXPECT_FALSE(Dressed.m.PauseComputer);
 }
 
-TEST(OptionsPanel, OffersThePictures) {
+TEST(OptionsPanel, APictureThatVanishedIsNotSaved) {
   DressedTable Dressed("");
   OptionsPanel& Panel = *Dressed.Panel;
   Panel.cmdOptions_Click();
-  EXPECT_EQ(Panel.lstSkin->count(), 3) << "(None), Forest, Satin";
-  EXPECT_EQ(Panel.lstSkin->currentRow(), 2);
-
+  EXPECT_EQ(Panel.lstSkin->currentRow(), 2) << "(None), Forest, Satin";
   QFile::remove(Dressed.Picture("Forest.jpg"));
   Panel.lstSkin->setCurrentRow(1);
-  EXPECT_TRUE(Dressed.Form.Image1->IsEmpty()) << "a picture that vanished";
+  EXPECT_TRUE(Dressed.Form.Image1->IsEmpty());
   Dressed.Close(true);
   EXPECT_EQ(GameSettings(Dressed.Where).Background(), Dressed.Picture("Satin.jpg")) << "the next start finds one";
 }

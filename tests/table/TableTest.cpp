@@ -184,25 +184,6 @@ TEST(KeyCodes, CountByThePlaceOnlyWhereThePlacesAreKnown) {
   }
 }
 
-TEST_F(TheTable, TellsAScreenReaderWhatIsDrawn) {
-  const auto Told = [this](int First) {
-    std::string All;
-    for (int i = First; i < First + 6; ++i) {
-      if (Box(i)->isVisible()) All += Box(i)->accessibleName().toStdString() + "; ";
-    }
-    return All;
-  };
-  Begin({"Ann", "Bob"});
-  EXPECT_EQ(Told(0) + Told(10), "");
-  PressRoll({1, 2, 2, 3, 5, 6});
-  EXPECT_EQ(Told(0), "Die 1: one, scores; Die 2: two; Die 3: two; Die 4: three; Die 5: five, scores; Die 6: six; ");
-  QTest::mouseClick(Box(4), Qt::LeftButton);
-  EXPECT_FALSE(Box(4)->isVisible());
-  EXPECT_EQ(Box(10)->accessibleName(), "Tray 1: five, can be taken back");
-  PressRoll({2, 2, 3, 4, 6});  // a blunko
-  EXPECT_EQ(Told(0) + Told(10), "");
-}
-
 TEST_F(TheTable, NoTextIsCut) {
   Begin({"WWWWWWWWWWWWWW", "Bob"});
   Form.Wears.TextColour = 0x0000FF;
