@@ -8,9 +8,7 @@
 #include <QtEndian>
 
 #include <cmath>
-#include <cstdint>
 #include <numbers>
-#include <vector>
 
 namespace blunko::test {
 
@@ -75,7 +73,6 @@ class SoundRecorder {
 
 /// A wave file with a tone.
 struct Tone {
-  int Format = 1;  ///< 1 whole numbers, 3 floating point
   int Rate = 44100, Width = 16, Channels = 1;
   double Frequency = 440, Seconds = 0.2, Peak = 0.4;
 
@@ -84,12 +81,8 @@ struct Tone {
     for (int i = 0; i < static_cast<int>(Rate * Seconds); ++i) {
       const double Value = Peak * std::sin(2 * std::numbers::pi * Frequency * i / Rate);
       char Bytes[4];
-      if (Format == 3) {
-        qToLittleEndian(static_cast<float>(Value), Bytes);
-      } else {
-        const auto Whole = static_cast<qint32>(std::lround(Value * ((1U << (Width - 1)) - 1)));
-        qToLittleEndian(Width == 8 ? Whole + 128 : Whole, Bytes);
-      }
+      const auto Whole = static_cast<qint32>(std::lround(Value * ((1U << (Width - 1)) - 1)));
+      qToLittleEndian(Width == 8 ? Whole + 128 : Whole, Bytes);
       for (int Channel = 0; Channel < Channels; ++Channel) Data.append(Bytes, Width / 8);
     }
     return Data;
@@ -98,7 +91,7 @@ struct Tone {
   QByteArray File() const {
     const QByteArray Data = Samples();
     QByteArray All = "RIFF" + Number(36 + static_cast<quint32>(Data.size()), 4) + "WAVEfmt " + Number(16, 4);
-    All += Number(Format, 2) + Number(Channels, 2) + Number(Rate, 4) + Number(Rate * Channels * Width / 8, 4);
+    All += Number(1, 2) + Number(Channels, 2) + Number(Rate, 4) + Number(Rate * Channels * Width / 8, 4);
     All += Number(Channels * Width / 8, 2) + Number(Width, 2);
     return All + "data" + Number(static_cast<quint32>(Data.size()), 4) + Data;
   }

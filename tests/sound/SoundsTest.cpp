@@ -71,19 +71,14 @@ TEST(Sounds, ASoundIsNeverCutAndTheNewRequestIsDropped) {
 TEST(Sounds, UsualFormatsAndLongWavesSoundAlike) {
   const SoundRecorder Recorder("1");
   const QByteArray Plain = Tone{}.File();
-  QByteArray Listed = Plain, Extensible = Plain, Endless = Plain, Promising = Plain;
+  QByteArray Listed = Plain, Endless = Plain, Promising = Plain;
   Listed.insert(36, "LIST" + Tone::Number(5, 4) + QByteArray("INFOx\0", 6));
-  Extensible.replace(16, 6, Tone::Number(40, 4) + Tone::Number(0xFFFE, 2));
-  Extensible.insert(36, Tone::Number(22, 2) + Tone::Number(16, 2) + Tone::Number(4, 4) + Tone::Number(1, 2) +
-                            QByteArray::fromHex("000000001000800000aa00389b71"));
   Endless.replace(4, 4, Tone::Number(0xFFFFFFFF, 4)).replace(40, 4, Tone::Number(0xFFFFFFFF, 4));
   Promising.replace(40, 4, Tone::Number(1'000'000, 4));
   const std::pair<const char*, QByteArray> Rows[] = {
       {"8 bits, 11025 Hz", Tone{.Rate = 11025, .Width = 8}.File()},
       {"24 bits, 96000 Hz, stereo", Tone{.Rate = 96000, .Width = 24, .Channels = 2}.File()},
-      {"floating point, 48000 Hz", Tone{.Format = 3, .Rate = 48000, .Width = 32}.File()},
       {"a list before the samples", Listed},
-      {"extensible header", Extensible},
       {"endless samples", Endless},
       {"fewer samples than promised", Promising},
       {"long", Tone{.Rate = 8000, .Width = 8, .Seconds = 22}.File()},  // more than is converted at first
