@@ -57,13 +57,15 @@ TEST_F(ScorePad, ShowsLimitsNamesScoresAndTheSeatOnTurn) {
   }
 }
 
-TEST_F(ScorePad, StandsAtTheSideWhereTheScreenHasRoom) {
+TEST_F(ScorePad, StandsAtTheSideWhereTheScreenHasRoomAndHoldsItsSeats) {
   Begin({"Ann", "Bob"});
   const QRect Screen = Form.screen()->geometry();
   for (const bool RoomAtTheRight : {true, false}) {
     Form.move(RoomAtTheRight ? Screen.x() + 10 : Screen.right() - Form.width(), Screen.y() + 40);
+    m.NumPlayers = RoomAtTheRight ? 2 : 8;
     Pad.SetPosition();
     Pad.show();
+    EXPECT_TRUE(Pad.rect().contains(Label(RoomAtTheRight ? "lblScore(1)" : "lblScore(7)")->geometry()));
     EXPECT_EQ(Pad.x() > Form.geometry().right(), RoomAtTheRight);
     EXPECT_FALSE(Pad.frameGeometry().intersects(Form.frameGeometry()));
     EXPECT_TRUE(Screen.contains(Pad.frameGeometry()));
