@@ -1,9 +1,12 @@
 #include <QDeadlineTimer>
 #include <QThread>
 
+#include <algorithm>
+#include <csignal>
 #include <functional>
 #include <gtest/gtest.h>
 #include <random>
+#include <sys/resource.h>
 #include <sys/wait.h>
 
 #include "storage/FileAccess.h"
@@ -87,17 +90,30 @@ TEST_F(IniInfoTest, MovesAwayWhatIsNoInfoFile) {
   }
 }
 
+/// From now on no file can grow beyond a number of bytes, as on a full disk.
+static void LimitFiles(rlim_t Bytes) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit Limit{};
+  getrlimit(RLIMIT_FSIZE, &Limit);
+  Limit.rlim_cur = std::min(Bytes, Limit.rlim_max);
+  setrlimit(RLIMIT_FSIZE, &Limit);
+}
+
 TEST_F(IniInfoTest, WhatCannotBeSavedHoldsForTheRunAndGoesWithTheNextWrite) {
   const QByteArray Text = "[Info]\nKey=old\n";
-  for (const auto& [FolderMode, FileMode] : {std::pair(0555, 0644), std::pair(0755, 0444), std::pair(0755, 0)}) {
+  const std::tuple<int, int, rlim_t> Rows[] = {
+      {0555, 0644, RLIM_INFINITY}, {0755, 0444, RLIM_INFINITY}, {0755, 0, RLIM_INFINITY}, {0755, 0644, 9}};
+  for (const auto& [FolderMode, FileMode, Limit] : Rows) {
     place.Put("x.ini", Text);
     place.Chmod("x.ini", FileMode);
     place.Chmod("", FolderMode);
     {
       const Unprivileged Nobody(place);
+      LimitFiles(Limit);
       Info.WriteInfoValue("Key", "new");
       EXPECT_EQ(Info.ReadInfoValue("Key"), "new");
     }
+    LimitFiles(RLIM_INFINITY);
     place.Chmod("", 0755);
     place.Chmod("x.ini", 0644);
     EXPECT_EQ(place.Get("x.ini"), Text);
