@@ -36,11 +36,6 @@ inline Folders FoldersIn(const QTemporaryDir& Place) {
   return All;
 }
 
-inline QByteArray BytesOf(const QString& Path) {
-  QFile File(Path);
-  return File.open(QIODevice::ReadOnly) ? File.readAll() : QByteArray();
-}
-
 inline void Put(const QString& Path, const QByteArray& Bytes) {
   QFile File(Path);
   ASSERT_TRUE(File.open(QIODevice::WriteOnly));
@@ -48,6 +43,15 @@ inline void Put(const QString& Path, const QByteArray& Bytes) {
 }
 
 inline void Click(QWidget* Control) { QTest::mouseClick(Control, Qt::LeftButton); }
+
+/// What a dialog is handed: a recorded desktop, and files in a folder of their own.
+struct Desk : Table {
+  QTemporaryDir Place;
+  Folders Where = FoldersIn(Place);
+  IniInfo Info{Where.InfoPath()};
+  GameSettings Settings{Where, Info};
+  QWidget Main;
+};
 
 /// Every text of a window has the room that it asks for, and every stop of the Tab key has a name.
 inline void ExpectUsable(const QWidget& Form) {
@@ -63,12 +67,6 @@ inline void ExpectUsable(const QWidget& Form) {
     EXPECT_EQ(Part->size().expandedTo(Needed), Part->size());
     EXPECT_TRUE(Form.rect().contains(QRect(Part->mapTo(&Form, QPoint()), Part->size())));
   }
-}
-
-/// Lets event loops run again after a program has ended.
-inline void BeginLoops() {
-  QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
-  QCoreApplication::exec();
 }
 
 /// Deals with the modal windows as they come up, one step each. An unexpected one is closed and fails the test, and so
@@ -96,7 +94,7 @@ class Answers : public QObject {
       Expected != nullptr ? Do(*Expected) : static_cast<void>(Shown->close());
     });
   }
-  /// The next window is a dialog of this class, or a box, and left by this button.
+  /// The next window is left by this button.
   template <typename Dialog>
   void Press(ButtonPlus* Dialog::*Button) {
     Expect<Dialog>([Button](Dialog& Shown) { Click(Shown.*Button); });
@@ -138,13 +136,11 @@ class Shell : public QObject {
   ~Shell() override {
     for (const char* Scheme : Schemes) QDesktopServices::unsetUrlHandler(QLatin1String(Scheme));
   }
+  static constexpr const char* Schemes[] = {"http", "https", "mailto"};
   Lines Opened;
 
  public slots:
   void Open(const QUrl& Address) { Opened.push_back(Address.toString().toStdString()); }
-
- private:
-  static constexpr const char* Schemes[] = {"http", "https", "mailto"};
 };
 
 /// The whole program in a folder of its own, with scripted dice and instant waits.
@@ -155,10 +151,16 @@ class TheProgram : public testing::Test {
   std::unique_ptr<Application> Run;
   Answers Next;
 
+  ~TheProgram() override { Leave(); }
   QString Path(const char* Name) const { return Place.filePath(QLatin1String(Name)); }
-  void Create() {
+  /// A program that has quit doesn't keep the dialogs of the next one from waiting.
+  void Leave() {
     Run.reset();
-    BeginLoops();
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
+    QCoreApplication::exec();
+  }
+  void Create() {
+    Leave();
     auto Numbers = std::make_unique<ScriptedDice>();
     Dice = Numbers.get();
     Run = std::make_unique<Application>(FoldersIn(Place), std::move(Numbers));

@@ -1,3 +1,4 @@
+#include <QElapsedTimer>
 #include <QMenu>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -5,25 +6,16 @@
 #include <algorithm>
 
 #include "app/Scale.h"
-#include "app/frmCongrats.h"
 #include "tests/app/Run.h"
 
 namespace blunko::test {
 namespace {
 
-const std::string Box = "Tollmoor Blunko: ";
-const std::string Version = Box + "Would you like to check for a new version of Tollmoor Blunko";
+const std::string Version = "Tollmoor Blunko: Would you like to check for a new version of Tollmoor Blunko";
 const std::string QuitGame = "Quit?: Are you sure you want to quit the current game?";
-const QByteArray TwoPersons =
-    "ShowWelcomeMessage=0\ndefNumPlayers=2\ndefPlayerIsCompString=False\xA4"
-    "False\xA4\n";
 
 class Playing : public TheProgram {
  protected:
-  QWidget* Pad() const { return Run->Form->findChild<QWidget*>(QStringLiteral("frmScorePad")); }
-  std::string Score(int Seat) const {
-    return Pad()->findChild<FitLabel*>(QStringLiteral("lblScore(%1)").arg(Seat))->text().toStdString();
-  }
   void Begin(int Seats, bool Computers) {
     GameSetup Setup;
     Setup.NumPlayers = static_cast<std::uint8_t>(Seats);
@@ -42,66 +34,12 @@ class Playing : public TheProgram {
        {"the menu", [this] { Run->Form->mnuGame->actions().last()->trigger(); }},
        {"Esc", [this] { Key(Qt::Key_Escape); }},
        {"the close box", [this] { Run->Form->close(); }}}};
-  /// Rolls with the button; the dice tumble first, then show the faces.
-  void Roll(std::initializer_list<int> Faces) {
-    constexpr int Cycles[] = {0, 20, 15, 10, 8, 7, 5};
-    Dice->Faces.assign(Faces.size() * static_cast<std::size_t>(Cycles[Faces.size()]), 6);
-    Dice->Faces.insert(Dice->Faces.end(), Faces);
-    Click(Run->Form->cmdRoll);
-  }
-  /// Two persons play with the mouse until the first has won by 6000 to 4000, and leave the trophy by this button.
-  void PlayGame(
-      ButtonPlus* frmCongrats::*Button, const std::function<void()>& Afterwards = [] {}) {
-    frmMain& Form = *Run->Form;
-    ASSERT_TRUE(Form.cmdRoll->isVisible() && Form.cmdRoll->isEnabled());
-    EXPECT_EQ(Form.lblPlayer->text() + Form.lblStatus->text(), QLatin1String("Player1Roll the dice."));
-    EXPECT_EQ(Score(1), "0");
-    Roll({1, 1, 1, 1, 3, 2});
-    Click(Form.Picture1[0]);
-    EXPECT_EQ(Form.lblTurnScore->text(), QLatin1String("2000"));
-    Click(Form.cmdPassDice);
-    EXPECT_EQ(Form.lblPlayer->text(), QLatin1String("Player2"));
-    Roll({2, 3, 3, 4, 6, 6});  // a blunko
-    EXPECT_EQ(Form.lblPlayer->text(), QLatin1String("Player1"));
-    Roll({1, 1, 1, 1, 1, 2});
-    Click(Form.Picture1[2]);
-    Next.Press(&GameBox::cmdOK);  // going out
-    Click(Form.cmdPassDice);
-    EXPECT_EQ(Form.lblLastRoll->text(), QLatin1String("(Last Roll - Need 6050 To Win)"));
-    Roll({1, 1, 1, 1, 1, 2});
-    Click(Form.Picture1[0]);
-    Next.Expect<frmCongrats>([this, Button](frmCongrats& Dialog) {
-      EXPECT_EQ(Dialog.windowTitle(), QLatin1String("Congratulations Player1 !!!"));
-      EXPECT_TRUE(QTest::qWaitFor([&] { return Dialog.lblWinner->text() == QLatin1String("* Player1 *"); }, 5000));
-      EXPECT_EQ(Score(0) + ' ' + Score(1), "6000 4000");
-      Click(Dialog.*Button);
-    });
-    Afterwards();
-    Click(Form.cmdPassDice);
+  void ExpectTable(bool Stays) {
+    EXPECT_EQ(Run->State.Quitting, !Stays);
+    EXPECT_EQ(Run->Form->isVisible(), Stays);
+    EXPECT_EQ(Run->Table.Fault(), "");
   }
 };
-
-TEST_F(Playing, TwoPersonsReachTheTrophyWithTheMouse) {
-  Start(TwoPersons);
-  frmMain& Form = *Run->Form;
-  const auto NewGame = [&] {
-    Next.Press(&frmNewGame::cmdPlay);
-    Click(Form.ARCmdNewGame);
-    EXPECT_FALSE(Form.ARCmdNewGame->isVisible());
-  };
-  NewGame();
-  PlayGame(&frmCongrats::cmdSameGame);
-  PlayGame(&frmCongrats::cmdDifferentGame, [&] { Next.Press(&frmNewGame::cmdCancel); });
-  EXPECT_TRUE(Form.ARCmdNewGame->isVisible() && Form.ARCmdNewGame->isEnabled());
-  EXPECT_FALSE(Form.cmdRoll->isVisible() || Form.cmdPassDice->isVisible() || Form.lblLastRoll->isVisible());
-  EXPECT_EQ(Run->State.CurrentPlayer, Absent);
-  NewGame();
-  Next.Seen.clear();
-  PlayGame(&frmCongrats::cmdQuit);
-  EXPECT_EQ(Next.Seen.size(), 2U) << "after the trophy nothing is asked";
-  EXPECT_TRUE(Run->State.Quitting);
-  EXPECT_FALSE(Form.isVisible());
-}
 
 TEST_F(Playing, EveryWayOutEndsItInTheMiddleOfAComputersTurn) {
   for (const auto& [Way, Out] : Ways) {
@@ -117,97 +55,107 @@ TEST_F(Playing, EveryWayOutEndsItInTheMiddleOfAComputersTurn) {
       LeaveSoon();
       Begin(8, true);
       EXPECT_EQ(std::exchange(Next.Seen, {}), Lines(2, QuitGame));
-      EXPECT_TRUE(Run->State.Quitting);
-      EXPECT_FALSE(Run->Form->isVisible());
-      EXPECT_EQ(Run->Table.Fault(), "");
+      ExpectTable(false);
     }
   }
 }
 
 /// A window that is gone while its process lives on is a game lost.
 TEST_F(Playing, EveryWayOutInsideEveryOtherLeavesTheTableOrEndsTheProgram) {
-  frmMain* Form = nullptr;
-  const auto Within = [this](Step Out, ButtonPlus* GameBox::*Answer) {
-    Next.Expect<GameBox>([Out = std::move(Out), Answer](GameBox& Box) {
+  const auto Within = [this](ButtonPlus* GameBox::*Answer, Step Out) {
+    Next.Expect<GameBox>([Answer, Out = std::move(Out)](GameBox& Box) {
       Out();
       (Box.*Answer)->click();
     });
   };
-  std::vector<std::tuple<std::string, int, std::function<void(const Step&)>>> Places{
-      // with the questions asked; each is answered with No
-      {"the new game dialog", 0,
-       [&](const Step& Out) {
+  const auto Soon = [this](const Step& Out) {
+    Run->Screen.WaitFactor = 0.01;
+    QTimer::singleShot(0, Run->Form.get(), Out);
+  };
+  const struct {
+    const char *Where, *Asked;  ///< how often each way asks; the answer is No
+    std::function<void(const Step& Out, char Asked)> In;
+  } Places[] = {
+      {"the new game dialog", "0000",
+       [&](const Step& Out, char) {
          Next.Expect<frmNewGame>([&](frmNewGame& Dialog) {
            Out();
            Dialog.reject();
          });
          Key(Qt::Key_F2);
        }},
-      {"a roll", 0,
-       [&](const Step& Out) {
-         Run->Screen.WaitFactor = 0.01;
-         QTimer::singleShot(0, Form, Out);
-         Roll({1, 2, 3, 3, 4, 6});
-         Run->Screen.WaitFactor = 0;
-       }},
-      {"the going-out box and the flash", 0,
-       [&](const Step& Out) {
+      {"a roll", "0000", [&](const Step& Out, char) { Soon(Out), Click(Run->Form->cmdRoll); }},
+      {"the going-out box and the flash", "0000",
+       [&](const Step& Out, char) {
+         Within(&GameBox::cmdOK, [&] { Soon(Out), Out(); });
          Run->State.PlayerScore = {5000, 0};
-         Roll({1, 1, 1, 2, 3, 3});
-         Click(Form->Picture1[0]);
-         Run->Screen.WaitFactor = 0.01;
-         Within([&] { QTimer::singleShot(0, Form, Out), Out(); }, &GameBox::cmdOK);
-         Click(Form->cmdPassDice);
-         Run->Screen.WaitFactor = 0;
+         Run->State.TurnScore = 1000;
+         Run->Controls.cmdPassDice.Enabled = true;
+         Run->Form->Handle([&] { Run->Table.PersonPasses(); });
        }},
-      {"the options", 1,
-       [&](const Step& Out) {
-         Form->cmdOptions->click();
-         // The button is off, and Esc closes the panel and no more.
-         const bool Asks = &Out == &Ways[1].second || &Out == &Ways[3].second;
-         Asks ? Next.Press(&GameBox::cmdNo) : Next.Seen.push_back(QuitGame);
+      {"the options", "0101",  // the button is off, and Esc closes the panel and no more
+       [&](const Step& Out, char Asked) {
+         Run->Form->cmdOptions->click();
+         if (Asked == '1') Next.Press(&GameBox::cmdNo);
          Out();
          Run->CancelOptions();
        }},
+      {"every way's question", "4444",
+       [&](const Step& Out, char) {
+         for (const auto& [Way, Ask] : Ways) Within(&GameBox::cmdNo, Out), Ask();
+       }},
   };
-  for (const auto& [Outer, Do] : Ways) {
-    Places.emplace_back(Outer, 1, [&Within, &Do = Do](const Step& Out) {
-      Within(Out, &GameBox::cmdNo);
-      Do();
-    });
-  }
-  for (const auto& [Place, Questions, In] : Places) {
-    for (const auto& [Way, Out] : Ways) {
-      SCOPED_TRACE(Place + ", " + Way);
-      Start(TwoPersons);
-      Form = Run->Form.get();
-      const bool Dialog = Place == "the new game dialog";
-      if (!Dialog) Begin(2, false);
+  for (const auto& Place : Places) {
+    for (std::size_t i = 0; i < Ways.size(); ++i) {
+      const auto& [Way, Out] = Ways[i];
+      SCOPED_TRACE(std::string(Place.Where) + ", " + Way);
+      Start();
+      const bool Plays = &Place != Places;
+      if (Plays) Begin(2, false);
       Next.Seen.clear();
-      In(Out);
-      EXPECT_EQ(std::ranges::count(Next.Seen, QuitGame), Questions);
-      EXPECT_FALSE(Run->State.Quitting);
-      EXPECT_TRUE(Form->isVisible());
-      EXPECT_EQ(Run->Table.Fault(), "");
-      if (!Dialog) Next.Press(&GameBox::cmdYes);
+      Place.In(Out, Place.Asked[i]);
+      EXPECT_EQ(std::ranges::count(Next.Seen, QuitGame), Place.Asked[i] - '0');
+      ExpectTable(true);
+      if (Plays) Next.Press(&GameBox::cmdYes);
       Out();
-      EXPECT_TRUE(Run->State.Quitting);
-      EXPECT_FALSE(Form->isVisible());
+      ExpectTable(false);
     }
   }
 }
 
-TEST_F(Playing, TheScorePadGoesAndComesBackToItsPlaceWithTheTable) {
-  Start();
-  Begin(2, false);
-  EXPECT_EQ(Pad()->pos(), QPoint(Run->Form->frameGeometry().right() + 1 + 12, Run->Form->y()));
-  Pad()->move(17, 301);
-  const QPoint Before = Pad()->pos();
-  Run->Form->showMinimized();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !Pad()->isVisible(); }, 5000));
-  Run->Form->showNormal();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Pad()->isVisible(); }, 5000));
-  EXPECT_EQ(Pad()->pos(), Before);
+/// What the person sees while a handler waits, or doesn't.
+TEST_F(Playing, EveryFaceOfTumblingDiceIsPaintedAtOnce) {
+  struct : QObject {
+    std::vector<int> Faces{0};  ///< of the first die, from the empty place on
+    std::string Status;
+    bool eventFilter(QObject* Painted, QEvent* Event) override {
+      if (Event->type() != QEvent::Paint) return false;
+      if (const auto* Label = qobject_cast<FitLabel*>(Painted)) Status += Label->text().toStdString() + '|';
+      const auto* Die = qobject_cast<DieBox*>(Painted);
+      if (Die != nullptr && Faces.back() != Die->Picture()) Faces.push_back(Die->Picture());
+      return false;
+    }
+  } Seen;
+  for (const double WaitFactor : {0.0, 0.5}) {
+    SCOPED_TRACE(WaitFactor);
+    Start();
+    Begin(2, false);
+    Run->Screen.WaitFactor = WaitFactor;
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(Run->Form.get(), 2000));
+    Dice->Faces.clear();
+    for (int i = 0; i < 30; ++i) Dice->Faces.push_back((i / 6 + i % 6) % 6 + 1);
+    Dice->Faces.insert(Dice->Faces.end(), {6, 4, 4, 3, 2, 1});
+    Seen.Faces = {0};
+    Seen.Status.clear();
+    Run->Form->Picture1[0]->installEventFilter(&Seen);
+    Run->Form->lblStatus->installEventFilter(&Seen);
+    QElapsedTimer Clock;
+    Clock.start();
+    Click(Run->Form->cmdRoll);
+    EXPECT_GE(Clock.elapsed(), static_cast<qint64>(5 * 6 * 10 * WaitFactor));
+    EXPECT_EQ(Seen.Faces, (std::vector{0, 113, 114, 115, 116, 117, 113})) << "five tumbling, then sorted";
+    EXPECT_EQ(Seen.Status, "Rolling...|Select Dice.|");
+  }
 }
 
 TEST(Scale, MakesNoWindowLargerThanTheScreenNorSmallerThanItIs) {
@@ -217,39 +165,27 @@ TEST(Scale, MakesNoWindowLargerThanTheScreenNorSmallerThanItIs) {
 }
 
 TEST_F(TheProgram, AsksItsTwoQuestionsAtTheFirstStartAlone) {
-  const char* const Survey =
-      "Tollmoor Blunko: To better serve our customers we would like to record the hardware configuration of your "
-      "computer.  This information is reported anonymously and contains no personally identifying information.\nMay we "
-      "do this?";
-  for (const auto Answer : {&GameBox::cmdYes, &GameBox::cmdNo}) {
-    const bool Yes = Answer == &GameBox::cmdYes;
+  for (const bool Yes : {true, false}) {
     QFile::remove(Path("game.ini"));
-    Create();
-    Next.Press(Answer);
-    if (Yes) Next.Press(&GameBox::cmdOK);
-    Next.Press(&GameBox::cmdNo);
-    EXPECT_TRUE(Run->Main());
-    EXPECT_EQ(std::exchange(Next.Seen, {}),
-              Yes ? (Lines{Survey, Box + "Thank You", Version}) : (Lines{Survey, Version}));
-    EXPECT_EQ(Dice->Draws, 0);
-    EXPECT_EQ(QFile::remove(Path("hardware.txt")), Yes);
-
-    for (int Drawn = 1; Drawn <= 5; ++Drawn) {
+    for (int Drawn = 0; Drawn <= 5; ++Drawn) {  // nothing is drawn at the first start
       Create();
       Dice->Faces = {Drawn};
-      if (Drawn == 1) Next.Press(&GameBox::cmdNo);
+      if (Drawn == 0) Next.Press(Yes ? &GameBox::cmdYes : &GameBox::cmdNo);
+      if (Drawn == 0 && Yes) Next.Press(&GameBox::cmdOK);
+      if (Drawn <= 1) Next.Press(&GameBox::cmdNo);
       EXPECT_TRUE(Run->Main());
-      EXPECT_EQ(std::exchange(Next.Seen, {}), Drawn == 1 ? Lines{Version} : Lines{});
+      EXPECT_EQ(Dice->Draws == 0, Drawn == 0);
+      Next.Seen.insert(Next.Seen.begin(), "");
+      EXPECT_EQ(std::exchange(Next.Seen, {}).back(), Drawn <= 1 ? Version : "");
     }
+    EXPECT_EQ(QFile::remove(Path("hardware.txt")), Yes);
   }
 }
 
 TEST_F(TheProgram, TellsWhatTheVersionCheckFound) {
-  const std::string Latest = "You have the latest version.";
   const std::string Newer = "A newer version is available, would you like to go to the web site to download it?";
   const std::tuple<QByteArray, std::string, ButtonPlus * GameBox::*, bool> Rows[] = {
-      {"0.9.9\n", Latest, &GameBox::cmdOK, true},
-      {"1.0.0\n", Latest, &GameBox::cmdOK, true},
+      {"1.0.0\n", "You have the latest version.", &GameBox::cmdOK, true},
       {"1.0.1\n", Newer, &GameBox::cmdNo, true},
       {"1.0.1\n", Newer, &GameBox::cmdYes, false},
       {"<html>404", "An error has occurred. Please try again later.", &GameBox::cmdOK, true}};
@@ -274,10 +210,9 @@ TEST_F(TheProgram, TellsWhatTheVersionCheckFound) {
     Next.Press(&GameBox::cmdYes);
     Next.Press(Answer);
     EXPECT_EQ(Run->Main(), Starts);
-    EXPECT_EQ(std::exchange(Next.Seen, {}), (Lines{Version, Box + Told}));
+    EXPECT_EQ(std::exchange(Next.Seen, {}), (Lines{Version, "Tollmoor Blunko: " + Told}));
     EXPECT_EQ(Run->Form != nullptr, Starts);
     EXPECT_EQ(Browser.Opened.size(), Starts ? 0U : 1U);
-    Run.reset();
   }
 }
 
