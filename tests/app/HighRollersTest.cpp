@@ -10,14 +10,15 @@
 namespace blunko::test {
 namespace {
 
-/// The lists in their file with the real writer, and a screen that writes down what is asked, a line a question.
+const auto Turn = &RollerLists::lstHSTS, Whoop = &RollerLists::lstBMoV;
+
+/// Writes down what is asked, a line a question, and answers with `Typed` and `Word`; "Close" ends the program instead.
 struct Files : Desk, HighRollersScreen {
   TbkUtil Util{QString()};
   HighRollers Rollers = Copy();
   Lines Log;
   QString Typed;
   std::string Word;
-  std::function<void()> WhileAsked = [] {}, WhileShown = [] {};
 
   HighRollers Copy() {
     Util.UtilSetFolder(Place.path());
@@ -25,28 +26,22 @@ struct Files : Desk, HighRollersScreen {
     Made.LoadHighRollers();
     return Made;
   }
-  /// Name and score of an entry as the file holds it.
-  std::string Held(WhichList List, int Index) {
-    const HighRoller Entry = (Copy().Lists().*List)[static_cast<std::size_t>(Index)];
-    return (Entry.Name + QLatin1Char(' ') + QString::number(Entry.Score)).toStdString();
-  }
   QString AskName(const QString& Prompt, const QString&, const QString& Preset) override {
     Log.push_back((Prompt + QLatin1Char('|') + Preset).toStdString());
     return Typed;
   }
   void AskToView() override {
     Log.push_back(m.FormMessage);
-    WhileAsked();
-    if (!Word.empty()) m.FormMessage = Word;
+    EXPECT_EQ(Copy().Lists(), RollerLists::Default()) << "saved after the answer";
+    m.Quitting = Word == "Close";
+    if (!Word.empty()) m.FormMessage = m.Quitting ? "Yes" : Word;
   }
   void ViewLists() override {
     Log.emplace_back("lists");
-    WhileShown();
+    EXPECT_NE(Copy().Lists(), RollerLists::Default()) << "saved before the lists open";
   }
   QString Today() const override { return QStringLiteral("40000"); }
 };
-
-const auto Turn = &RollerLists::lstHSTS, Whoop = &RollerLists::lstBMoV;
 
 TEST(HighRollersCheck, AsksAndInserts) {
   const std::string Made = "Congratulations!  You just made number ", What = " top ten!  What's your name?|";
@@ -58,16 +53,18 @@ TEST(HighRollersCheck, AsksAndInserts) {
     std::int16_t Score;
     const char *QuietDay, *Typed, *Word;
     Lines Asked;
-    int Place;
-    const char* Entry;
+    std::size_t Place;
+    const char* Held;
   } Rows[] = {
-      {Turn, "Ann", 1050, "", "", "Yes", {}, 9, "Vivianne 1050"},  // equal to the last
-      {Turn, "Ann", 1500, "", "", "Yes", {"Ann¤2¤turn", "lists"}, 1, "Ann 1500"},
-      {Whoop, "Ann", 1501, "Null", "", "", {"Ann¤1¤whoop"}, 0, "Ann 1501"},  // closed without a button
-      {Turn, "Player 3", 1420, "39999", "Zoë", "No", {Made + "3" + Turns + "Player 3", "Zoë¤3¤turn"}, 2, "Zoë 1420"},
-      {Whoop, "Player1", 1600, "", "", "No", {Made + "1" + Whoops + "Player1", "¤1¤whoop"}, 0, " 1600"},  // Cancel
-      {Turn, "player 3", 1420, "40000", "", "Yes", {}, 2, "player 3 1420"},
-      {Turn, "Player", 1600, "", "a¤b\nÿ€c", "No", {Made + "1" + Turns + "Player", "abyc¤1¤turn"}, 0, "abyc 1600"},
+      {Turn, "Ann", 1050, "", "", "Yes", {}, 9, "Vivianne"},  // equal to the last
+      {Turn, "Ann", 1500, "", "", "Yes", {"Ann¤2¤turn", "lists"}, 1, "Ann"},
+      {Turn, "Ann", 1500, "", "", "Close", {"Ann¤2¤turn"}, 1, "Ann"},
+      {Turn, "Player 1", 1600, "", "", "Closed", {}, 0, "Player 1"},
+      {Whoop, "Ann", 1501, "Null", "", "", {"Ann¤1¤whoop"}, 0, "Ann"},  // closed without a button
+      {Turn, "Player 3", 1420, "39999", "Zoë", "No", {Made + "3" + Turns + "Player 3", "Zoë¤3¤turn"}, 2, "Zoë"},
+      {Whoop, "Player1", 1600, "", "", "No", {Made + "1" + Whoops + "Player1", "¤1¤whoop"}, 0, ""},  // Cancel
+      {Turn, "player 3", 1420, "40000", "", "Yes", {}, 2, "player 3"},
+      {Turn, "Player", 1600, "", "a¤b\nÿ€c", "No", {Made + "1" + Turns + "Player", "abyc¤1¤turn"}, 0, "abyc"},
   };
   for (const auto& Row : Rows) {
     SCOPED_TRACE(&Row - Rows);
@@ -75,83 +72,19 @@ TEST(HighRollersCheck, AsksAndInserts) {
     At.Info.WriteInfoValue(NoQuestionKey, QLatin1String(Row.QuietDay));
     At.Typed = QString::fromUtf8(Row.Typed);
     At.Word = Row.Word;
-    At.WhileAsked = [&] { EXPECT_EQ(At.Copy().Lists(), RollerLists::Default()) << "saved after the answer"; };
-    At.WhileShown = [&] { EXPECT_EQ(At.Held(Row.List, Row.Place), Row.Entry) << "saved before the lists open"; };
+    At.m.Quitting = At.Word == "Closed";
     HighRollersCheck Check(At.m, At.Info, At.Rollers, At);
     Row.List == Whoop ? Check.CheckWhoopin(Row.Name, Row.Score) : Check.CheckHighTurn(Row.Name, Row.Score);
     EXPECT_EQ(At.Log, Row.Asked);
     EXPECT_EQ(At.m.FormMessage, "");
-    EXPECT_EQ(At.Held(Row.List, Row.Place), Row.Entry);
+    EXPECT_EQ((At.Copy().Lists().*Row.List)[Row.Place].Name, QString::fromUtf8(Row.Held));
   }
 }
 
-TEST(HighRollersCheck, WhileAskedTheTableMayCloseAndAnotherCopySave) {
-  for (const bool Before : {true, false}) {
-    Files At;
-    At.m.Quitting = Before;
-    At.Word = "Yes";
-    At.WhileAsked = [&] {
-      At.m.Quitting = true;
-      At.Copy().Add(Turn, {QStringLiteral("Faster"), 1700});
-    };
-    HighRollersCheck(At.m, At.Info, At.Rollers, At).CheckHighTurn(Before ? "Player 1" : "Ann", 1600);
-    EXPECT_EQ(At.Log, Before ? Lines{} : Lines{"Ann¤1¤turn"});
-    EXPECT_EQ(At.Held(Turn, Before ? 0 : 1), Before ? "Player 1 1600" : "Ann 1600") << "not lost";
-  }
-}
-
-TEST(frmHighRollers, ShowsBothListsInColumnsAndResetsThem) {
-  Files At;
-  At.Copy().Add(Turn, {QStringLiteral("WWWWWWWWWWWWWWWÄ"), 12650});
-  At.Copy().Add(Turn, {QStringLiteral("A name of more than sixteen letters"), 1990});
-  frmHighRollers Form(At.Rollers, At.Screen, &At.Main);
-  Form.show();
-  EXPECT_TRUE(Form.txtHSTSList->toPlainText().startsWith(
-      QStringLiteral("WWWWWWWWWWWWWWWÄ12650\nA name of more than sixteen letters1990\nTam.............1500\n")));
-  EXPECT_TRUE(Form.txtBMoVList->toPlainText().endsWith(QLatin1String("\nGeorgiana.......1050")));
-  ExpectUsable(Form);
-  for (const QPlainTextEdit* Box : {Form.txtHSTSList, Form.txtBMoVList}) {
-    EXPECT_EQ(Box->horizontalScrollBar()->maximum() + Box->verticalScrollBar()->maximum(), 0) << "all rows fit";
-  }
-  At.Screen.Answer = false;
-  Click(Form.lblReset);
-  EXPECT_EQ(At.TakeLog(), Lines{"ask Reset Lists?: Are you sure you want to reset the high score lists?"});
-  EXPECT_EQ(At.Held(Turn, 1), "A name of more than sixteen letters 1990");
-  At.Screen.Answer = true;
-  QTest::keyClick(Form.lblReset, Qt::Key_Return);
-  EXPECT_TRUE(Form.txtHSTSList->toPlainText().startsWith(QLatin1String("Tam")));
-  EXPECT_EQ(At.Rollers.Lists(), RollerLists::Default()) << "the next score is tested against the default lists";
-  EXPECT_EQ(At.Copy().Lists(), RollerLists::Default());
-}
-
-TEST(frmViewHRListYN, SaysWhatWasMadeAndLeavesAWord) {
-  const std::string Brought = "<b>WWWWWWWWWWWWWWWWWWWWWWWWWW%1&¤10¤whoop";
-  Desk At;
-  std::string Message = Brought;
-  frmViewHRListYN Form(Message, At.Screen, At.Info, &At.Main);
-  Form.show();
-  EXPECT_EQ(Form.lblWayToGo->text(), QLatin1String("Great Job, <b>WWWWWWWWWWWWWWWWWWWWWWWWWW%1&!!!"));
-  EXPECT_TRUE(Form.lblMessage->text().startsWith(
-      QLatin1String("You just made number 10 on the \"Biggest Whoopin'\" top ten!  Would")));
-  ExpectUsable(Form);
-  for (QWidget* Part : {static_cast<QWidget*>(Form.lblCheck), static_cast<QWidget*>(Form.lblDontAsk)}) {
-    Click(Part);
-    EXPECT_EQ(At.Info.ReadInfoValue(NoQuestionKey), Part == Form.lblCheck ? DayNumber(QDate::currentDate()) : NoDay);
-    EXPECT_EQ(At.TakeLog(), Lines{"beep"});
-  }
-  Form.close();
-  EXPECT_EQ(Message, Brought) << "closed without a button";
-  for (const auto& [Button, Word] : {std::pair(Form.cmdNo, "No"), std::pair(Form.cmdYes, "Yes")}) {
-    Form.show();
-    Click(Button);
-    EXPECT_FALSE(Form.isVisible());
-    EXPECT_EQ(Message, Word);
-  }
-}
-
-TEST_F(TheProgram, ABankedTurnEntersTheListOfTheRealDialogs) {
+TEST_F(TheProgram, ABankedTurnGoesThroughTheRealDialogs) {
   Start();
   Run->Rollers.ResetHighRollers();
+  Run->Rollers.Add(Turn, {QStringLiteral("A name of more than sixteen letters"), 1990});
   GameSetup Setup;
   Setup.NumPlayers = 2;
   Setup.Seats[0].Name = "Player1";
@@ -159,13 +92,37 @@ TEST_F(TheProgram, ABankedTurnEntersTheListOfTheRealDialogs) {
   Next.Expect<GameBox>([](GameBox& Box) {
     EXPECT_EQ(Box.txtAnswer->text(), "Player1");
     Box.txtAnswer->clear();
-    Box.txtAnswer->insert(QStringLiteral("Zö¤€ÿe"));  // as a paste does
-    QTest::keyClicks(Box.txtAnswer, QStringLiteral(" and many letters"));
+    Box.txtAnswer->insert(QStringLiteral("<b>Zö¤€ÿe"));  // as a paste does
+    QTest::keyClicks(Box.txtAnswer, QStringLiteral("%1& many letters"));
     QTest::keyClick(Box.txtAnswer, Qt::Key_Return);
   });
-  Next.Press(&frmViewHRListYN::cmdYes);
+  Next.Expect<frmViewHRListYN>([&](frmViewHRListYN& Form) {
+    ExpectUsable(Form);
+    EXPECT_EQ(Form.lblWayToGo->text(), QStringLiteral("Great Job, <b>Zöye%1& man!!!"));
+    EXPECT_TRUE(Form.lblMessage->text().startsWith(
+        QLatin1String("You just made number 2 on the \"Highest Single Turn Score\" top ten!  Would")));
+    for (QWidget* Part : {static_cast<QWidget*>(Form.lblCheck), static_cast<QWidget*>(Form.lblDontAsk)}) {
+      Click(Part);
+      EXPECT_EQ(Run->InfoFile.ReadInfoValue(NoQuestionKey),
+                Part == Form.lblCheck ? DayNumber(QDate::currentDate()) : NoDay);
+    }
+    Click(Form.cmdYes);
+  });
   Next.Expect<frmHighRollers>([&](frmHighRollers& Form) {
-    EXPECT_TRUE(Form.txtHSTSList->toPlainText().startsWith(QStringLiteral("Zöye and many ..1600\n")));
+    ExpectUsable(Form);
+    const auto Shown = [&] { return Form.txtHSTSList->toPlainText().left(57); };
+    const QString Entered = QStringLiteral("A name of more than sixteen letters1990\n<b>Zöye%1& man..1");
+    EXPECT_EQ(Shown(), Entered);
+    for (const QPlainTextEdit* Box : {Form.txtHSTSList, Form.txtBMoVList}) {
+      EXPECT_EQ(Box->horizontalScrollBar()->maximum() + Box->verticalScrollBar()->maximum(), 0) << "all rows fit";
+    }
+    Next.Press(&GameBox::cmdNo);
+    Click(Form.lblReset);
+    EXPECT_EQ(Shown(), Entered);
+    Next.Press(&GameBox::cmdYes);
+    QTest::keyClick(Form.lblReset, Qt::Key_Return);
+    EXPECT_TRUE(Shown().startsWith(QLatin1String("Tam.............1500\n")));
+    EXPECT_EQ(Run->Rollers.Lists(), RollerLists::Default()) << "the next score is tested against the default lists";
     QTest::keyClick(&Form, Qt::Key_Return);
   });
   Run->State.TurnScore = 1600;
