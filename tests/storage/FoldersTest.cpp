@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "storage/Folders.h"
-#include "tests/storage/Place.h"
+#include "tests/support/Place.h"
 
 namespace blunko::test {
 

@@ -4,7 +4,7 @@
 
 #include "storage/GameSettings.h"
 #include "storage/SavedSetup.h"
-#include "tests/storage/Place.h"
+#include "tests/support/Place.h"
 
 namespace blunko::test {
 

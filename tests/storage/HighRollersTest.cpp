@@ -4,7 +4,7 @@
 
 #include "storage/DayNumber.h"
 #include "storage/HighRollers.h"
-#include "tests/storage/Place.h"
+#include "tests/support/Place.h"
 
 namespace blunko::test {
 
@@ -49,7 +49,8 @@ TEST_F(HighRollersTest, CopiesScrambleTheFileAndKeepEachOthersEntries) {
   Here.Add(Turns, {QStringLiteral("Equal"), 1700});
   EXPECT_EQ(Best(4), "There Equal Here Tam") << "the earlier of two equal ones stands above";
   for (const bool Damaged : {true, false}) {
-    Damaged ? place.Put(Name, "rubbish") : void(QFile::remove(place.Path(Name)));
+    QFile::remove(place.Path(Name));
+    if (Damaged) place.Put(Name, "rubbish");
     Here.Add(Turns, {QStringLiteral("Next"), 1650});
     EXPECT_EQ(Best(3), "There Equal Next") << "a damage during the run loses no entry";
   }

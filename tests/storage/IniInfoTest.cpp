@@ -11,7 +11,7 @@
 
 #include "storage/FileAccess.h"
 #include "storage/IniInfo.h"
-#include "tests/storage/Place.h"
+#include "tests/support/Place.h"
 
 namespace blunko::test {
 
@@ -77,8 +77,7 @@ TEST_F(IniInfoTest, SeesWhatOthersWrote) {
 TEST_F(IniInfoTest, MovesAwayWhatIsNoInfoFile) {
   const std::function<void()> Rows[] = {[this] { place.Put("x.ini", QByteArray(2 << 20, '\n')); },
                                         [this] { place.Put("x.ini", QByteArray("[\0I\0n\0f\0o\0", 10)); },
-                                        [this] { place.Put("x.ini/inside", ""); },
-                                        [this] { mkfifo(QFile::encodeName(path).constData(), 0600); }};
+                                        [this] { place.Put("x.ini/inside", ""); }, [this] { place.Pipe("x.ini"); }};
   QStringList Aside;
   for (const auto& Plant : Rows) {
     Plant();

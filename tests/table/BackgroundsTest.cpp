@@ -5,7 +5,7 @@
 
 #include "table/Backgrounds.h"
 #include "table/JpegCheck.h"
-#include "tests/storage/Place.h"
+#include "tests/support/Place.h"
 #include "widgets/Pictures.h"
 
 namespace blunko::test {

@@ -8,7 +8,7 @@
 #include "app/SettingsView.h"
 #include "table/DiceSets.h"
 #include "table/OptionsPanel.h"
-#include "tests/storage/Place.h"
+#include "tests/support/Place.h"
 #include "tests/table/TableForm.h"
 
 namespace blunko::test {

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-#include "tests/storage/Place.h"
+#include "tests/support/Place.h"
 #include "util/TbkUtil.h"
 
 namespace blunko::test {

@@ -13,9 +13,15 @@ namespace blunko::test {
 class Place {
  public:
   QString Path(const QString& Name = {}) const { return Name.isEmpty() ? folder.path() : folder.filePath(Name); }
-  void Put(const QString& Name, const QByteArray& Bytes) const {
+  QString Put(const QString& Name, const QByteArray& Bytes) const {
     QFile File(Path(Name));
     if (!QDir().mkpath(QFileInfo(File).path()) || !File.open(QIODevice::WriteOnly) || File.write(Bytes) < 0) abort();
+    return Path(Name);
+  }
+  /// A pipe that nobody serves.
+  QString Pipe(const QString& Name) const {
+    if (mkfifo(QFile::encodeName(Path(Name)).constData(), 0600) != 0) abort();
+    return Path(Name);
   }
   QByteArray Get(const QString& Name) const {
     QFile File(Path(Name));
