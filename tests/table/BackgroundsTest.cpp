@@ -11,11 +11,6 @@
 namespace blunko::test {
 namespace {
 
-/// A pipe that nobody writes into: who reads it waits for ever.
-QString Pipe(const Place& Folder, const char* Name) {
-  EXPECT_EQ(mkfifo(QFile::encodeName(Folder.Path(Name)).constData(), 0600), 0);
-  return Folder.Path(Name);
-}
 
 TEST(Backgrounds, AColourFileCountsByTheNumberItBeginsWith) {
   const std::pair<QByteArray, int> Rows[] = {
@@ -28,7 +23,7 @@ TEST(Backgrounds, AColourFileCountsByTheNumberItBeginsWith) {
   }
   EXPECT_EQ(ReadColourFile(Folder.Path("None.clr")), 0);
   EXPECT_EQ(ReadColourFile(Folder.Path()), 0) << "a folder";
-  EXPECT_EQ(ReadColourFile(Pipe(Folder, "Pipe.clr")), 0);
+  EXPECT_EQ(ReadColourFile(Folder.Pipe("Pipe.clr")), 0);
 }
 
 TEST(Backgrounds, TheFoldersAreLookedThroughAfreshAsOneListSortedByCharacterCode) {
@@ -97,7 +92,7 @@ TEST(Backgrounds, AnyFileLeavesTheTableUsable) {
   Folder.Put("Cut.jpg", Bytes.left(Bytes.size() / 3));
   Folder.Put("Text.jpg", "no picture at all");
   Folder.Put("Empty.jpg", "");
-  Pipe(Folder, "Pipe.jpg");
+  Folder.Pipe("Pipe.jpg");
   StretchedPicture Table;
   Table.resize(393, 513);
   const std::pair<const char*, bool> Rows[] = {
