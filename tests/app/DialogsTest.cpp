@@ -77,7 +77,7 @@ TEST(CustomizeSounds, EveryEntryOfTheListIsItsEventAndOKAloneWritesAll) {
   frmCustomizeSounds Form(At.m.FormMessage, At.Settings, At.Screen, &At.Main);
   qputenv("HOME", QFile::encodeName(QDir::tempPath()));
   const QString Own = At.Place.filePath(QStringLiteral("own.wav"));
-  Put(Own, {});
+  ASSERT_TRUE(ReplaceFile(Own, {}));
   const auto Pick = [&](const QString& File, const QString& Begin) {
     Next.Expect<QFileDialog>([&](QFileDialog& Dialog) {
       EXPECT_EQ(Dialog.directory().path(), Begin);

@@ -83,12 +83,8 @@ TEST(HighRollersCheck, AsksAndInserts) {
 
 TEST_F(TheProgram, ABankedTurnGoesThroughTheRealDialogs) {
   Start();
-  Run->Rollers.ResetHighRollers();
   Run->Rollers.Add(Turn, {QStringLiteral("A name of more than sixteen letters"), 1990});
-  GameSetup Setup;
-  Setup.NumPlayers = 2;
-  Setup.Seats[0].Name = "Player1";
-  Run->Table.FreshGame(Setup);
+  Begin(2, false, "Player1");
   Next.Expect<GameBox>([](GameBox& Box) {
     EXPECT_EQ(Box.txtAnswer->text(), "Player1");
     Box.txtAnswer->clear();

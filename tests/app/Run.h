@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFile>
 #include <QLabel>
 #include <QTemporaryDir>
 #include <QTest>
@@ -19,6 +18,7 @@
 #include <vector>
 
 #include "app/Application.h"
+#include "storage/FileAccess.h"
 #include "tests/support/Table.h"
 #include "widgets/Boxes.h"
 
@@ -34,12 +34,6 @@ inline Folders FoldersIn(const QTemporaryDir& Place) {
   All.Temp = Place.path() + QStringLiteral("/temp/");
   QDir().mkpath(All.Temp);
   return All;
-}
-
-inline void Put(const QString& Path, const QByteArray& Bytes) {
-  QFile File(Path);
-  ASSERT_TRUE(File.open(QIODevice::WriteOnly));
-  File.write(Bytes);
 }
 
 inline void Click(QWidget* Control) { QTest::mouseClick(Control, Qt::LeftButton); }
@@ -166,17 +160,19 @@ class TheProgram : public testing::Test {
     Run = std::make_unique<Application>(FoldersIn(Place), std::move(Numbers));
     Run->Screen.WaitFactor = 0;
   }
-  /// A later start, with nothing asked and lists that nobody gets into.
+  /// A later start, with nothing asked.
   void Start(const QByteArray& Keys = "ShowWelcomeMessage=0\n") {
-    Put(Path("game.ini"), "[Info]\nScanned=True\nComputerFast=2\n" + Keys);
+    ReplaceFile(Path("game.ini"), "[Info]\nScanned=True\nComputerFast=2\n" + Keys);
     QFile::link(QStringLiteral(TBK_ASSETS "/help"), Path("help"));
-    RollerLists Full;
-    Full.lstHSTS.fill({QStringLiteral("Top"), INT16_MAX});
-    Full.lstBMoV = Full.lstHSTS;
-    Put(Path("highscores.dat"), ScrambleText(Full.Text()));
     Create();
     Dice->Faces = {2};
     ASSERT_TRUE(Run->Main());
+  }
+  void Begin(int Seats, bool Computers, const char* Name = "Somebody") {
+    GameSetup Setup;
+    Setup.NumPlayers = static_cast<std::uint8_t>(Seats);
+    for (auto& Seat : Setup.Seats) Seat = {Name, Computers, Simple};
+    Run->Form->Handle([&] { Run->Table.FreshGame(Setup); });
   }
 };
 

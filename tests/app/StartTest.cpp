@@ -15,12 +15,6 @@ const std::string QuitGame = "Quit?: Are you sure you want to quit the current g
 
 class Playing : public TheProgram {
  protected:
-  void Begin(int Seats, bool Computers) {
-    GameSetup Setup;
-    Setup.NumPlayers = static_cast<std::uint8_t>(Seats);
-    for (auto& Seat : Setup.Seats) Seat = {"Somebody", Computers, Simple};
-    Run->Form->Handle([&] { Run->Table.FreshGame(Setup); });
-  }
   void Key(int Code) {
     for (const auto Type : {QEvent::KeyPress, QEvent::KeyRelease}) {
       QKeyEvent Event(Type, Code, {});
