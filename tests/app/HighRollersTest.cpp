@@ -26,8 +26,8 @@ struct Files : Desk, HighRollersScreen {
     Made.LoadHighRollers();
     return Made;
   }
-  QString AskName(const QString& Prompt, const QString&, const QString& Preset) override {
-    Log.push_back((Prompt + QLatin1Char('|') + Preset).toStdString());
+  QString AskName(const QString&, const QString&, const QString& Preset) override {
+    Log.push_back("ask " + Preset.toStdString());
     return Typed;
   }
   void AskToView() override {
@@ -44,9 +44,6 @@ struct Files : Desk, HighRollersScreen {
 };
 
 TEST(HighRollersCheck, AsksAndInserts) {
-  const std::string Made = "Congratulations!  You just made number ", What = " top ten!  What's your name?|";
-  const std::string Turns = " on the \"Highest Single Turn Score\"" + What;
-  const std::string Whoops = " on the \"Biggest Whoopin'\"" + What;
   const struct {
     WhichList List;
     const char* Name;
@@ -61,10 +58,10 @@ TEST(HighRollersCheck, AsksAndInserts) {
       {Turn, "Ann", 1500, "", "", "Close", {"Ann¤2¤turn"}, 1, "Ann"},
       {Turn, "Player 1", 1600, "", "", "Closed", {}, 0, "Player 1"},
       {Whoop, "Ann", 1501, "Null", "", "", {"Ann¤1¤whoop"}, 0, "Ann"},  // closed without a button
-      {Turn, "Player 3", 1420, "39999", "Zoë", "No", {Made + "3" + Turns + "Player 3", "Zoë¤3¤turn"}, 2, "Zoë"},
-      {Whoop, "Player1", 1600, "", "", "No", {Made + "1" + Whoops + "Player1", "¤1¤whoop"}, 0, ""},  // Cancel
+      {Turn, "Player 3", 1420, "39999", "Zoë", "No", {"ask Player 3", "Zoë¤3¤turn"}, 2, "Zoë"},
+      {Whoop, "Player1", 1600, "", "", "No", {"ask Player1", "¤1¤whoop"}, 0, ""},  // Cancel
       {Turn, "player 3", 1420, "40000", "", "Yes", {}, 2, "player 3"},
-      {Turn, "Player", 1600, "", "a¤b\nÿ€c", "No", {Made + "1" + Turns + "Player", "abyc¤1¤turn"}, 0, "abyc"},
+      {Turn, "Player", 1600, "", "a¤b\nÿ€c", "No", {"ask Player", "abyc¤1¤turn"}, 0, "abyc"},
   };
   for (const auto& Row : Rows) {
     SCOPED_TRACE(&Row - Rows);
@@ -85,7 +82,10 @@ TEST_F(TheProgram, ABankedTurnGoesThroughTheRealDialogs) {
   Start();
   Run->Rollers.Add(Turn, {QStringLiteral("A name of more than sixteen letters"), 1990});
   Begin(2, false, "Player1");
-  Next.Expect<GameBox>([](GameBox& Box) {
+  Next.Expect<GameBox>([&](GameBox& Box) {
+    EXPECT_EQ(Next.Seen.back(),
+              "Way To Go !!!: Congratulations!  You just made number 2 on the \"Highest Single Turn Score\" top ten!  "
+              "What's your name?");
     EXPECT_EQ(Box.txtAnswer->text(), "Player1");
     Box.txtAnswer->clear();
     Box.txtAnswer->insert(QStringLiteral("<b>Zö¤€ÿe"));  // as a paste does
