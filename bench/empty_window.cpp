@@ -2,6 +2,8 @@
 
 #include <QApplication>
 
+#include <optional>
+
 #include "bench/FirstPaint.h"
 
 int main(int argc, char** argv) {
@@ -9,8 +11,8 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QWidget Window;
   Window.setFixedSize(391, 513);
-  const FirstPaint Watch(Window);
-  if (argc > 1) Window.removeEventFilter(const_cast<FirstPaint*>(&Watch));
+  std::optional<FirstPaint> Watch;
+  if (argc < 2) Watch.emplace(Window);
   Window.show();
   return QApplication::exec();
 }

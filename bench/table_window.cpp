@@ -1,7 +1,10 @@
-// The game's start up to the first painted table, for start_up: table_window STATE_FOLDER
+// The game's start up to the first painted table, for start_up: table_window STATE_FOLDER. With a second argument, for
+// instructions, it stays.
 
 #include <QApplication>
 #include <QFileInfo>
+
+#include <optional>
 
 #include "app/Application.h"
 #include "bench/FirstPaint.h"
@@ -24,6 +27,7 @@ int main(int argc, char** argv) {
   const blunko::IniInfo Info(Where.InfoPath());
   blunko::Application Program(Where, Info, std::make_unique<NeverOne>());
   if (!Program.Main()) return 1;
-  const FirstPaint Watch(*Program.Form->picGameTray);
+  std::optional<FirstPaint> Watch;
+  if (argc < 3) Watch.emplace(*Program.Form->picGameTray);
   return QApplication::exec();
 }

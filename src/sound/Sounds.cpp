@@ -116,6 +116,7 @@ class Sounds::Player {
 
   const Milliseconds idleTime, retryTime;
 
+  std::thread thread;  ///< of the device
   std::mutex mutex;
   std::condition_variable changed;
   QString next;             ///< the wave file that waits for the device
@@ -141,7 +142,8 @@ void Sounds::Player::Start(const std::shared_ptr<Player>& Shared, const QString&
   p.changed.notify_all();
   if (p.running) return;
   try {
-    std::thread([Shared] { Shared->Run(); }).detach();
+    if (p.thread.joinable()) p.thread.join();  // it has nothing more to do
+    p.thread = std::thread([Shared] { Shared->Run(); });
     p.running = true;
   } catch (const std::system_error&) {  // no room for another thread
     p.busy = false;
@@ -157,7 +159,8 @@ void Sounds::Player::Stop() {
   std::unique_lock Lock(mutex);
   stopping = true;
   changed.notify_all();
-  changed.wait_for(Lock, LongestClosing, [this] { return !running; });
+  const bool Ended = changed.wait_for(Lock, LongestClosing, [this] { return !running; });
+  if (thread.joinable()) Ended ? thread.join() : thread.detach();
 }
 
 /// The device's thread: plays what is asked for, until nothing has been for a while or the device is gone.
