@@ -1,6 +1,7 @@
 #include "table/DieBox.h"
 
 #include <QAccessible>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -103,6 +104,16 @@ void DieBox::mouseReleaseEvent(QMouseEvent* Event) {
   Event->accept();
   if (Event->button() == Qt::LeftButton) return;
   if (hitButton(Event->position().toPoint())) emit mouseUp(index, ButtonNumber(Event->button()));
+}
+
+/// Left and Right go from die to die within the row.
+void DieBox::keyPressEvent(QKeyEvent* Event) {
+  const int Step = Event->key() == Qt::Key_Right ? 1 : Event->key() == Qt::Key_Left ? -1 : 0;
+  if (Step == 0) return QAbstractButton::keyPressEvent(Event);
+  const auto Row = parentWidget()->findChildren<DieBox*>(Qt::FindDirectChildrenOnly);
+  auto Next = Row.indexOf(this) + Step;
+  while (Next >= 0 && Next < Row.size() && Row[Next]->isHidden()) Next += Step;
+  if (Next >= 0 && Next < Row.size()) Row[Next]->setFocus();
 }
 
 void DiceTray::setBackColor(const QColor& Colour) {

@@ -137,6 +137,13 @@ TEST_F(TheTable, AButtonThatGoesOffLeavesTheFocusToTheTable) {
   EXPECT_EQ(QApplication::focusWidget(), Form.cmdRoll) << "it had the focus before it went off";
   Press(Form.cmdPassDice);
   EXPECT_EQ(m.CurrentPlayer, 1);
+  PressRoll({1, 1, 5, 2, 3, 4});
+  Box(0)->setFocus();
+  QTest::keyClick(Box(0), Qt::Key_Left);
+  QTest::keyClick(Box(0), Qt::Key_Right);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+  EXPECT_FALSE(Box(1)->isVisible());
+  EXPECT_EQ(QApplication::focusWidget(), Box(0)) << "the first die that is left in the row";
   for (int i = 0; i < 20; ++i) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_NE(QApplication::focusWidget(), &Form) << "Tab stops on what is seen";
