@@ -1,6 +1,8 @@
-// The yardstick of start_up and instructions: an empty window of the table's size. With an argument it stays.
+// The yardstick of start_up and instructions: a window of the table's size with one word in it, for a program that
+// tells anything needs the toolkit's fonts. With an argument it stays.
 
 #include <QApplication>
+#include <QLabel>
 
 #include <optional>
 
@@ -9,7 +11,7 @@
 int main(int argc, char** argv) {
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication app(argc, argv);
-  QWidget Window;
+  QLabel Window(QStringLiteral("Empty"));
   Window.setFixedSize(391, 513);
   std::optional<FirstPaint> Watch;
   if (argc < 2) Watch.emplace(Window);
