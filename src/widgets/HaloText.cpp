@@ -1,10 +1,12 @@
 #include "widgets/HaloText.h"
 
 #include <QFontMetricsF>
+#include <QImage>
 #include <QPainter>
-#include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "widgets/Colours.h"
 #include "widgets/Fonts.h"
@@ -15,11 +17,27 @@ namespace {
 
 constexpr qreal Narrowest = 0.85;  // letters are narrowed so far before they get smaller; the smallest even further
 
-/// The halo is made of rings around the letters, drawn over one another; it is whole up to `Reach` of the last.
-constexpr struct {
-  qreal Reach;
-  float Alpha;
-} Rings[] = {{HaloText::Reach, 0.12F}, {4, 0.22F}, {3, 0.45F}, {2.2, 1}};
+constexpr float Whole = 2.2F;  // px round the letters where the halo has its full strength; it fades from there
+
+/// How far each dot of the picture lies from the next one that a letter fills, in dots: told on from neighbour to
+/// neighbour, down the picture and up again. Wants a margin round the letters.
+std::vector<float> DistancesFromLetters(const QImage& Letters) {
+  constexpr float Straight = 0.96F, Across = 1.36F;  // so chosen that no way errs by more than 4 %
+  const int Width = Letters.width(), Dots = Width * Letters.height();
+  std::vector<float> Distance(static_cast<std::size_t>(Dots), 1000);
+  const auto* Dot = reinterpret_cast<const QRgb*>(Letters.constBits());
+  for (int At = Width + 1; At < Dots - Width - 1; ++At) {
+    if (qAlpha(Dot[At]) != 0) Distance[At] = 1 - static_cast<float>(qAlpha(Dot[At])) / 255;
+  }
+  const auto HearFrom = [&](int At, int Side) {
+    const auto* Here = &Distance[At];
+    Distance[At] = std::min({Here[0], Here[Side] + Straight, Here[Side * Width] + Straight,
+                             Here[Side * (Width - 1)] + Across, Here[Side * (Width + 1)] + Across});
+  };
+  for (int At = Width + 1; At < Dots - Width - 1; ++At) HearFrom(At, -1);
+  for (int At = Dots - Width - 2; At > Width; --At) HearFrom(At, 1);
+  return Distance;
+}
 
 /// How strong the halo must be for letters of the colour to have the contrast even where all around is like them.
 double StrengthFor(const QColor& Ink) {
@@ -69,19 +87,22 @@ void HaloText::Render() {
   const QFontMetricsF Letters(drawn.Font);
   const QSizeF Size(Letters.horizontalAdvance(drawn.Text) * drawn.Stretch + 2 * Reach,
                     std::ceil(Letters.ascent()) + Letters.descent() + 2 * Reach);
-  halo = QPixmap((Size * drawn.Scale).toSize() + QSize(1, 1));
-  halo.setDevicePixelRatio(drawn.Scale);
-  halo.fill(Qt::transparent);
-  QPainterPath Outline;
-  Outline.addText({}, drawn.Font, drawn.Text);
-  Outline = QTransform(drawn.Stretch, 0, 0, 1, Reach, Reach + std::ceil(Letters.ascent())).map(Outline);
-  QPainter Painter(&halo);
-  Painter.setRenderHint(QPainter::Antialiasing);
-  QColor Ground(drawn.Ground);
-  for (const auto& Ring : Rings) {
-    Ground.setAlphaF(Ring.Alpha);
-    Painter.strokePath(Outline, QPen(Ground, 2 * Ring.Reach, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  QImage Picture((Size * drawn.Scale).toSize() + QSize(1, 1), QImage::Format_ARGB32_Premultiplied);
+  Picture.setDevicePixelRatio(drawn.Scale);
+  Picture.fill(Qt::transparent);
+  QPainter Painter(&Picture);
+  Painter.translate(Reach, Reach + std::ceil(Letters.ascent()));
+  Painter.scale(drawn.Stretch, 1);
+  Painter.setFont(drawn.Font);
+  Painter.drawText(QPointF(), drawn.Text);
+  Painter.end();
+  auto* Dot = reinterpret_cast<QRgb*>(Picture.bits());
+  for (const float Distance : DistancesFromLetters(Picture)) {
+    const float Px = (Distance - 0.5F) / static_cast<float>(drawn.Scale);  // from the letter's edge
+    const float Part = std::clamp((Reach - Px) / (Reach - Whole), 0.F, 1.F);
+    *Dot++ = qPremultiply((drawn.Ground & RGB_MASK) | static_cast<QRgb>(255 * Part * Part) << 24);
   }
+  halo = QPixmap::fromImage(std::move(Picture));
 }
 
 }  // namespace blunko
