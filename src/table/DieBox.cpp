@@ -5,6 +5,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
+#include <array>
+#include <cstdint>
 #include <random>
 
 #include "widgets/FocusRing.h"
@@ -27,17 +30,20 @@ int ButtonNumber(Qt::MouseButton Button) {
 
 /// Felt of the colour: every dot a little off it, to both sides alike.
 QImage Threads(const QSize& Size, const QColor& Colour) {
+  std::array<QRgb, 2 * Roughness + 1> Shades;
+  for (int i = 0; i <= 2 * Roughness; ++i) {
+    const auto Off = [i](int Part) { return std::clamp(Part + i - Roughness, 0, 255); };
+    Shades[i] = qRgb(Off(Colour.red()), Off(Colour.green()), Off(Colour.blue()));
+  }
   QImage Felt(Size, QImage::Format_RGB32);
-  std::minstd_rand Chance;  // the same felt every time
+  std::linear_congruential_engine<std::uint32_t, 1664525, 1013904223, 0> Chance;  // the same felt every time
   for (int y = 0; y < Felt.height(); ++y) {
     auto* Line = reinterpret_cast<QRgb*>(Felt.scanLine(y));
-    int Before = 0;
+    std::uint32_t Before = Roughness;
     for (int x = 0; x < Felt.width(); ++x) {
-      const int Fresh = static_cast<int>(Chance() % (2 * Roughness + 1)) - Roughness;
-      const int Off = (Fresh + Before) / 2;  // short threads, not dust
+      const std::uint32_t Fresh = (Chance() >> 16) * Shades.size() >> 16;
+      Line[x] = Shades[(Fresh + Before) / 2];  // short threads, not dust
       Before = Fresh;
-      Line[x] = qRgb(qBound(0, Colour.red() + Off, 255), qBound(0, Colour.green() + Off, 255),
-                     qBound(0, Colour.blue() + Off, 255));
     }
   }
   return Felt;
@@ -133,22 +139,25 @@ void DiceTray::DrawFelt(qreal Scale) {
   felt = QPixmap::fromImage(Threads((QSizeF(size()) * Scale).toSize(), backColor));
   felt.setDevicePixelRatio(Scale);
   QPainter Painter(&felt);
-  const QRectF Inside(rect());
-  const auto Shade = [&](QPointF Edge, QPointF Inner, int Alpha) {
-    QLinearGradient Shadow(Edge, Inner);
+  const auto Shade = [&](const QRectF& Strip, QPointF Edge, QPointF Inner, int Alpha) {
+    QLinearGradient Shadow(Edge, Inner);  // in parts of the strip
+    Shadow.setCoordinateMode(QGradient::ObjectMode);
     Shadow.setColorAt(0, QColor(0, 0, 0, Alpha));
     Shadow.setColorAt(0.4, QColor(0, 0, 0, Alpha / 4));
     Shadow.setColorAt(1, Qt::transparent);
-    Painter.fillRect(Inside, Shadow);
+    Painter.fillRect(Strip, Shadow);
   };
-  Shade(Inside.topLeft(), Inside.topLeft() + QPointF(0, ShadowDepth), 110);
-  Shade(Inside.topLeft(), Inside.topLeft() + QPointF(ShadowDepth, 0), 80);
-  Shade(Inside.topRight(), Inside.topRight() - QPointF(ShadowDepth, 0), 50);
-  Shade(Inside.bottomLeft(), Inside.bottomLeft() - QPointF(0, ShadowDepth / 2), 40);
+  const qreal Width = width(), Height = height(), Depth = ShadowDepth, Shallow = Depth / 2;
+  Shade({0, 0, Width, Depth}, {0, 0}, {0, 1}, 110);
+  Shade({0, 0, Depth, Height}, {0, 0}, {1, 0}, 80);
+  Shade({Width - Depth, 0, Depth, Height}, {1, 0}, {0, 0}, 50);
+  Shade({0, Height - Shallow, Width, Shallow}, {0, 1}, {0, 0}, 40);
 
-  const qreal Line = 1 / Scale;
-  Painter.setPen(QPen(QColor(0, 0, 0, 190), Line));
-  Painter.drawRect(Inside.adjusted(Line / 2, hasTrayAbove ? -Line : Line / 2, -Line / 2, -Line / 2));
+  const qreal Line = 1 / Scale, Top = hasTrayAbove ? 0 : Line;
+  const QColor Border(0, 0, 0, 190);
+  Painter.fillRect(QRectF(0, 0, Width, Top), Border);
+  Painter.fillRect(QRectF(0, Height - Line, Width, Line), Border);
+  for (const qreal Left : {0.0, Width - Line}) Painter.fillRect(QRectF(Left, Top, Line, Height - Line - Top), Border);
 }
 
 void DiceTray::mousePressEvent(QMouseEvent* Event) { Event->accept(); }
