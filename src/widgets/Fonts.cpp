@@ -1,7 +1,11 @@
 #include "widgets/Fonts.h"
 
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QStringList>
+
+#include <algorithm>
+#include <map>
 
 namespace blunko {
 
@@ -24,11 +28,25 @@ QStringList Families(Typeface Face) {
   return {};
 }
 
+/// The families from the first one on that is installed. Looked up once: for each that isn't, the toolkit would sort
+/// all fonts there are by how well they stand in for it.
+QStringList InstalledFamilies(Typeface Face) {
+  static std::map<Typeface, QStringList> Found;
+  const auto [Entry, New] = Found.try_emplace(Face, Families(Face));
+  if (New) {
+    QStringList& Names = Entry->second;
+    const QStringList Installed = QFontDatabase::families();
+    const auto First = std::find_if(Names.begin(), Names.end(), [&](auto& Name) { return Installed.contains(Name); });
+    if (First != Names.end()) Names.erase(Names.begin(), First);
+  }
+  return Entry->second;
+}
+
 }  // namespace
 
 QFont FontOf(Typeface Face, double Points, bool Bold) {
   QFont Font;
-  Font.setFamilies(Families(Face));
+  Font.setFamilies(InstalledFamilies(Face));
   if (Face == Typeface::CourierNew) Font.setStyleHint(QFont::Monospace);
   Font.setPixelSize(qRound(Points * 20 / 15));
   Font.setBold(Bold);
