@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QIcon>
 #include <QLoggingCategory>
 
 #include <cstdlib>
@@ -7,19 +6,6 @@
 #include "app/Application.h"
 #include "app/Scale.h"
 #include "widgets/X11.h"
-
-namespace {
-
-/// From pictures, not from the drawing: that would cost a tenth of the start.
-QIcon GameIcon() {
-  QIcon Icon;
-  for (const int Side : {16, 24, 32, 48, 64, 128}) {
-    Icon.addFile(QStringLiteral(":/icons/%1.png").arg(Side), QSize(Side, Side));
-  }
-  return Icon;
-}
-
-}  // namespace
 
 int main(int argc, char** argv) {
   // The game places its windows beside each other, which Wayland forbids: prefer the other way in where there is one.
@@ -39,7 +25,6 @@ int main(int argc, char** argv) {
   blunko::HearKeysReleasedOnce();
   QApplication::setApplicationName(QStringLiteral("TollmoorBlunko"));
   QApplication::setDesktopFileName(QStringLiteral("tollmoor-blunko"));
-  QApplication::setWindowIcon(GameIcon());
   QApplication::setQuitOnLastWindowClosed(false);
 
   int Result = 0;

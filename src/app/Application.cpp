@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QIcon>
 #include <QTime>
 
 #include <algorithm>
@@ -34,6 +35,13 @@ std::int16_t To16Bits(int LogicalPixels) {
   return static_cast<std::int16_t>(std::clamp<int>(LogicalPixels, INT16_MIN, INT16_MAX));
 }
 
+/// From pictures, not from the drawing, and none larger than windows show: that would cost a tenth of the start.
+QIcon GameIcon() {
+  QIcon Icon;
+  for (const int Side : {16, 24, 32, 48, 64}) Icon.addPixmap(QPixmap(QStringLiteral(":/icons/%1.png").arg(Side)));
+  return Icon;
+}
+
 }  // namespace
 
 Application::Application(const Folders& Where, const IniInfo& Info, std::unique_ptr<NumberSource> Dice)
@@ -52,6 +60,7 @@ Application::~Application() = default;
 
 bool Application::Main() {
   InstallAccessibility();
+  QApplication::setWindowIcon(GameIcon());
   State.HelpFile = folders.Shipped(QStringLiteral("help")).toStdString();
   State.PlayToScore = static_cast<std::int16_t>(Settings.ReadPlayToScore());
   State.BreakInScore = static_cast<std::int16_t>(Settings.ReadBreakInScore());
