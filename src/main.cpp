@@ -5,6 +5,7 @@
 
 #include "app/Application.h"
 #include "app/Scale.h"
+#include "widgets/FocusRing.h"
 #include "widgets/X11.h"
 
 int main(int argc, char** argv) {
@@ -23,6 +24,7 @@ int main(int argc, char** argv) {
   if (PrefersX11) qunsetenv("QT_QPA_PLATFORM");
   if (Scale != 100) qunsetenv("QT_SCALE_FACTOR");
   blunko::HearKeysReleasedOnce();
+  blunko::RingStandardControls();
   QApplication::setApplicationName(QStringLiteral("TollmoorBlunko"));
   QApplication::setDesktopFileName(QStringLiteral("tollmoor-blunko"));
   QApplication::setQuitOnLastWindowClosed(false);

@@ -29,7 +29,8 @@ class AccessibleButton : public QAccessibleWidget {
   }
 };
 
-/// A die that a press doesn't take is disabled, to whoever asks: by mouse and keys it can be tried, and beeps.
+/// A die that a press doesn't take is disabled, to whoever asks: by mouse and keys it can be tried, and beeps. The dice
+/// of the sample are only to be looked at.
 class AccessibleDie : public AccessibleButton {
  public:
   explicit AccessibleDie(DieBox* Box) : AccessibleButton(Box, QAccessible::Button) {}
@@ -38,6 +39,7 @@ class AccessibleDie : public AccessibleButton {
     const auto* Box = static_cast<DieBox*>(object());
     QAccessible::State State = AccessibleButton::state();
     State.disabled = State.disabled || !Box->IsTakeable();
+    State.invisible = State.invisible || Box->accessibleName().isEmpty();
     return State;
   }
 };

@@ -1,6 +1,17 @@
 #include "widgets/FocusRing.h"
 
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFocusFrame>
+#include <QLineEdit>
 #include <QPainter>
+#include <QPointer>
+#include <QProxyStyle>
+#include <QRadioButton>
+
+#include "widgets/TickBox.h"
 
 namespace blunko {
 
@@ -8,6 +19,36 @@ namespace {
 
 constexpr qreal Line = FocusRingWidth / 2.0;
 const QColor Light(255, 190, 64), Dark(16, 20, 44);  // 10:1, so at least 3:1 between one of them and any colour
+
+/// Puts the toolkit's frame mostly outside of the control, over its neighbours.
+class RingStyle : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  int pixelMetric(PixelMetric Metric, const QStyleOption* Option, const QWidget* Widget) const override {
+    const bool Margin = Metric == PM_FocusFrameHMargin || Metric == PM_FocusFrameVMargin;
+    return Margin ? FocusRingWidth - 1 : QProxyStyle::pixelMetric(Metric, Option, Widget);
+  }
+  int styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget,
+                QStyleHintReturn* Return) const override {
+    return Hint == SH_FocusFrame_AboveWidget ? 1 : QProxyStyle::styleHint(Hint, Option, Widget, Return);
+  }
+  void drawControl(ControlElement Element, const QStyleOption* Option, QPainter* Painter,
+                   const QWidget* Widget) const override {
+    if (Element == CE_FocusFrame)
+      DrawFocusRing(*Painter, Option->rect, FocusRingWidth);
+    else
+      QProxyStyle::drawControl(Element, Option, Painter, Widget);
+  }
+};
+
+/// The game's own controls draw their ring themselves.
+bool IsStandard(const QWidget* Control) {
+  return qobject_cast<const QLineEdit*>(Control) != nullptr || qobject_cast<const QComboBox*>(Control) != nullptr ||
+         qobject_cast<const QRadioButton*>(Control) != nullptr ||
+         qobject_cast<const QAbstractScrollArea*>(Control) != nullptr ||
+         (qobject_cast<const QCheckBox*>(Control) != nullptr && qobject_cast<const TickBox*>(Control) == nullptr);
+}
 
 }  // namespace
 
@@ -21,6 +62,19 @@ void DrawFocusRing(QPainter& Painter, const QRectF& Outer, qreal Radius) {
     Painter.drawRoundedRect(Outer.adjusted(Depth, Depth, -Depth, -Depth), Round, Round);
   }
   Painter.restore();
+}
+
+void RingStandardControls() {
+  QObject::connect(
+      qApp, &QApplication::focusChanged, qApp, [Ring = QPointer<QFocusFrame>()](QWidget*, QWidget* Now) mutable {
+        delete Ring;
+        if (Now == nullptr || Now->isWindow() || Now->window()->windowType() == Qt::Popup || !IsStandard(Now)) return;
+        Ring = new QFocusFrame(Now->parentWidget());
+        auto* const Style = new RingStyle;
+        Style->setParent(Ring);
+        Ring->setStyle(Style);
+        Ring->setWidget(Now);
+      });
 }
 
 }  // namespace blunko

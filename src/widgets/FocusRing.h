@@ -13,4 +13,7 @@ inline constexpr int FocusRingWidth = 4;
 /// whatever it lies on.
 void DrawFocusRing(QPainter& Painter, const QRectF& Outer, qreal Radius);
 
+/// From now on such a frame lies around the toolkit's own lists, boxes and fields, too, while they have the focus.
+void RingStandardControls();
+
 }  // namespace blunko
