@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFocusFrame>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPointer>
@@ -44,8 +45,8 @@ class RingStyle : public QProxyStyle {
 
 /// The game's own controls draw their ring themselves.
 bool IsStandard(const QWidget* Control) {
-  return qobject_cast<const QLineEdit*>(Control) != nullptr || qobject_cast<const QComboBox*>(Control) != nullptr ||
-         qobject_cast<const QRadioButton*>(Control) != nullptr ||
+  return qobject_cast<const QLabel*>(Control) != nullptr || qobject_cast<const QLineEdit*>(Control) != nullptr ||
+         qobject_cast<const QComboBox*>(Control) != nullptr || qobject_cast<const QRadioButton*>(Control) != nullptr ||
          qobject_cast<const QAbstractScrollArea*>(Control) != nullptr ||
          (qobject_cast<const QCheckBox*>(Control) != nullptr && qobject_cast<const TickBox*>(Control) == nullptr);
 }

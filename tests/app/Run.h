@@ -48,12 +48,23 @@ struct Desk : Table {
 };
 
 /// Every text of a window has the room that it asks for, and every stop of the Tab key has a name.
-inline void ExpectUsable(const QWidget& Form) {
+inline void ExpectUsable(QWidget& Form) {
+  Form.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Form, 5000));
+  QWidget* const Had = Form.focusWidget();
+  if (Had != nullptr) Had->clearFocus();
   for (QWidget* Part : Form.findChildren<QWidget*>()) {
     if (!Part->isVisible()) continue;
     SCOPED_TRACE(Part->objectName().toStdString());
     if ((Part->focusPolicy() & Qt::TabFocus) != 0 && Part->isEnabled() && Part->focusProxy() == nullptr) {
       EXPECT_NE(QAccessible::queryAccessibleInterface(Part)->text(QAccessible::Name), QString());
+      Part->setFocus();
+      const QImage Seen = Form.grab(QRect(Part->mapTo(&Form, QPoint(-4, -4)), Part->size() + QSize(8, 8))).toImage();
+      int Ringed = 0;
+      for (int x = 0; x < Seen.width(); ++x) {
+        for (int y = 0; y < Seen.height(); ++y) Ringed += Seen.pixelColor(x, y) == QColor(255, 190, 64) ? 1 : 0;
+      }
+      EXPECT_GE(Ringed, Part->width()) << "a ring shows the focus";
     }
     if (qobject_cast<QLabel*>(Part) == nullptr && qobject_cast<QAbstractButton*>(Part) == nullptr) continue;
     const QSize Needed =
@@ -61,6 +72,7 @@ inline void ExpectUsable(const QWidget& Form) {
     EXPECT_EQ(Part->size().expandedTo(Needed), Part->size());
     EXPECT_TRUE(Form.rect().contains(QRect(Part->mapTo(&Form, QPoint()), Part->size())));
   }
+  if (Had != nullptr) Had->setFocus();
 }
 
 /// Deals with the modal windows as they come up, one step each. An unexpected one is closed and fails the test, and so
