@@ -33,10 +33,22 @@ int ScrollBox::TextHeight() const {
 }
 
 void ScrollBox::paintEvent(QPaintEvent*) {
+  if (drawn.isNull() || drawn.devicePixelRatio() != devicePixelRatioF()) DrawText(devicePixelRatioF());
   QPainter Painter(this);
-  Painter.fillRect(rect(), FormBlue);
+  const QRect Lines(QPoint(0, Top), drawn.deviceIndependentSize().toSize());
+  for (const QRect& Bare : QRegion(rect()) - Lines) Painter.fillRect(Bare, FormBlue);
+  Painter.drawPixmap(Lines.topLeft(), drawn);
+}
+
+void ScrollBox::DrawText(qreal Scale) {
+  const QSize Size(width(), TextHeight());
+  drawn = QPixmap((QSizeF(Size) * Scale).toSize());
+  drawn.setDevicePixelRatio(Scale);
+  drawn.fill(FormBlue);
+  QPainter Painter(&drawn);
+  Painter.setFont(font());
   Painter.setPen(TextColour);
-  Painter.drawText(QRect(0, Top, width(), TextHeight()), TextFlags, Text);
+  Painter.drawText(QRect(QPoint(), Size), TextFlags, Text);
 }
 
 frmCredits::frmCredits(QWidget* Owner) : PlacedDialog(Owner) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QPixmap>
 #include <QTimer>
 
 #include "widgets/ButtonPlus.h"
@@ -8,7 +9,7 @@
 
 namespace blunko {
 
-/// Shows a text that moves: centred lines, their upper edge at `Top`.
+/// Shows a text that moves: centred lines, their upper edge at `Top`. They are drawn once, not with every step.
 class ScrollBox : public QWidget {
   Q_OBJECT
 
@@ -23,6 +24,11 @@ class ScrollBox : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* Event) override;
+
+ private:
+  void DrawText(qreal Scale);
+
+  QPixmap drawn;
 };
 
 /// The credits: they scroll up without end, one logical pixel a step.
