@@ -112,7 +112,9 @@ QAccessibleInterface* InterfaceOf(const QString& Class, QObject* Object) {
   if (auto* Word = qobject_cast<WordButton*>(Object)) return new AccessibleWord(Word);
   if (auto* Label = qobject_cast<FitLabel*>(Object)) return new AccessibleText(Label);
   if (auto* Pad = qobject_cast<frmScorePad*>(Object)) return new AccessiblePad(Pad);
-  if (qobject_cast<Announcer*>(Object) != nullptr) return new QAccessibleWidget(Widget, QAccessible::Notification);
+  if (qobject_cast<Announcer*>(Widget->parentWidget()) != nullptr) {
+    return new QAccessibleWidget(Widget, QAccessible::Notification);
+  }
   if (Class != QLatin1String("QWidget")) return nullptr;  // the toolkit knows it, or a base of it
   if (Widget->isWindow()) return new QAccessibleWidget(Widget, QAccessible::Window);
   return new AccessibleGroup(Widget);

@@ -8,7 +8,10 @@ Announcer::Announcer(QWidget* Table) : QWidget(Table) {
   setObjectName(QStringLiteral("announcer"));
   setAttribute(Qt::WA_TransparentForMouseEvents);
   resize(1, 1);
-  hide();
+  for (QWidget*& Note : notes) {
+    Note = new QWidget(this);
+    Note->hide();
+  }
 }
 
 bool Announcer::IsHeard() { return QAccessible::isActive(); }
@@ -19,9 +22,10 @@ void Announcer::Say(const QString& Text) {
   QAccessible::updateAccessibility(&Event);
 #else
   // A notification that comes up is read out: an event alone isn't passed on.
-  hide();
-  setAccessibleName(Text);
-  show();
+  notes[said++ % notes.size()]->hide();
+  QWidget& Note = *notes[said % notes.size()];
+  Note.setAccessibleName(Text);
+  Note.show();
 #endif
 }
 

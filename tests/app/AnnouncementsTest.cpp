@@ -2,7 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "app/Announcements.h"
-#include "tests/support/Table.h"
+#include "app/Announcer.h"
+#include "tests/app/Run.h"
 
 namespace blunko::test {
 namespace {
@@ -42,6 +43,15 @@ TEST(Announcements, ATurnAndTheEndOfAGameAsAListenerHearsThem) {
                                    "Normal banks 5000 and has 5000 points.", "Normal has gone out with 5000 points.",
                                    "Ann is on turn with 0 points. Last Roll - Need 5050 To Win. Roll the dice.",
                                    "Ann banks 600 and has 600 points.", "Normal wins with 5000 points."));
+}
+
+TEST(Announcements, OneIsStillThereForASlowListenerWhenTheNextHasCome) {
+  QWidget Form;
+  Announcer Speaker(&Form);
+  Lines There;
+  for (const char* Text : {"Ann banks 600.", "Bob is on turn."}) Speaker.Say(Text);
+  for (const QWidget* Note : Speaker.findChildren<QWidget*>()) There.push_back(Note->accessibleName().toStdString());
+  EXPECT_THAT(There, testing::IsSupersetOf({"Ann banks 600.", "Bob is on turn."}));
 }
 
 }  // namespace
