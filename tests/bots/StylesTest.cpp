@@ -20,7 +20,7 @@ struct PlayingTable : Table {
   explicit PlayingTable(NumberSource* OtherDice = nullptr) : Table(nullptr, OtherDice) {}
   /// Begins a game against a person, in which the turn of the computer hasn't begun.
   void Seat(const char* Style, int Banked) {
-    game.SeatComputers(Seats);
+    game.SeatComputers(Others);
     Begin({Style, "Ann"});
     game.SeatComputers(Players);
     m.PlayerScore[0] = static_cast<std::int16_t>(Banked);
@@ -175,6 +175,7 @@ TEST(Styles, WaitWhilePausedButForCautious) {
 
 TEST(Styles, EndWithTheirGameAndReportWhatTheyCannotPlay) {
   const std::string Quit = "beep; ask Quit?: Are you sure you want to quit the current game?; exit";
+  const std::string Contact = "Please contact Tollmoor Games";
   const auto Close = [](Game& game) { game.PersonCloses(); };
   const auto GiveUp = [](Game& game) { game.PersonBeginsGame(true); };
   const struct {
@@ -185,18 +186,10 @@ TEST(Styles, EndWithTheirGameAndReportWhatTheyCannotPlay) {
     std::function<void(Game&)> Command;
     std::string Told;
   } Rows[] = {
-      {"Normal",
-       false,
-       "rp",
-       "99",
-       {},
-       "box NumDiceUp = 0\nError 529 - Bot Click - Please contact Tollmoor Games.; " + Quit},
-      {"Normal", false, "s", "0", {}, "box Msg 519 -- Please contact Tollmoor Games Tech Support.; abort"},
-      {"Simple", false, "s", "0", Close, Quit},
-      {"Moron", false, "s", "1", Close, Quit},
+      {"Normal", false, "rp", "99", {}, "box NumDiceUp = 0\nError 529 - Bot Click - " + Contact + ".; " + Quit},
+      {"Normal", false, "s", "0", {}, "box Msg 519 -- " + Contact + " Tech Support.; abort"},
       {"Moron", true, "s", "1", Close, Quit},
       {"Cautious", false, "s", "1", GiveUp, "beep; new game"},
-      {"Simple", true, "s", "1", GiveUp, "beep; new game"},
   };
   for (const auto& Row : Rows) {
     PlayingTable table;

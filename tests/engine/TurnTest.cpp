@@ -24,15 +24,6 @@ TEST(Turn, OfAPersonTakesItsTime) {
   EXPECT_EQ(table.Told(),
             "dice 1234/44; score 0; status Select Dice. (Undo); sound Undo; dice 12344/4; "
             "buttons ; sound Undo; dice 123444/; sound Undo");
-  table.Play("@2 @6 @15");
-  EXPECT_EQ(table.Told(), "beep") << "a die that doesn't score beeps; there are no dice elsewhere";
-  table.Play("@0");
-  EXPECT_EQ(table.Told(), "sound MoveDie; status Select dice or roll.; dice 23444/1; score 100; buttons roll");
-  table.Play("23146");
-  EXPECT_EQ(
-      table.Told(),
-      "status Rolling...; divider 876; sound MultiDie; dice 6/1; sleep 11; dice 66/1; sleep 11; dice 666/1; sleep 11; "
-      "dice 6666/1; sleep 11; dice 66666/1; sleep 11 x31; dice 12346/1; status Select Dice.; buttons ");
 }
 
 TEST(Turn, TumblesAsTheNumberOfDiceTells) {

@@ -56,7 +56,7 @@ class RecordingDesktop : public Desktop {
   std::vector<std::string> Log;
   bool Answer = true;
   bool TellsAll =
-      false;  ///< whatever changes on the screen, when it gets there; else what a refresh does to the status
+      false;  ///< all that changes on the screen, when it gets there; else what a refresh does to the status
   std::function<void()> OnEvents, OnSleep, OnBox;
 
   void Refresh() override { Tell("status", t.lblStatus.Caption), Show(); }
@@ -113,8 +113,9 @@ class RecordingDesktop : public Desktop {
   std::map<std::string, std::string> shown{{"dice", "/"}, {"score", ""}, {"last roll", "off"}, {"divider", "off"}};
 };
 
-/// Writes the calls into the log of the desktop; a dialog does what the test gives it to do.
-struct RecordingProgram : QuietProgram {
+/// Writes the calls into the log of the desktop, and that a computer's turn has begun; a dialog does what the test
+/// gives it to do.
+struct RecordingProgram : QuietProgram, ComputerSeats {
   explicit RecordingProgram(std::vector<std::string>& Lines) : Log(Lines) {}
 
   std::vector<std::string>& Log;
@@ -131,6 +132,7 @@ struct RecordingProgram : QuietProgram {
     if (OnEvent) OnEvent(Event);
   }
   void UpdateActivePlayer() override { ++PadUpdates; }
+  void RunComputerTurn() override { Log.push_back("computer turn"); }
   void CheckHighTurn(const std::string& Name, std::int16_t Score) override {
     Open("high turn " + Name + " " + std::to_string(Score));
   }
@@ -143,13 +145,6 @@ struct RecordingProgram : QuietProgram {
   void UnloadOtherForms() override { Log.push_back("unload others"); }
   void ExitProgram() override { Log.push_back("exit"); }
   void Abort() override { Log.push_back("abort"); }
-};
-
-/// Notes in the log of the desktop that a computer's turn has begun.
-struct RecordingSeats : ComputerSeats {
-  std::vector<std::string>& Log;
-  explicit RecordingSeats(std::vector<std::string>& Lines) : Log(Lines) {}
-  void RunComputerTurn() override { Log.push_back("computer turn"); }
 };
 
 /// The name of the event serves as the path of its sound.
@@ -168,14 +163,13 @@ struct Table {
   NamedSounds Options;
   RecordingDesktop Screen{t};
   RecordingProgram Others{Screen.Log};
-  RecordingSeats Seats{Screen.Log};
   ScriptedDice Numbers;
   Game game;
 
   explicit Table(const GameOptions* OtherOptions = nullptr, NumberSource* OtherDice = nullptr)
       : game{m,      t,      OtherOptions != nullptr ? *OtherOptions : Options,
              Screen, Others, OtherDice != nullptr ? *OtherDice : Numbers} {
-    game.SeatComputers(Seats);
+    game.SeatComputers(Others);
   }
 
   /// Begins a game; a seat with a style's word as its name is a computer.
