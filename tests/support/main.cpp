@@ -4,10 +4,11 @@
 
 #include "widgets/FocusRing.h"
 
+// With the rings of the game, and outliving its windows as the game does.
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   QApplication app(argc, argv);
   blunko::RingStandardControls();
-  QApplication::setQuitOnLastWindowClosed(false);  // as the game does
+  QApplication::setQuitOnLastWindowClosed(false);
   return RUN_ALL_TESTS();
 }
