@@ -55,7 +55,7 @@ TEST(PassDice, BanksOrNotAndHandsOn) {
     EXPECT_EQ(table.Others.PadUpdates, Bust ? 1 : 2);
     EXPECT_EQ(table.t.lblLastRoll.Caption, "(Last Roll - Need 5050 To Win)");
     const std::string Action = Bust ? "(p)" : "(r)";  // a person's bust writes over what its pass left
-    EXPECT_EQ(table.Look(), std::string(Row.Next) + " 0: ...... /  / Roll the dice. " + Action);
+    EXPECT_EQ(table.Look(), std::string(Row.Next) + " 0: 000000000000, Roll the dice. " + Action);
   }
 }
 
@@ -110,10 +110,10 @@ TEST(EndGame, TheWordOfTheDialogDecidesWhatFollows) {
     std::string Word;
     int Banks;
     const char *Told, *Look;
-  } Rows[] = {{"SameGame", Bust, "; new game; status Roll the dice.", "Cid 0: ...... /  / Roll the dice. (r)"},
-              {"DifferentGame", 0, "; new game", "  0: ...... /  /   (r)"},
-              {"Quit", 0, "; exit", "  0: ...... /  /   (r)"},
-              {"", 50, "", "  0: ...... /  /   (r)"}};
+  } Rows[] = {{"SameGame", Bust, "; new game; status Roll the dice.", "Cid 0: 000000000000, Roll the dice. (r)"},
+              {"DifferentGame", 0, "; new game", "  0: 000000000000,   (r)"},
+              {"Quit", 0, "; exit", "  0: 000000000000,   (r)"},
+              {"", 50, "", "  0: 000000000000,   (r)"}};
   for (const auto& Row : Rows) {
     Table table;
     table.Begin({"Ann", "Normal"});
@@ -210,7 +210,7 @@ TEST(Commands, OfTheFlashEndTheGameThatItBelongsTo) {
     table.TakeLog();
     table.Bank(5000);
     EXPECT_EQ(table.TakeLog("sleep").size(), 1U) << "the flash ends";
-    EXPECT_EQ(table.Look(), *Way == 'n' ? "Cid 0: ...... /  / Roll the dice. (r)" : "Bob 0: ...... /  /  (r)");
+    EXPECT_EQ(table.Look(), *Way == 'n' ? "Cid 0: 000000000000, Roll the dice. (r)" : "Bob 0: 000000000000,  (r)");
   }
 }
 
@@ -245,7 +245,7 @@ TEST(Commands, NewGameAndTheEndAreAskedForAndClearUp) {
     Row.Key != 0 ? table.game.Form_KeyUp(Row.Key, Row.Shift) : static_cast<void>(table.game.PersonCloses());
     EXPECT_EQ(table.Told(), Row.Told);
     const bool Ends = Row.Told.ends_with("exit"), GivenUp = Row.Told.ends_with("new game");
-    EXPECT_EQ(table.Look(), GivenUp ? " : ...... /  /  (s)" : Before);
+    EXPECT_EQ(table.Look(), GivenUp ? " : 000000000000,  (s)" : Before);
     EXPECT_EQ(table.t.ARCmdNewGame.Visible && !table.t.picTray1.Enabled && !table.t.picTray2.Enabled, GivenUp);
     EXPECT_EQ(table.m.Quitting, Ends);
     EXPECT_EQ(table.game.TakesCommands(), !Ends);

@@ -220,19 +220,13 @@ struct Table {
     game.cmdPassDice_Click();
   }
 
-  /// The table as it looks, in a line: seat and turn score; the dice up, "*" behind a marked one; the tray; status and
-  /// action set; and what is wrong with it, if anything is.
+  /// The table in a line: seat and turn score, the faces on the table and in the tray, status and action set, and what
+  /// is wrong with it, if anything is.
   std::string Look() const {
     std::string All = t.lblPlayer.Caption + ' ' + t.lblTurnScore.Caption + ": ";
-    for (std::size_t i = 0; i < Dice; ++i) {
-      All += m.ShownFace[i] == 0 ? '.' : static_cast<char>('0' + m.ShownFace[i]);
-      if (t.picMarker[i]) All += '*';
-    }
-    All += " / ";
-    for (const int Face : m.TrayFace) All += Face == 0 ? "" : std::to_string(Face);
-    All += " / " + t.lblStatus.Caption + " (" + std::string(std::string_view(m.ActionSet)) + ')';
-    const std::string Fault = game.Fault();
-    return Fault.empty() ? All : All + " FAULT " + Fault;
+    for (const int Face : m.ShownFace) All += std::to_string(Face);
+    for (const int Face : m.TrayFace) All += std::to_string(Face);
+    return All + ", " + t.lblStatus.Caption + " (" + std::string(std::string_view(m.ActionSet)) + ')' + game.Fault();
   }
   /// Takes the lines of the log that begin with `Kind`, and forgets the log.
   std::vector<std::string> TakeLog(const std::string& Kind = "") {
