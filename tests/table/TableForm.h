@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QBitmap>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -69,29 +70,9 @@ inline std::string Difference(const frmMain& Form, const TableControls& t) {
   return All;
 }
 
-/// The part of a widget that is drawn in something like the colour.
-inline QRect Inked(QWidget& Widget, const QColor& Colour) {
-  const QImage Picture = Widget.grab().toImage();
-  QRect All;
-  for (int y = 0; y < Picture.height(); ++y) {
-    for (int x = 0; x < Picture.width(); ++x) {
-      const QColor Pixel = Picture.pixelColor(x, y);
-      const int Distance =
-          qAbs(Pixel.red() - Colour.red()) + qAbs(Pixel.green() - Colour.green()) + qAbs(Pixel.blue() - Colour.blue());
-      if (Distance < 200) All |= QRect(x, y, 1, 1);
-    }
-  }
-  return All;
-}
-
-/// Labels that hold a text, drawn in the colour, show all of it.
-inline void ExpectNoTextCut(const QWidget& Form, const QColor& Colour) {
-  for (FitLabel* Label : Form.findChildren<FitLabel*>()) {
-    if (Label->text().isEmpty()) continue;
-    const QRect Ink = Inked(*Label, Colour);
-    EXPECT_GT(Ink.width(), 4) << Label->objectName().toStdString();
-    EXPECT_TRUE(Label->rect().adjusted(0, 0, -1, 0).contains(Ink)) << Label->objectName().toStdString();
-  }
+/// Where a picture has exactly this colour.
+inline QRegion Drawn(const QPixmap& Picture, const QColor& Colour) {
+  return QRegion(Picture.createMaskFromColor(Colour, Qt::MaskOutColor));
 }
 
 }  // namespace blunko::test
