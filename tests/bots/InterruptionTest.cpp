@@ -31,12 +31,6 @@ class Vandal {
   }
 
  private:
-  struct Uniform : UniformSource {
-    std::minstd_rand& chance;
-    explicit Uniform(std::minstd_rand& Chance) : chance(Chance) {}
-    double Next() override { return static_cast<double>(chance() % 1000) / 1000; }
-  };
-
   int Pick(int Bound) { return static_cast<int>(chance() % static_cast<unsigned>(Bound)); }
 
   void Deliver() {
@@ -83,25 +77,20 @@ class Vandal {
       table.t.cmdRoll.Enabled = false;
       return;
     }
-    GameSetup Setup;
-    Setup.NumPlayers = static_cast<std::uint8_t>(1 + Pick(4));
-    Setup.BreakInScore = Pick(2) == 0 ? 500 : 1000;
-    for (auto& Seat : Setup.Seats) {
-      Seat.Name = "Seat" + std::to_string(Pick(100));
-      Seat.IsComputer = Pick(3) != 0;
-      Seat.Style = static_cast<std::uint8_t>(1 + Pick(7));
-    }
-    game.FreshGame(Setup);
+    static const char* const Names[] = {"Ann",      "Bob",    "Cid",    "Normal", "Cautious",
+                                        "Fearless", "Simple", "Random", "Genius", "Moron"};
+    std::vector<const char*> Seats;
+    for (int i = 1 + Pick(4); i > 0; --i) Seats.push_back(Names[Pick(std::size(Names))]);
+    table.Begin(Seats, 5000, Pick(2) == 0 ? 500 : 1000);
   }
 
   std::minstd_rand chance;
-  RandomDice dice{chance};
-  Table table{nullptr, &dice};
+  Luck luck{chance};
+  Table table{nullptr, &luck};
   RecordingDesktop& screen = table.Screen;
   RecordingProgram& others = table.Others;
   Game& game = table.game;
-  Uniform uniform{chance};
-  ComputerPlayers players{game, uniform};
+  ComputerPlayers players{game, luck};
   std::string fault;
   int depth = 0;
   int stepsLeft = 0;

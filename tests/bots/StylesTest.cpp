@@ -138,25 +138,17 @@ TEST(Styles, RandomDrawsItsStyleForEachTurn) {
 
 TEST(Styles, PauseAsTheSpeedSays) {
   const std::string Roll = "sleep 100; sleep 10 x30; ", Group = "sleep 100; sleep 200 x3; ";
-  const struct {
-    const char *Style, *Faces;
-    std::string Sleeps[3];  ///< by speed
-  } Rows[] = {
-      {"Moron",
-       "134622",
-       {Roll + "sleep 1000; sleep 100 x2; sleep 200; sleep 100; sleep 1000", Roll + "sleep 100 x4; sleep 1000", ""}},
-      {"Normal",
-       "333146",
-       {Roll + "sleep 1000; " + Group + Group + "sleep 100; sleep 200; sleep 100; sleep 1000",
-        Roll + Group + "sleep 100 x7; sleep 1000", ""}},
-  };
-  for (const auto& Row : Rows) {
-    for (const int Speed : {0, 1, 2}) {
-      PlayingTable table;
-      table.Options.Speed = Speed;
-      table.PlayTurn(Row.Style, std::string(Speed < 2 ? 30 : 0, '6') + Row.Faces, 500);
-      EXPECT_EQ(table.Told("sleep"), Row.Sleeps[Speed]) << Row.Style << " at speed " << Speed;
-    }
+  const std::tuple<const char*, std::string, int, std::string> Rows[] = {
+      {"Moron", "134622", 0, Roll + "sleep 1000; sleep 100 x2; sleep 200; sleep 100; sleep 1000"},
+      {"Moron", "134622", 1, Roll + "sleep 100 x4; sleep 1000"},
+      {"Normal", "333146", 0, Roll + "sleep 1000; " + Group + Group + "sleep 100; sleep 200; sleep 100; sleep 1000"},
+      {"Normal", "333146", 1, Roll + Group + "sleep 100 x7; sleep 1000"},
+      {"Normal", "333146", 2, ""}};
+  for (const auto& [Style, Faces, Speed, Sleeps] : Rows) {
+    PlayingTable table;
+    table.Options.Speed = Speed;
+    table.PlayTurn(Style, std::string(Speed < 2 ? 30 : 0, '6') + Faces, 500);
+    EXPECT_EQ(table.Told("sleep"), Sleeps) << Style << " at speed " << Speed;
   }
 }
 
@@ -207,7 +199,7 @@ TEST(Styles, EndWithTheirGameAndReportWhatTheyCannotPlay) {
 
 TEST(HandOver, AThousandGamesUseNoMoreStackThanOne) {
   std::minstd_rand Chance(12345);
-  RandomDice Numbers(Chance);
+  Luck Numbers(Chance);
   PlayingTable table(&Numbers);
   int Games = 0;
   std::uintptr_t Lowest = UINTPTR_MAX, LowestOfFirst = 0;

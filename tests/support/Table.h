@@ -32,12 +32,13 @@ class ScriptedDice : public NumberSource {
   int beyond = 0;
 };
 
-struct RandomDice : NumberSource {
+struct Luck : NumberSource, UniformSource {
   std::minstd_rand& Chance;
-  explicit RandomDice(std::minstd_rand& Source) : Chance(Source) {}
+  explicit Luck(std::minstd_rand& Source) : Chance(Source) {}
   std::int32_t UtilRandom(std::int32_t Bound) override {
     return 1 + static_cast<std::int32_t>(Chance() % static_cast<unsigned>(Bound));
   }
+  double Next() override { return static_cast<double>(Chance() % 1000) / 1000; }
 };
 
 /// "125": the numbers 1, 2 and 5.

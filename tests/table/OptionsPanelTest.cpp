@@ -149,6 +149,7 @@ TEST(OptionsPanel, TheTableStandsStill) {
   Dressed.TakeLog();
   Dressed.Panel->cmdOptions_Click();
   EXPECT_THAT(Dressed.TakeLog(), testing::ElementsAre("sound /tmp/over.wav", "sound /tmp/over.wav"));
+  EXPECT_TRUE(Dressed.m.PauseComputer);
   QTest::mouseClick(Form.Picture1[1], Qt::LeftButton);
   QTest::mouseClick(Form.cmdRoll, Qt::LeftButton);
   for (const Qt::Key Key : {Qt::Key_5, Qt::Key_R, Qt::Key_P, Qt::Key_Backspace, Qt::Key_F2})
@@ -157,6 +158,7 @@ TEST(OptionsPanel, TheTableStandsStill) {
   Dressed.t.cmdRoll.Enabled = false;
   Dressed.Close(false);
   EXPECT_FALSE(Form.cmdRoll->isEnabled()) << "the buttons are as the game needs them now, not at the opening";
+  EXPECT_FALSE(Dressed.m.PauseComputer);
 }
 
 TEST(OptionsPanel, APictureThatVanishedIsNotSaved) {
