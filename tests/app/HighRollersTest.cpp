@@ -21,7 +21,7 @@ struct Files : Desk, HighRollersScreen {
   std::string Word;
 
   HighRollers Copy() {
-    Util.UtilSetFolder(Place.path());
+    Util.UtilSetFolder(Folder.Path());
     HighRollers Made(Where.ListsPath(), Util);
     Made.LoadHighRollers();
     return Made;

@@ -3,9 +3,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QDesktopServices>
-#include <QDir>
 #include <QLabel>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
@@ -18,7 +16,7 @@
 #include <vector>
 
 #include "app/Application.h"
-#include "storage/FileAccess.h"
+#include "tests/support/Place.h"
 #include "tests/support/Table.h"
 #include "widgets/Boxes.h"
 
@@ -26,22 +24,15 @@ namespace blunko::test {
 
 using Lines = std::vector<std::string>;
 
-/// The folders of a program that lives in a temporary one.
-inline Folders FoldersIn(const QTemporaryDir& Place) {
-  Folders All;
-  All.Program = All.State = Place.path();
-  All.BaseName = QStringLiteral("game");
-  All.Temp = Place.path() + QStringLiteral("/temp/");
-  QDir().mkpath(All.Temp);
-  return All;
-}
+/// The folders of a program that lives in a place of the test's own.
+inline Folders FoldersIn(const Place& At) { return {At.Path(), "game", At.Path(), At.Mkdir("temp", 0700) + '/'}; }
 
 inline void Click(QWidget* Control) { QTest::mouseClick(Control, Qt::LeftButton); }
 
 /// What a dialog is handed: a recorded desktop, and files in a folder of their own.
 struct Desk : Table {
-  QTemporaryDir Place;
-  Folders Where = FoldersIn(Place);
+  Place Folder;
+  Folders Where = FoldersIn(Folder);
   IniInfo Info{Where.InfoPath()};
   GameSettings Settings{Where, Info};
   QWidget Main;
@@ -118,11 +109,8 @@ class Answers : public QObject {
 
  private:
   void Next(QWidget* Shown) {
-    if (steps.empty()) {
-      ADD_FAILURE() << "unexpected window: " << Seen.back();
-      Shown->close();
-      return;
-    }
+    EXPECT_NE(steps.size(), 0U) << "unexpected window: " << Seen.back();
+    if (steps.empty()) return static_cast<void>(Shown->close());
     const auto Do = std::exchange(steps.front(), {});
     steps.pop_front();
     Do(Shown);
@@ -152,13 +140,12 @@ class Shell : public QObject {
 /// The whole program in a folder of its own, with scripted dice and instant waits.
 class TheProgram : public testing::Test {
  protected:
-  QTemporaryDir Place;
+  Place Folder;
   ScriptedDice* Dice = nullptr;
   std::unique_ptr<Application> Run;
   Answers Next;
 
   ~TheProgram() override { Leave(); }
-  QString Path(const char* Name) const { return Place.filePath(QLatin1String(Name)); }
   /// A program that has quit doesn't keep the dialogs of the next one from waiting.
   void Leave() {
     Run.reset();
@@ -169,13 +156,13 @@ class TheProgram : public testing::Test {
     Leave();
     auto Numbers = std::make_unique<ScriptedDice>();
     Dice = Numbers.get();
-    Run = std::make_unique<Application>(FoldersIn(Place), std::move(Numbers));
+    Run = std::make_unique<Application>(FoldersIn(Folder), std::move(Numbers));
     Run->Screen.WaitFactor = 0;
   }
   /// A later start, with nothing asked.
   void Start(const QByteArray& Keys = "ShowWelcomeMessage=0\n") {
-    ReplaceFile(Path("game.ini"), "[Info]\nScanned=True\nComputerFast=2\n" + Keys);
-    QFile::link(QStringLiteral(TBK_ASSETS "/help"), Path("help"));
+    Folder.Put("game.ini", "[Info]\nScanned=True\nComputerFast=2\n" + Keys);
+    QFile::link(QStringLiteral(TBK_ASSETS "/help"), Folder.Path("help"));
     Create();
     Dice->Faces = {2};
     ASSERT_TRUE(Run->Main());
