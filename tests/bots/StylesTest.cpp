@@ -120,12 +120,9 @@ TEST(Styles, StopAtTheirScoresByTheDiceLeft) {
 }
 
 TEST(Styles, RandomDrawsItsStyleForEachTurn) {
-  for (const auto& [Uniform, Same] : std::map<double, const char*>{{0.0, "Normal"},
-                                                                   {0.333, "Normal"},
-                                                                   {0.334, "Cautious"},
-                                                                   {0.666, "Cautious"},
-                                                                   {0.667, "Fearless"},
-                                                                   {0.999, "Fearless"}}) {
+  const std::pair<double, const char*> Rows[] = {{0.0, "Normal"},     {0.333, "Normal"},   {0.334, "Cautious"},
+                                                 {0.666, "Cautious"}, {0.667, "Fearless"}, {0.999, "Fearless"}};
+  for (const auto& [Uniform, Same] : Rows) {
     const char* Faces = "114436133461534135214113223346";  // the three styles end it differently
     PlayingTable random, plain;
     random.Uniform.Value = Uniform;
