@@ -6,7 +6,6 @@
 #include "tests/app/Run.h"
 
 namespace blunko::test {
-namespace {
 
 TEST(Announcements, ARollIsToldByItsScorers) {
   const std::pair<const char*, const char*> Rows[] = {
@@ -54,5 +53,4 @@ TEST(Announcements, OneIsStillThereForASlowListenerWhenTheNextHasCome) {
   EXPECT_THAT(There, testing::IsSupersetOf({"Ann banks 600.", "Bob is on turn."}));
 }
 
-}  // namespace
 }  // namespace blunko::test

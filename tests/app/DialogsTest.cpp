@@ -11,7 +11,6 @@
 #include "tests/table/TableForm.h"
 
 namespace blunko::test {
-namespace {
 
 TEST(About, DiceSoundLinksOpenAndTheCreditsScrollRound) {
   Desk At;
@@ -176,5 +175,4 @@ TEST_F(TheProgram, GreetsOnceAndTheHelpOutlivesTheWelcomeAndGoesWithTheGame) {
   EXPECT_FALSE(Help->isVisible());
 }
 
-}  // namespace
 }  // namespace blunko::test

@@ -8,7 +8,6 @@
 #include "tests/app/Run.h"
 
 namespace blunko::test {
-namespace {
 
 struct Opened {
   QWidget Table;
@@ -99,5 +98,4 @@ TEST(Help, DialogsBlockEveryWindowButTheHelp) {
   ClickBoth(2, 2);
 }
 
-}  // namespace
 }  // namespace blunko::test

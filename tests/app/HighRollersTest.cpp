@@ -8,7 +8,6 @@
 #include "tests/app/Run.h"
 
 namespace blunko::test {
-namespace {
 
 const auto Turn = &RollerLists::lstHSTS, Whoop = &RollerLists::lstBMoV;
 
@@ -127,5 +126,4 @@ TEST_F(TheProgram, ABankedTurnGoesThroughTheRealDialogs) {
   EXPECT_EQ(Run->State.CurrentPlayer, 1);
 }
 
-}  // namespace
 }  // namespace blunko::test

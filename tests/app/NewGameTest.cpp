@@ -6,7 +6,6 @@
 #include "tests/app/Run.h"
 
 namespace blunko::test {
-namespace {
 
 class NewGame : public testing::Test {
  protected:
@@ -100,5 +99,4 @@ TEST_F(NewGame, OpensWithWhatWasSavedPlaysWhatIsShownAndTakesTheRestartWords) {
   }
 }
 
-}  // namespace
 }  // namespace blunko::test

@@ -8,7 +8,6 @@
 #include "tests/app/Run.h"
 
 namespace blunko::test {
-namespace {
 
 const std::string Version = "Would you like to check for a new version of Tollmoor Blunko";
 const std::string QuitGame = "Quit?: Are you sure you want to quit the current game?";
@@ -176,5 +175,4 @@ TEST_F(TheProgram, AsksItsQuestionsAtTheFirstStartAndForTheVersionNowAndThen) {
   }
 }
 
-}  // namespace
 }  // namespace blunko::test

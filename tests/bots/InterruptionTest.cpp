@@ -4,7 +4,6 @@
 #include "tests/support/Table.h"
 
 namespace blunko::test {
-namespace {
 
 /// A player who mashes keys and buttons whenever something comes in: while handlers let events in, and, as a screen
 /// reader can, in waits and behind boxes and dialogs.
@@ -103,5 +102,4 @@ TEST(Interruption, NoInputAtAnyMomentBreaksTheGame) {
   }
 }
 
-}  // namespace
 }  // namespace blunko::test

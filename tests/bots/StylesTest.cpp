@@ -5,7 +5,6 @@
 #include "tests/support/Table.h"
 
 namespace blunko::test {
-namespace {
 
 struct OneUniform : UniformSource {
   double Value = 0;
@@ -215,5 +214,4 @@ TEST(HandOver, AThousandGamesUseNoMoreStackThanOne) {
   EXPECT_LT(LowestOfFirst - Lowest, 4096U) << "the call chain grows from game to game";
 }
 
-}  // namespace
 }  // namespace blunko::test

@@ -3,7 +3,6 @@
 #include "tests/support/Table.h"
 
 namespace blunko::test {
-namespace {
 
 TEST(Fault, NamesTheRulesThatAreBroken) {
   const struct {
@@ -50,5 +49,4 @@ TEST(Fault, StopsTheProgramInDebugBuilds) {
   EXPECT_DEBUG_DEATH(table.game.AssertSound(), "either the game buttons or New Game is visible");
 }
 
-}  // namespace
 }  // namespace blunko::test

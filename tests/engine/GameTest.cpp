@@ -4,7 +4,6 @@
 #include "tests/support/Table.h"
 
 namespace blunko::test {
-namespace {
 
 const std::string Question = "ask Quit?: Are you sure you want to quit the current game?";
 
@@ -134,7 +133,7 @@ TEST(EndGame, TheWordOfTheDialogDecidesWhatFollows) {
 }
 
 /// Whatever touches the dice or may stand beside it: all keys but those of the window, all buttons.
-void PressDice(Table& table) {
+static void PressDice(Table& table) {
   for (std::int16_t Key = 0; Key < 128; ++Key) {
     if (Key != Escape && Key != F2) table.game.Form_KeyUp(Key, 0);
   }
@@ -145,7 +144,7 @@ void PressDice(Table& table) {
   table.game.PersonRolls();
   table.game.PersonPasses();
 }
-void PressAll(Table& table) {
+static void PressAll(Table& table) {
   PressDice(table);
   table.game.Form_KeyUp(Escape, 0);
   for (const std::int16_t Shift : {0, 1}) table.game.Form_KeyUp(F2, Shift);
@@ -253,5 +252,4 @@ TEST(Commands, NewGameAndTheEndAreAskedForAndClearUp) {
   }
 }
 
-}  // namespace
 }  // namespace blunko::test

@@ -6,7 +6,6 @@
 #include "tests/support/Table.h"
 
 namespace blunko::test {
-namespace {
 
 /// A person who presses anything, on the game and on the rule sheet; with dice that often show groups, because they
 /// repeat a few faces with a stray one now and then.
@@ -136,5 +135,4 @@ TEST(Model, AgreesWithTheGameWhateverAPersonPresses) {
   }
 }
 
-}  // namespace
 }  // namespace blunko::test

@@ -3,7 +3,6 @@
 #include "tests/support/Table.h"
 
 namespace blunko::test {
-namespace {
 
 TEST(Turn, OfAPersonTakesItsTime) {
   Table table;
@@ -50,5 +49,4 @@ TEST(Turn, TumblesAsTheNumberOfDiceTells) {
   }
 }
 
-}  // namespace
 }  // namespace blunko::test

@@ -15,7 +15,6 @@
 #include "tests/support/Place.h"
 
 namespace blunko::test {
-namespace {
 
 using Milliseconds = Sounds::Milliseconds;
 
@@ -50,7 +49,7 @@ struct SoundRecorder : Place {
   }
 };
 
-QByteArray Number(quint32 Value, int Size) {
+static QByteArray Number(quint32 Value, int Size) {
   char Bytes[4];
   qToLittleEndian(Value, Bytes);
   return QByteArray(Bytes, Size);
@@ -73,7 +72,7 @@ struct Wave {
   }
 };
 
-void PlayToEnd(Sounds& Player, const QString& File) {
+static void PlayToEnd(Sounds& Player, const QString& File) {
   Player.Play(File);
   EXPECT_TRUE(QTest::qWaitFor([&] { return !Player.IsPlaying(); }, 20'000)) << qPrintable(File);
 }
@@ -192,5 +191,4 @@ TEST(Extraction, WritesOverTheStartOfPlainFilesOnly) {
   EXPECT_FALSE(QFile::exists(Fresh));
 }
 
-}  // namespace
 }  // namespace blunko::test

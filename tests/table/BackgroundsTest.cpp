@@ -9,8 +9,6 @@
 #include "widgets/Pictures.h"
 
 namespace blunko::test {
-namespace {
-
 
 TEST(Backgrounds, AColourFileCountsByTheNumberItBeginsWith) {
   const std::pair<QByteArray, int> Rows[] = {
@@ -50,7 +48,7 @@ TEST(Backgrounds, TheFoldersAreLookedThroughAfreshAsOneListSortedByCharacterCode
 }
 
 /// The markers of a picture, with nothing in its scans; the samples of a component are given as 0x11, 0x21...
-QByteArray Jpeg(int Width, int Height, char Frame, int Scans, const QByteArray& Samples = "\x11\x11\x11") {
+static QByteArray Jpeg(int Width, int Height, char Frame, int Scans, const QByteArray& Samples = "\x11\x11\x11") {
   QByteArray Made("\xFF\xD8\xFF\xE1\x00\x06\xFF\xDA..", 10);  // a scan of the thumbnail isn't one
   Made += QByteArray("\xFF", 1) + Frame + '\0' + static_cast<char>(8 + 3 * Samples.size()) + '\x08';
   for (const int Size : {Height, Width}) Made += QByteArray(1, static_cast<char>(Size >> 8)) + static_cast<char>(Size);
@@ -105,5 +103,4 @@ TEST(Backgrounds, AnyFileLeavesTheTableUsable) {
   }
 }
 
-}  // namespace
 }  // namespace blunko::test

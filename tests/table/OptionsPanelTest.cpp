@@ -12,7 +12,6 @@
 #include "tests/table/TableForm.h"
 
 namespace blunko::test {
-namespace {
 
 /// A program's folder with two pictures and these settings.
 struct Home {
@@ -173,5 +172,4 @@ TEST(OptionsPanel, APictureThatVanishedIsNotSaved) {
   EXPECT_EQ(GameSettings(Dressed.Where).Background(), Dressed.Picture("Satin.jpg")) << "the next start finds one";
 }
 
-}  // namespace
 }  // namespace blunko::test

@@ -7,7 +7,6 @@
 #include "widgets/Fonts.h"
 
 namespace blunko::test {
-namespace {
 
 class ScorePad : public testing::Test, public TableForm {
  protected:
@@ -64,7 +63,7 @@ TEST_F(ScorePad, HandsKeysToTheTable) {
   EXPECT_EQ(m.TurnScore, 100);
 }
 
-double Contrast(const QColor& One, const QColor& Other) {
+static double Contrast(const QColor& One, const QColor& Other) {
   const auto [Dark, Light] = std::minmax({Luminance(One) + 0.05, Luminance(Other) + 0.05});
   return Light / Dark;
 }
@@ -101,5 +100,4 @@ TEST(Letters, StandOutFromEveryGroundByTheirHalo) {
   }
 }
 
-}  // namespace
 }  // namespace blunko::test

@@ -7,7 +7,6 @@
 #include "tests/table/TableForm.h"
 
 namespace blunko::test {
-namespace {
 
 using Names = std::vector<std::string>;
 
@@ -203,5 +202,4 @@ TEST_F(TheTable, NoTextIsCut) {
   }
 }
 
-}  // namespace
 }  // namespace blunko::test
