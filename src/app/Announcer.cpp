@@ -1,17 +1,23 @@
 #include "app/Announcer.h"
 
 #include <QAccessible>
+#include <QTimer>
+
+#include <chrono>
 
 namespace blunko {
+
+namespace {
+
+/// A reader asks for the words some time after it has heard that there are some, and others may have come by then.
+constexpr std::chrono::seconds TimeToAsk{5};
+
+}  // namespace
 
 Announcer::Announcer(QWidget* Table) : QWidget(Table) {
   setObjectName(QStringLiteral("announcer"));
   setAttribute(Qt::WA_TransparentForMouseEvents);
   resize(1, 1);
-  for (QWidget*& Note : notes) {
-    Note = new QWidget(this);
-    Note->hide();
-  }
 }
 
 bool Announcer::IsHeard() { return QAccessible::isActive(); }
@@ -22,10 +28,10 @@ void Announcer::Say(const QString& Text) {
   QAccessible::updateAccessibility(&Event);
 #else
   // A notification that comes up is read out: an event alone isn't passed on.
-  notes[said++ % notes.size()]->hide();
-  QWidget& Note = *notes[said % notes.size()];
-  Note.setAccessibleName(Text);
-  Note.show();
+  auto* Note = new QWidget(this);
+  Note->setAccessibleName(Text);
+  Note->show();
+  QTimer::singleShot(TimeToAsk, Note, &QObject::deleteLater);
 #endif
 }
 

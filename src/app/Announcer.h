@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include <array>
-
 namespace blunko {
 
 /// The voice of the table: what it says reaches a screen reader at once, wherever the focus is. Nothing of it is seen.
@@ -16,11 +14,6 @@ class Announcer : public QWidget {
   /// Whether anybody listens.
   static bool IsHeard();
   void Say(const QString& Text);
-
- private:
-  /// A reader asks for the words some time after it has heard that there are some: each text stands for a while.
-  std::array<QWidget*, 8> notes{};
-  std::size_t said = 0;
 };
 
 }  // namespace blunko
