@@ -135,7 +135,6 @@ TEST_F(TheProgram, AsksItsQuestionsAtTheFirstStartAndForTheVersionNowAndThen) {
   } Rows[] = {
       {"yon", 0, "", Version},
       {"nn", 0, "", Version},
-      {"", 2, "", ""},
       {"", 5, "", ""},
       {"n", 1, "", Version},
       {"yo", 1, "1.0.0\n", "You have the latest version."},

@@ -94,25 +94,22 @@ TEST(Styles, PlayTheirTurnsByTheirNumbers) {
 }
 
 TEST(Styles, StopAtTheirScoresByTheDiceLeft) {
-  const struct {
-    const char* Style;
-    int StopAt[6];
-  } Rows[] = {{"Cautious", {0, 250, 300, 350, 500, 700}},
-              {"Normal", {0, 350, 400, 450, 600, 900}},
-              {"Fearless", {0, 400, 450, 500, 1100, 1500}}};
-  for (const auto& Row : Rows) {
+  const std::pair<const char*, std::array<int, 5>> Rows[] = {{"Cautious", {250, 300, 350, 500, 700}},
+                                                             {"Normal", {350, 400, 450, 600, 900}},
+                                                             {"Fearless", {400, 450, 500, 1100, 1500}}};
+  for (const auto& [Style, StopAt] : Rows) {
     for (int Left = 1; Left <= 5; ++Left) {
       for (const int Below : {0, 50}) {
+        const int Points = StopAt[static_cast<std::size_t>(Left - 1)] - Below;
         PlayingTable table;
-        table.PlayFrom(Row.Style, 1000, {1, 2, 3, 4, 4, 6}, [&] {  // "rp" with `Left` dead dice on the table
-          table.m.TurnScore = static_cast<std::int16_t>(Row.StopAt[Left] - Below);
-          for (int i = 0; i < Dice; ++i) {
-            table.m.DieScoreCode[static_cast<std::size_t>(i)] = i < Left ? NoScore : NoDie;
-          }
+        table.PlayFrom(Style, 1000, {1, 2, 3, 4, 4, 6}, [&] {  // "rp" with `Left` dead dice on the table
+          table.m.TurnScore = static_cast<std::int16_t>(Points);
+          table.m.DieScoreCode.fill(NoDie);
+          std::fill_n(table.m.DieScoreCode.begin(), Left, NoScore);
           table.m.ActionSet = "rp";
         });
         EXPECT_EQ(table.Numbers.Draws == Dice, Below == 0)
-            << Row.Style << " with " << Left << " dice left and " << Row.StopAt[Left] - Below << " points";
+            << Style << " with " << Left << " dice left and " << Points << " points";
       }
     }
   }

@@ -5,10 +5,7 @@
 namespace blunko::test {
 
 TEST(Fault, NamesTheRulesThatAreBroken) {
-  const struct {
-    std::vector<const char*> Rules;
-    std::function<void(Module1&, TableControls&)> Break;
-  } Rows[] = {
+  const std::pair<std::vector<const char*>, std::function<void(Module1&, TableControls&)>> Rows[] = {
       {{"either the game buttons",      "the status line gives way",  "a table picture is the face",
         "a face in the tray is",        "a tray picture is the face", "the tray has no gap",
         "exactly the dice that are up", "a die that is up has a",     "a mark stands over a scorer",
@@ -31,15 +28,15 @@ TEST(Fault, NamesTheRulesThatAreBroken) {
       {{"only a seat that has broken in"}, [](Module1& m, auto&) { m.PlayerScore[0] = 450; }},
       {{"there is always a move"}, [](auto& m, auto& t) { m.DieUp.fill(false), t.cmdPassDice.Enabled = false; }},
   };
-  for (const auto& Row : Rows) {
+  for (const auto& [Rules, Break] : Rows) {
     Table table;
     table.Begin({"Ann", "Bob"});
     table.m.PlayerScore[0] = 500;
     table.Play("123446 @0 12345");
     ASSERT_EQ(table.game.Fault(), "");
-    Row.Break(table.m, table.t);
+    Break(table.m, table.t);
     const std::string Fault = table.game.Fault();
-    for (const char* Rule : Row.Rules) EXPECT_NE(Fault.find(Rule), std::string::npos) << Rule << ": " << Fault;
+    for (const char* Rule : Rules) EXPECT_NE(Fault.find(Rule), std::string::npos) << Rule << ": " << Fault;
   }
 }
 

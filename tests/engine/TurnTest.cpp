@@ -26,25 +26,20 @@ TEST(Turn, OfAPersonTakesItsTime) {
 }
 
 TEST(Turn, TumblesAsTheNumberOfDiceTells) {
-  const struct {
-    const char* Before;
-    std::string Faces;
-    int Steps;
-    const char* Sleep;
-  } Rows[] = {{"111112 @0", "1", 20, "20"},       {"111123 @0", "11", 30, "15"},    {"111234 @0", "111", 30, "13"},
-              {"112346 @0 @1", "1111", 32, "13"}, {"123446 @0", "11111", 35, "11"}, {"123456 @0", "111111", 30, "10"}};
-  for (const auto& Row : Rows) {
+  const std::tuple<const char*, std::string_view, int, const char*> Rows[] = {
+      {"111112 @0", "1", 20, "20"},       {"111123 @0", "11", 30, "15"},    {"111234 @0", "111", 30, "13"},
+      {"112346 @0 @1", "1111", 32, "13"}, {"123446 @0", "11111", 35, "11"}, {"123456 @0", "111111", 30, "10"}};
+  for (const auto& [Before, Faces, Tumbles, Sleep] : Rows) {
     for (const int Speed : {-1, 0, 1, 2}) {  // of a computer, -1 for a person
       Table table;
       table.Options.Speed = std::abs(Speed);
       table.Begin({Speed < 0 ? "Ann" : "Normal", "Bob"});
-      table.Play(Row.Before);
+      table.Play(Before);
       table.TakeLog();
-      const int Steps = Speed == 2 ? 0 : Row.Steps, Before = table.Numbers.Draws;
-      table.Play(Row.Faces);
-      EXPECT_EQ(table.Told("sleep"),
-                Steps == 0 ? "" : std::string("sleep ") + Row.Sleep + " x" + std::to_string(Steps));
-      EXPECT_EQ(table.Numbers.Draws - Before, Steps + std::ssize(Row.Faces)) << "one for each step and one to stay";
+      const int Steps = Speed == 2 ? 0 : Tumbles, Drawn = table.Numbers.Draws;
+      table.Play(Faces);
+      EXPECT_EQ(table.Told("sleep"), Steps == 0 ? "" : std::string("sleep ") + Sleep + " x" + std::to_string(Steps));
+      EXPECT_EQ(table.Numbers.Draws - Drawn, Steps + std::ssize(Faces)) << "one for each step and one to stay";
     }
   }
 }

@@ -145,8 +145,11 @@ TEST(OptionsPanel, TheTableStandsStill) {
   DressedTable Dressed("GameOverSound=/tmp/over.wav\n");
   Dressed.Play("152344", 1);
   frmMain& Form = Dressed.Form;
+  Form.move(300, 200);
+  const QPoint Place = Form.picGameTray->mapToGlobal(QPoint(0, 0));
   Dressed.TakeLog();
   Dressed.Panel->cmdOptions_Click();
+  EXPECT_EQ(Form.picGameTray->mapToGlobal(QPoint(0, 0)), Place);
   EXPECT_THAT(Dressed.TakeLog(), testing::ElementsAre("sound /tmp/over.wav", "sound /tmp/over.wav"));
   EXPECT_TRUE(Dressed.m.PauseComputer);
   QTest::mouseClick(Form.Picture1[1], Qt::LeftButton);
@@ -157,6 +160,7 @@ TEST(OptionsPanel, TheTableStandsStill) {
   Dressed.t.cmdRoll.Enabled = false;
   Dressed.Close(false);
   EXPECT_FALSE(Form.cmdRoll->isEnabled()) << "the buttons are as the game needs them now, not at the opening";
+  EXPECT_EQ(Form.picGameTray->mapToGlobal(QPoint(0, 0)), Place);
   EXPECT_FALSE(Dressed.m.PauseComputer);
 }
 

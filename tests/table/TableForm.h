@@ -13,15 +13,20 @@
 
 namespace blunko::test {
 
+/// Shows a window and waits until it has the focus.
+inline void Activate(QWidget& Window) {
+  Window.show();
+  Window.activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Window, 2000));
+}
+
 /// The table's window over a recorded game.
 struct TableForm : Table {
   frmMain Form{game};
 
   explicit TableForm(const GameOptions* Instead = nullptr) : Table(Instead) {
     Form.Wears.Trays = Qt::darkRed;
-    Form.show();
-    Form.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&Form, 2000));
+    Activate(Form);
   }
 
   void Begin(const std::vector<const char*>& Names) {

@@ -67,14 +67,10 @@ TEST_F(TheTable, AKeyIsACommandOnceAtItsReleaseAfterAPressHere) {
   QTest::keyPress(&Form, Qt::Key_1);
   for (int i = 0; i < 2; ++i) QTest::keyRelease(&Form, Qt::Key_1);
   EXPECT_EQ(m.TurnScore, 100);
-
   QTest::keyPress(&Form, Qt::Key_1);
   QWidget Other;
-  for (QWidget* Window : {&Other, static_cast<QWidget*>(&Form)}) {
-    Window->show();
-    Window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Window, 2000));
-  }
+  Activate(Other);
+  Activate(Form);
   QTest::keyRelease(&Form, Qt::Key_1);
   EXPECT_EQ(m.TurnScore, 100) << "another window was active in between";
 }
@@ -107,9 +103,7 @@ TEST_F(TheTable, AButtonThatGoesOffLeavesTheFocusToTheTable) {
   EXPECT_EQ(QApplication::focusWidget(), Form.ARCmdNewGame) << "on the first table";
   QWidget Dialog;
   Others.OnNewGame = [&] {  // the table isn't active when the button is hidden
-    Dialog.show();
-    Dialog.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&Dialog, 2000));
+    Activate(Dialog);
     Begin({"Ann", "Bob"});
     Dialog.hide();
     Form.activateWindow();
