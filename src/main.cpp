@@ -1,8 +1,6 @@
 #include <QApplication>
 #include <QLoggingCategory>
 
-#include <cstdlib>
-
 #include "app/Application.h"
 #include "app/Scale.h"
 #include "widgets/FocusRing.h"
@@ -29,14 +27,6 @@ int main(int argc, char** argv) {
   QApplication::setDesktopFileName(QStringLiteral("tollmoor-blunko"));
   QApplication::setQuitOnLastWindowClosed(false);
 
-  int Result = 0;
-  bool AnswerIsDue = false;
-  {
-    blunko::Application Program(Where, Info);
-    if (Program.Main()) Result = QApplication::exec();
-    AnswerIsDue = Program.VersionCheckFailed();
-  }
-  // Qt would wait for the answer of a name server that the version check has long given up.
-  if (AnswerIsDue) std::_Exit(Result);
-  return Result;
+  blunko::Application Program(Where, Info);
+  return Program.Main() ? QApplication::exec() : 0;
 }

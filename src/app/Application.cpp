@@ -68,11 +68,8 @@ bool Application::Main() {
   StartQuestions Questions(Settings, Screen, Util);
   const bool FirstStart = !Settings.Scanned();
   Questions.SurveyHardware();
-  if (FirstStart || Numbers->UtilRandom(LaterStartsPerVersionCheck) == 1) {
-    const bool GoesOn = Questions.CheckForUpdate();
-    versionCheckFailed = Questions.VersionCheckFailed();
-    if (!GoesOn) return false;
-  }
+  const bool Asks = FirstStart || Numbers->UtilRandom(LaterStartsPerVersionCheck) == 1;
+  if (Asks && !Questions.CheckForUpdate()) return false;
   State.Quitting = false;
   Uniform = UniformGenerator(static_cast<std::uint64_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000));
   State.PauseComputer = false;

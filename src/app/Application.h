@@ -38,8 +38,6 @@ class Application : public Program, private HighRollersScreen {
 
   /// The start, up to the shown table. False: the program ends without having shown it.
   bool Main();
-  /// Whether an answer from the network was given up, and may still be on its way.
-  bool VersionCheckFailed() const { return versionCheckFailed; }
 
   /// Opens the help at a page, "Name.htm" or "Name.htm#anchor".
   void ShowHelpTopic(const QString& Topic);
@@ -88,7 +86,6 @@ class Application : public Program, private HighRollersScreen {
   void ViewLists() override;
   QString Today() const override;
 
-  bool versionCheckFailed = false;
   Announcer* speaker = nullptr;
   OptionsPanel* options = nullptr;
   frmScorePad* scorePad = nullptr;

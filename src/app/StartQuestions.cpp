@@ -26,10 +26,7 @@ bool StartQuestions::CheckForUpdate() {
     return true;
   }
   switch (util.UtilCheckVersion(VersionMajor, VersionMinor, VersionRevision)) {
-    case TbkUtil::VersionError:
-      versionCheckFailed = true;
-      desktop.MessageBox("An error has occurred. Please try again later.");
-      break;
+    case TbkUtil::VersionError: desktop.MessageBox("An error has occurred. Please try again later."); break;
     case TbkUtil::UpToDate: desktop.MessageBox("You have the latest version."); break;
     case TbkUtil::NewerExists:
       if (desktop.AskYesNo("A newer version is available, would you like to go to the web site to download it?",

@@ -16,14 +16,11 @@ class StartQuestions {
   void SurveyHardware();
   /// False when the player has gone off to fetch a newer version: then the program ends.
   bool CheckForUpdate();
-  /// Whether an answer from the network was given up, and may still be on its way.
-  bool VersionCheckFailed() const { return versionCheckFailed; }
 
  private:
   GameSettings& settings;
   Desktop& desktop;
   const TbkUtil& util;
-  bool versionCheckFailed = false;
 };
 
 }  // namespace blunko

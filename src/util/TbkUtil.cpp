@@ -1,19 +1,20 @@
 #include "util/TbkUtil.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QFile>
 #include <QGuiApplication>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
-#include <QNetworkRequest>
+#include <QProcess>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QSysInfo>
 #include <QTextStream>
 #include <QThread>
 #include <QTimer>
+#include <QUrl>
 #include <QVersionNumber>
 
-#include <memory>
+#include <cstdlib>
 #include <optional>
 
 #include "storage/FileAccess.h"
@@ -22,9 +23,6 @@
 namespace blunko {
 
 namespace {
-
-constexpr qint64 LongestVersionText = 64;  // bytes
-constexpr int MostRedirects = 3;
 
 /// Value of the first line of a system file that begins with `Name`, as "model name : ...".
 QString ValueFrom(const QString& Path, const QByteArray& Name) {
@@ -47,10 +45,12 @@ std::optional<QVersionNumber> ParseVersion(const QByteArray& Text) {
   return Version;
 }
 
-/// A server that sends without a pause keeps Qt's thread busy, and the end of the object would wait for that.
-void Abandon(std::unique_ptr<QNetworkAccessManager> Network) {
-  static auto* const Abandoned = new QList<QNetworkAccessManager*>;
-  *Abandoned << Network.release();
+/// The program that asks for the newest version: beside the game, or where an installation has it; tests lie in a
+/// folder of the build. Empty without it.
+QString VersionAsker() {
+  const QString Here = QCoreApplication::applicationDirPath() + QLatin1Char('/');
+  return QStandardPaths::findExecutable(QStringLiteral("blunko-newest-version"),
+                                        {Here, Here + QStringLiteral(TBK_HELPERS), Here + QStringLiteral("..")});
 }
 
 }  // namespace
@@ -79,26 +79,20 @@ void TbkUtil::UtilSurveyHardware() const {
 TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revision) const {
   const QUrl Address(versionAddress);
   if (Address.scheme() != QLatin1String("http") && Address.scheme() != QLatin1String("https")) return VersionError;
-  auto Network = std::make_unique<QNetworkAccessManager>();
-  QNetworkRequest Request(Address);
-  Request.setMaximumRedirectsAllowed(MostRedirects);
-
+  QProcess Asker;
   QEventLoop Loop;
-  QNetworkReply* Reply = Network->get(Request);
-  QObject::connect(Reply, &QNetworkReply::finished, &Loop, &QEventLoop::quit);
-  QObject::connect(Reply, &QNetworkReply::readyRead, &Loop, [&Loop, Reply] {
-    if (Reply->bytesAvailable() > LongestVersionText) Loop.quit();
+  QObject::connect(&Asker, &QProcess::stateChanged, &Loop, [&Loop](QProcess::ProcessState State) {
+    if (State == QProcess::NotRunning) Loop.quit();
   });
   QTimer::singleShot(timeLimit, Qt::PreciseTimer, &Loop, &QEventLoop::quit);
-  if (!Reply->isFinished()) Loop.exec(QEventLoop::ExcludeUserInputEvents);
+  Asker.start(VersionAsker(), {versionAddress});
+  if (Asker.state() != QProcess::NotRunning) Loop.exec(QEventLoop::ExcludeUserInputEvents);
 
-  const bool Finished = Reply->isFinished();
-  const bool Answered = Finished && Reply->error() == QNetworkReply::NoError &&
-                        Reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == 200;
-  const QByteArray Text = Answered ? Reply->read(LongestVersionText + 1) : QByteArray();
-  Reply->abort();
-  if (!Finished) Abandon(std::move(Network));
-  const auto Newest = Text.size() <= LongestVersionText ? ParseVersion(Text) : std::nullopt;
+  const bool Answered = Asker.state() == QProcess::NotRunning && Asker.exitStatus() == QProcess::NormalExit &&
+                        Asker.error() == QProcess::UnknownError && Asker.exitCode() == EXIT_SUCCESS;
+  Asker.kill();
+  Asker.waitForFinished();
+  const auto Newest = Answered ? ParseVersion(Asker.readAllStandardOutput()) : std::nullopt;
   if (!Newest) return VersionError;
   return *Newest > QVersionNumber(Major, Minor, Revision) ? NewerExists : UpToDate;
 }
