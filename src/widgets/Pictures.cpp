@@ -11,6 +11,16 @@ namespace {
 
 constexpr int LargestPicture = 64;  // MB, of one that is decoded as small as it can be, but isn't yet stretched
 
+/// The picture is decoded in the size in which it is shown: that is quick, and spares the memory of an enormous one.
+QImage Decode(const QString& Path, const QSize& Wanted) {
+  if (!QFileInfo(Path).isFile()) return {};
+  QImageReader Reader(Path);
+  Reader.setAutoTransform(true);
+  const bool Turned = Reader.transformation() & QImageIOHandler::TransformationRotate90;  // comes after the scaling
+  Reader.setScaledSize(Turned ? Wanted.transposed() : Wanted);
+  return Reader.read();
+}
+
 }  // namespace
 
 QPixmap RenderSvg(const QString& Resource, qreal Scale, QSize Size) {
@@ -66,33 +76,29 @@ void SvgBox::paintEvent(QPaintEvent*) {
 }
 
 void StretchedPicture::Load(const QString& Path) {
-  if (Path == path && !drawn.isNull()) return;
+  if (Path == path && !IsEmpty()) return;
   path = Path;
-  drawn = {};
   Draw();
   update();
 }
 
-/// The picture is decoded in the size in which it is shown: that is quick, and spares the memory of an enormous one.
 void StretchedPicture::Draw() {
-  if (!QFileInfo(path).isFile()) return;
-  const qreal Scale = devicePixelRatioF();
+  drawn = {};
   QImageReader::setAllocationLimit(LargestPicture);
-  QImageReader Reader(path);
-  Reader.setAutoTransform(true);
-  const QSize Wanted = (QSizeF(size()) * Scale).toSize();
-  const bool Turned = Reader.transformation() & QImageIOHandler::TransformationRotate90;  // comes after the scaling
-  Reader.setScaledSize(Turned ? Wanted.transposed() : Wanted);
-  const QImage Picture = Reader.read();
-  if (Picture.isNull()) return;
-  drawn = QPixmap::fromImage(Picture);
-  drawn.setDevicePixelRatio(Scale);
+  decoding = std::async(&Decode, path, size() * devicePixelRatioF());
+}
+
+const QPixmap& StretchedPicture::Drawn() {
+  if (decoding.valid()) {
+    drawn = QPixmap::fromImage(decoding.get());
+    drawn.setDevicePixelRatio(devicePixelRatioF());
+  }
+  return drawn;
 }
 
 void StretchedPicture::paintEvent(QPaintEvent*) {
-  if (drawn.isNull()) return;
-  if (drawn.devicePixelRatio() != devicePixelRatioF()) Draw();
-  QPainter(this).drawPixmap(rect(), drawn);
+  if (!IsEmpty() && drawn.devicePixelRatio() != devicePixelRatioF()) Draw();
+  if (!IsEmpty()) QPainter(this).drawPixmap(rect(), drawn);
 }
 
 }  // namespace blunko

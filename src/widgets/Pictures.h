@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QImage>
 #include <QPixmap>
 #include <QString>
 #include <QWidget>
 
+#include <future>
 #include <map>
 #include <utility>
 
@@ -46,7 +48,8 @@ class SvgBox : public QWidget {
   QPixmap drawn;
 };
 
-/// Shows a picture file stretched over the whole widget; transparent without one.
+/// Shows a picture file stretched over the whole widget; transparent without one. It is decoded on a thread of its own
+/// until it is to be painted: at the start of the program that is the time in which the window comes up.
 class StretchedPicture : public QWidget {
   Q_OBJECT
 
@@ -55,15 +58,17 @@ class StretchedPicture : public QWidget {
 
   /// Shows the file at `Path`; an empty path, or a file that is no picture, shows nothing.
   void Load(const QString& Path);
-  bool IsEmpty() const { return drawn.isNull(); }
+  bool IsEmpty() { return Drawn().isNull(); }
 
  protected:
   void paintEvent(QPaintEvent* Event) override;
 
  private:
   void Draw();
+  const QPixmap& Drawn();
 
   QString path;
+  std::future<QImage> decoding;
   QPixmap drawn;
 };
 
