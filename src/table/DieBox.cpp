@@ -40,9 +40,9 @@ QImage Threads(const QSize& Size, const QColor& Colour) {
   for (int y = 0; y < Felt.height(); ++y) {
     auto* Line = reinterpret_cast<QRgb*>(Felt.scanLine(y));
     std::uint32_t Before = Roughness;
-    for (int x = 0; x < Felt.width(); ++x) {
+    for (QRgb* const End = Line + Size.width(); Line < End; ++Line) {
       const std::uint32_t Fresh = (Chance() >> 16) * Shades.size() >> 16;
-      Line[x] = Shades[(Fresh + Before) / 2];  // short threads, not dust
+      *Line = Shades[(Fresh + Before) / 2];  // short threads, not dust
       Before = Fresh;
     }
   }
