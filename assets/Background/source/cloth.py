@@ -56,7 +56,7 @@ def satin():
         r, g, b = ramp(tones, 0.51 + relief * tone + thread)
         return r + hue, g - 0.18 * hue, b
 
-    save_pixels("Satin", 7, pixel, quality=92)
+    save_pixels("Satin", 7, pixel, quality=80)  # the first picture that is decoded: within the start
 
 
 def old_glory():
