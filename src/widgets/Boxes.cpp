@@ -24,10 +24,10 @@ QWidget* OwnerOfBox(QWidget* Table) {
   return Dialog != nullptr ? Dialog : Table;
 }
 
-/// The least width in which the text takes no more lines than in the widest: no word is left alone in the last.
+/// The least width in which the text takes no more lines than in its handy one: no word is left alone in the last.
 int BalancedWidth(const QLabel& Text) {
-  const int Height = Text.heightForWidth(WidestText);
   int Width = qMin(WidestText, Text.sizeHint().width());
+  const int Height = Text.heightForWidth(Width);
   while (Width > 0 && Text.heightForWidth(Width - 1) <= Height) --Width;
   return Width;
 }
