@@ -109,7 +109,7 @@ void OptionsPanel::BuildLists() {
   lstSkin->setMinimumHeight(60);
   auto* Skin = AddFrame(QStringLiteral("Background:"));
   Skin->addWidget(lstSkin, 1);
-  Skin->addStretch();
+  Skin->setSizeConstraint(QLayout::SetMinAndMaxSize);  // what the list leaves is spread over all frames
   frames->setStretchFactor(lstSkin->parentWidget(), 1);
   connect(lstSkin, &QListWidget::currentRowChanged, this, &OptionsPanel::lstSkin_Click);
   // A click on the picture that is shown already brings its text colour back.

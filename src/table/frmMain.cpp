@@ -202,6 +202,11 @@ void frmMain::ConnectControls() {
   for (const auto& [Word, Menu] : {std::pair(lblMnuGame, mnuGame), {lblMnuHelp, mnuHelpMe}}) {
     connect(Word, &QPushButton::clicked, this,
             [Word = Word, Menu = Menu] { Menu->popup(Word->mapToGlobal(QPoint(0, Word->height()))); });
+    // What the menu opens may keep the word from hearing that the mouse has left it.
+    connect(Menu, &QMenu::aboutToHide, Word, [Word = Word] {
+      Word->setAttribute(Qt::WA_UnderMouse, Word->rect().contains(Word->mapFromGlobal(QCursor::pos())));
+      Word->update();
+    });
   }
 }
 
@@ -320,6 +325,12 @@ void frmMain::OrderTabStops() {
 void frmMain::ShowBackground(const QString& Path) {
   const bool Shown = Path != NoBackground && IsModestJpeg(ReadWholeFile(Path, LargestJpeg).value_or(QByteArray()));
   Image1->Load(Shown ? Path : QString());
+  // On the bare table some dice lie where the pictures have their motif.
+  if (Image1->IsEmpty() && picLooseDice == nullptr) {
+    picLooseDice = Make<SvgBox>(picGameTray, QStringLiteral("picLooseDice"), QStringLiteral(":/art/welcome.svg"));
+    picLooseDice->setGeometry(QRect({15, 362}, picLooseDice->sizeHint()));
+  }
+  if (picLooseDice != nullptr) picLooseDice->setVisible(Image1->IsEmpty());
 }
 
 void frmMain::DrawDress() {

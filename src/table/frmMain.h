@@ -51,6 +51,7 @@ class frmMain : public QWidget {
   // The controls.
   QWidget* picGameTray;
   StretchedPicture* Image1;
+  SvgBox* picLooseDice = nullptr;  ///< made when a table first has no picture
   DiceTray* picTray1;
   DiceTray* picTray2;
   DiceTray* picSampleDice;           ///< covers the lower tray while the options panel is open

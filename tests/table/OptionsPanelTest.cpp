@@ -171,7 +171,8 @@ TEST(OptionsPanel, APictureThatVanishedIsNotSaved) {
   EXPECT_EQ(Panel.lstSkin->currentRow(), 2) << "(None), Forest, Satin";
   QFile::remove(Dressed.Picture("Forest.jpg"));
   Panel.lstSkin->setCurrentRow(1);
-  EXPECT_TRUE(Dressed.Form.Image1->IsEmpty());
+  ASSERT_TRUE(Dressed.Form.Image1->IsEmpty());
+  EXPECT_TRUE(Dressed.Form.picLooseDice->isVisibleTo(&Dressed.Form)) << "dice in its place";
   Dressed.Close(true);
   EXPECT_EQ(GameSettings(Dressed.Where).Background(), Dressed.Picture("Satin.jpg")) << "the next start finds one";
 }
