@@ -9,6 +9,7 @@
 #include "app/Texts.h"
 #include "app/frmCredits.h"
 #include "widgets/Boxes.h"
+#include "widgets/Colours.h"
 #include "widgets/FocusRing.h"
 #include "widgets/FormBuilder.h"
 
@@ -18,6 +19,7 @@ namespace {
 
 constexpr QSize DieSize(48, 48);  // px
 const QColor ButtonColour(132, 186, 255);
+const QColor LinkBlue(122, 180, 255);  // on a dark ground
 
 }  // namespace
 
@@ -39,6 +41,9 @@ frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& S
   Label_Version = MakeText(this, "Label_Version",
                            QStringLiteral("v%1.%2.%3").arg(VersionMajor).arg(VersionMinor).arg(VersionRevision), Plain);
   Picture2 = MakeDie("Picture2", Die);
+  // Not every dark palette has a link colour of its own.
+  if (BestGround(palette().color(QPalette::Window)) == QColor(Qt::white))
+    SetColours(*this, {{QPalette::Link, LinkBlue}});
   Label1 = MakeText(this, "Label1", "Tollmoor Games", FontOf(Typeface::Verdana, 9.75, true));
   lblURL = MakeLink("lblURL", WebSite, WebSite);
   lblMail = MakeLink("lblMail", SupportMail, "mailto:" + SupportMail);
