@@ -1,0 +1,101 @@
+"""The tree that the real program offers to screen readers: found, pressed and listened to."""
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+
+last_name, repeated, heard, listeners = {}, [], [], []
+
+
+def in_session(run, screen, limit):
+    """Runs this program's `run` on a session bus and a display of its own, for at most `limit` seconds."""
+    if "SESSION" in os.environ:
+        return run()
+    work = tempfile.mkdtemp()
+    read, write = os.pipe()
+    server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", screen, "-nolisten", "tcp", "-noreset"],
+                              pass_fds=[write], stderr=subprocess.DEVNULL)
+    try:
+        keep = {n: v for n, v in os.environ.items() if not n.startswith(("QT_", "WAYLAND", "XDG_", "DBUS"))}
+        own = {"SESSION": work, "DISPLAY": ":" + open(read).readline().strip(), "XDG_RUNTIME_DIR": work, "HOME": work}
+        sys.exit(subprocess.run(["dbus-run-session", "--", os.path.realpath(sys.argv[0]), *sys.argv[1:]],
+                                timeout=limit, env={**keep, **own}).returncode)
+    finally:
+        server.kill()
+        shutil.rmtree(work, ignore_errors=True)
+
+
+if "SESSION" in os.environ:
+    import pyatspi  # only now: it looks for the bus at once
+
+
+def start(program, **environment):
+    """The program, listened to."""
+    heard.clear()
+    if not listeners:
+        listeners.append(threading.Thread(target=pyatspi.Registry.start, daemon=True))
+        pyatspi.Registry.registerEventListener(on_name, "object:property-change:accessible-name")
+        pyatspi.Registry.registerEventListener(on_showing, "object:state-changed:showing")
+        listeners[0].start()
+    return subprocess.Popen([program], env={**os.environ, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+                                            "SDL_AUDIODRIVER": "dummy", **environment})
+
+
+def wait_for(find, why, limit=30):
+    end = time.time() + limit
+    while time.time() < end:
+        found = find()
+        if found:
+            return found
+        time.sleep(0.05)
+    sys.exit(f"waited in vain for {why}; heard: {heard}")
+
+
+def everything(node):
+    yield node
+    for child in node:
+        if child is not None:
+            yield from everything(child)
+
+
+def showing():
+    """All that is on the screen, of the newest window first."""
+    there = [a for a in pyatspi.Registry.getDesktop(0) if a is not None and "Tollmoor" in (a.name or "")]
+    windows = reversed(list(there[-1])) if there else []
+    return [n for window in windows for n in everything(window) if n.getState().contains(pyatspi.STATE_SHOWING)]
+
+
+def find(name, role="push button"):
+    """The first one whose name begins so, or that the name tells."""
+    fits = name if callable(name) else lambda n: n.startswith(name)
+    return next((n for n in showing() if n.getRoleName() == role and fits(n.name or "")), None)
+
+
+def could_press(name, role="push button"):
+    """Presses it, if it is there and can be pressed."""
+    node = find(name, role)
+    actions = node.queryAction() if node else None
+    for i in range(actions.nActions if actions else 0):
+        if actions.getName(i).lower() in ("press", "toggle", "check"):
+            return actions.doAction(i)
+    return False
+
+
+def press(name, role="push button"):
+    wait_for(lambda: could_press(name, role), name)
+
+
+def on_name(event):
+    key = (event.source.getRoleName(), event.source.path)
+    name = event.source.name
+    if last_name.get(key) == name:
+        repeated.append(f"{key[0]}: {name}")
+    last_name[key] = name
+
+
+def on_showing(event):
+    if event.detail1 and event.source.getRole() == pyatspi.ROLE_NOTIFICATION:
+        heard.append(event.source.name)
