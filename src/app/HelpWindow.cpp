@@ -114,6 +114,9 @@ void HelpWindow::BuildControls() {
   Contents->setTextElideMode(Qt::ElideRight);
   txtFind = Make<QLineEdit>(this, "txtFind");
   txtFind->setPlaceholderText("Find (Ctrl+F)");
+  QColor Faint = palette().color(QPalette::Text);  // some dark palettes leave the hint's letters black
+  Faint.setAlphaF(0.6F);
+  SetColours(*txtFind, {{QPalette::PlaceholderText, Faint}});
   txtFind->setAccessibleName("Find");
   txtFind->setClearButtonEnabled(true);
   lblFound = MakeText(this, "lblFound", {}, font());

@@ -41,9 +41,6 @@ frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& S
   Label_Version = MakeText(this, "Label_Version",
                            QStringLiteral("v%1.%2.%3").arg(VersionMajor).arg(VersionMinor).arg(VersionRevision), Plain);
   Picture2 = MakeDie("Picture2", Die);
-  // Not every dark palette has a link colour of its own.
-  if (BestGround(palette().color(QPalette::Window)) == QColor(Qt::white))
-    SetColours(*this, {{QPalette::Link, LinkBlue}});
   Label1 = MakeText(this, "Label1", "Tollmoor Games", FontOf(Typeface::Verdana, 9.75, true));
   lblURL = MakeLink("lblURL", WebSite, WebSite);
   lblMail = MakeLink("lblMail", SupportMail, "mailto:" + SupportMail);
@@ -63,7 +60,11 @@ frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& S
 QLabel* frmAbout::MakeLink(const QString& Name, const QString& Shown, const QString& Target) {
   QLabel* Made = MakeText(this, Name, {}, FontOf(Typeface::Verdana, 8.25));
   Made->setTextFormat(Qt::RichText);
-  Made->setText(QStringLiteral("<a href=\"%1\">%2</a>").arg(Target.toHtmlEscaped(), Shown.toHtmlEscaped()));
+  // Not every dark palette has a link colour of its own.
+  const bool Dark = Luminance(palette().color(QPalette::Window)) < Luminance(palette().color(QPalette::WindowText));
+  Made->setText(QStringLiteral("<a href=\"%1\" style=\"color:%2\">%3</a>")
+                    .arg(Target.toHtmlEscaped(), (Dark ? LinkBlue : palette().color(QPalette::Link)).name(),
+                         Shown.toHtmlEscaped()));
   Made->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
   Made->setAccessibleName(Shown);
   connect(Made, &QLabel::linkActivated, this, &OpenInShell);

@@ -108,8 +108,9 @@ void OptionsPanel::BuildLists() {
   lstSkin->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstSkin->setMinimumHeight(60);
   auto* Skin = AddFrame(QStringLiteral("Background:"));
+  Skin->addStretch();
   Skin->addWidget(lstSkin, 1);
-  Skin->setSizeConstraint(QLayout::SetMinAndMaxSize);  // what the list leaves is spread over all frames
+  Skin->addStretch();
   frames->setStretchFactor(lstSkin->parentWidget(), 1);
   connect(lstSkin, &QListWidget::currentRowChanged, this, &OptionsPanel::lstSkin_Click);
   // A click on the picture that is shown already brings its text colour back.
