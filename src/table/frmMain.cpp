@@ -81,9 +81,9 @@ frmMain::frmMain(Game& Table) : QWidget(nullptr, Qt::Window), game(Table) {
 void frmMain::PlaceTrays() {
   picGameTray = Placed(Make<QWidget>(this, QStringLiteral("picGameTray")), TwipsRect(0, 0, TableWidth, 7725));
   picGameTray->setAutoFillBackground(true);
-  // As wide as the window, which is a little narrower than the table: the pictures have just twice that size.
+  // A little wider than the window. The shipped pictures have just twice this size, in which they are quickly decoded.
   Image1 =
-      Placed(Make<StretchedPicture>(picGameTray, QStringLiteral("Image1")), TwipsRect(0, 0, WindowWidth, WindowHeight));
+      Placed(Make<StretchedPicture>(picGameTray, QStringLiteral("Image1")), TwipsRect(0, 0, TableWidth, WindowHeight));
   const auto Tray = [this](const QString& Name, int Top, bool HasTrayAbove) {
     return Placed(Make<DiceTray>(picGameTray, Name, HasTrayAbove), TwipsRect(TrayLeft, Top, TrayWidth, TrayHeight));
   };

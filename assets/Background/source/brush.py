@@ -10,7 +10,6 @@ import subprocess
 
 OUT = pathlib.Path(__file__).resolve().parent.parent
 WIDTH, HEIGHT = 786, 1026
-MARGIN = 2  # is painted at the left and right, and cut off
 
 
 def mix(a, b, t):
@@ -155,7 +154,7 @@ def sheet(fill, extra=""):
 
 def write_jpeg(name, text_colour, pixels, quality):
     image = f"P6 {WIDTH} {HEIGHT} 255\n".encode() + bytes(pixels)
-    subprocess.run(["convert", "ppm:-", "-shave", f"{MARGIN}x0", "-sampling-factor", "4:2:0", "-quality", str(quality), str(OUT / f"{name}.jpg")],
+    subprocess.run(["convert", "ppm:-", "-sampling-factor", "4:2:0", "-quality", str(quality), str(OUT / f"{name}.jpg")],
                    input=image, check=True)
     (OUT / f"{name}.clr").write_text(f"{text_colour}\n", encoding="ascii")
 

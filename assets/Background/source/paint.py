@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Paints the background pictures: JPEG files of 782 x 1026 pixels, twice the table's logical size, one folder up.
+"""Paints the background pictures: JPEG files of 786 x 1026 pixels, twice the size in which the table shows them, one folder up.
 
 Needs ImageMagick's `convert` for the JPEG coding and librsvg's `rsvg-convert` for the drawn ones.
 `paint.py NAME...` paints the named ones, without names all.
