@@ -375,24 +375,11 @@ void frmMain::SetStripWidth(int Width, const QImage& Whole) {
 
 void frmMain::CentreOnScreen() { CentreFrame(*this, screen()->geometry()); }
 
-/// On a screen that is lower than the table the window moves up and down, so that all of it can be reached.
-void frmMain::Shift(int Down) {
-  const QRect Screen = screen()->availableGeometry(), Frame = frameGeometry();
-  if (Frame.height() <= Screen.height()) return;
-  move(x(), std::clamp(Frame.top() + Down, Screen.bottom() + 1 - Frame.height(), Screen.top()));
-}
-
-void frmMain::wheelEvent(QWheelEvent* Event) { Shift(Event->angleDelta().y() / 2); }
+void frmMain::wheelEvent(QWheelEvent* Event) { ShiftOnLowScreen(*this, Event->angleDelta().y() / 2); }
 
 bool frmMain::focusNextPrevChild(bool Next) {
-  constexpr int Margin = 12;  // px
   const bool Moved = QWidget::focusNextPrevChild(Next);
-  if (const QWidget* Focus = focusWidget()) {
-    const QRect Screen = screen()->availableGeometry(),
-                Seen(Focus->mapToGlobal(QPoint(-Margin, -Margin)), Focus->size() + 2 * QSize(Margin, Margin));
-    if (Seen.bottom() > Screen.bottom()) Shift(Screen.bottom() - Seen.bottom());
-    if (Seen.top() < Screen.top()) Shift(Screen.top() - Seen.top());
-  }
+  ShowFocusOnLowScreen(*this);
   return Moved;
 }
 

@@ -120,7 +120,6 @@ class frmMain : public QWidget {
   void KeepFocusOnDice();
   void OrderTabStops();
   void SetStripWidth(int Width, const QImage& Whole);
-  void Shift(int Down);
 
   Game& game;
   /// Keys pressed in this window, each with its Shift mask then: only their release is a command.

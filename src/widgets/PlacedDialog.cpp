@@ -2,6 +2,9 @@
 
 #include <QLayout>
 #include <QScreen>
+#include <QWheelEvent>
+
+#include <algorithm>
 
 #include "widgets/X11.h"
 
@@ -37,6 +40,22 @@ void CentreFrame(QWidget& Window, const QRect& Place) {
   PlaceFrame(Window, QPoint(qMax(Frame.left(), Screen.left()), qMax(Frame.top(), Screen.top())));
 }
 
+void ShiftOnLowScreen(QWidget& Window, int Down) {
+  const QRect Screen = Window.screen()->availableGeometry(), Frame = Window.frameGeometry();
+  if (Frame.height() <= Screen.height()) return;
+  Window.move(Window.x(), std::clamp(Frame.top() + Down, Screen.bottom() + 1 - Frame.height(), Screen.top()));
+}
+
+void ShowFocusOnLowScreen(QWidget& Window) {
+  constexpr int Margin = 12;  // px
+  const QWidget* const Focus = Window.focusWidget();
+  if (Focus == nullptr) return;
+  const QRect Screen = Window.screen()->availableGeometry(),
+              Seen(Focus->mapToGlobal(QPoint(-Margin, -Margin)), Focus->size() + 2 * QSize(Margin, Margin));
+  if (Seen.bottom() > Screen.bottom()) ShiftOnLowScreen(Window, Screen.bottom() - Seen.bottom());
+  if (Seen.top() < Screen.top()) ShiftOnLowScreen(Window, Screen.top() - Seen.top());
+}
+
 void PlacedDialog::setVisible(bool Visible) {
   if (Visible && !isVisible()) {
     ensurePolished();
@@ -51,5 +70,13 @@ void PlacedDialog::Place() {
   const QWidget* const Owner = parentWidget();
   CentreFrame(*this, Owner == nullptr ? screen()->availableGeometry() : Owner->window()->frameGeometry());
 }
+
+bool PlacedDialog::focusNextPrevChild(bool Next) {
+  const bool Moved = QDialog::focusNextPrevChild(Next);
+  ShowFocusOnLowScreen(*this);
+  return Moved;
+}
+
+void PlacedDialog::wheelEvent(QWheelEvent* Event) { ShiftOnLowScreen(*this, Event->angleDelta().y() / 2); }
 
 }  // namespace blunko

@@ -11,6 +11,10 @@ QMargins FrameOf(QWidget& Window);
 void PlaceFrame(QWidget& Window, QPoint Corner);
 /// Puts a window with its frame in the middle of a place on the screen, and moves it in where the screen ends.
 void CentreFrame(QWidget& Window, const QRect& Place);
+/// On a screen that is lower than a window with its frame: moves it up and down, so that all of it can be reached.
+void ShiftOnLowScreen(QWidget& Window, int Down);
+/// Moves it so that what has the focus is seen.
+void ShowFocusOnLowScreen(QWidget& Window);
 
 /// A dialog that comes up at its place, frame included: in the middle of its owner's frame, unless it has another.
 class PlacedDialog : public QDialog {
@@ -22,6 +26,8 @@ class PlacedDialog : public QDialog {
  protected:
   /// Goes to where the dialog belongs; called before it comes up, in its final size.
   virtual void Place();
+  bool focusNextPrevChild(bool Next) override;
+  void wheelEvent(QWheelEvent* Event) override;
 };
 
 }  // namespace blunko
