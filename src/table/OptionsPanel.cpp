@@ -147,7 +147,9 @@ void OptionsPanel::ColourControls() {
     SetColours(*List, {{QPalette::Text, ListText},
                        {QPalette::ButtonText, ListText},
                        {QPalette::Base, ListGround},
-                       {QPalette::Button, ListGround}});
+                       {QPalette::Button, ListGround},
+                       {QPalette::Highlight, ListText},  // the panel's own colour would look like a hole
+                       {QPalette::HighlightedText, ListGround}});
   }
   // A style sheet keeps the panel's colours from being inherited.
   for (auto* Option : findChildren<QRadioButton*>()) Option->setPalette(palette());
