@@ -11,8 +11,8 @@
 namespace blunko {
 
 QMargins FrameOf(QWidget& Window) {
+  if (const auto Known = FrameToCome(Window)) return *Known;
   if (!Window.isVisible()) {
-    if (const auto Known = FrameToCome(Window)) return *Known;
     QWidget* const Owner = Window.parentWidget();
     return Owner == nullptr || !Owner->window()->isVisible() ? QMargins() : FrameOf(*Owner->window());
   }
@@ -67,8 +67,9 @@ void PlacedDialog::setVisible(bool Visible) {
 }
 
 void PlacedDialog::Place() {
-  const QWidget* const Owner = parentWidget();
-  CentreFrame(*this, Owner == nullptr ? screen()->availableGeometry() : Owner->window()->frameGeometry());
+  if (parentWidget() == nullptr) return CentreFrame(*this, screen()->availableGeometry());
+  QWidget& Owner = *parentWidget()->window();  // one that has only just come up doesn't know its frame yet
+  CentreFrame(*this, Owner.geometry() + FrameOf(Owner));
 }
 
 bool PlacedDialog::focusNextPrevChild(bool Next) {
