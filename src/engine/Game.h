@@ -120,6 +120,7 @@ class Game {
   void TakeDie(int Position);
   void TakeClickedDice(int Index);
   void UndoSelection(int Index);
+  void BankTurn();
   void GoOut();
   void FlashLastRoll();
   void HideMarkers();

@@ -21,19 +21,11 @@ void Game::cmdPassDice_Click() {
   m.ActionSet = "r";
   t.pctDivider.Visible = false;
   if (Settings.MarkScorers()) HideMarkers();
-  t.cmdRoll.Enabled = false;
-  t.cmdPassDice.Enabled = false;
+  t.cmdRoll.Enabled = t.cmdPassDice.Enabled = false;
 
   desktop.PlaySoundFile(Settings.GetSound(m.RollIsBust ? "Passem2" : "Passem1"), false);
   if (Settings.ComputerSpeed() < SpeedRidiculous) desktop.Sleep(PauseAfterPass);
-  if (!m.RollIsBust) {
-    std::int16_t& Score = m.PlayerScore[m.CurrentPlayer];
-    Score = AddScore(Score, m.TurnScore);
-    program.UpdateActivePlayer();
-    program.Announce(GameEvent::Pass);
-    if (!IsComputerTurn()) program.CheckHighTurn(m.PlayerName[m.CurrentPlayer], m.TurnScore);
-    if (m.OutPlayer == Absent && Score >= m.PlayToScore) GoOut();
-  }
+  if (!m.RollIsBust) BankTurn();
 
   ClearDice();
   m.CurrentPlayer = static_cast<std::uint8_t>((m.CurrentPlayer + 1) % m.NumPlayers);
@@ -63,6 +55,15 @@ void Game::cmdPassDice_Click() {
     if (Settings.ComputerSpeed() == SpeedNormal) desktop.Sleep(PauseBeforeComputerTurn);
     if (!m.GameOver) computers->RunComputerTurn();
   }
+}
+
+void Game::BankTurn() {
+  std::int16_t& Score = m.PlayerScore[m.CurrentPlayer];
+  Score = AddScore(Score, m.TurnScore);
+  program.UpdateActivePlayer();
+  program.Announce(GameEvent::Pass);
+  if (!IsComputerTurn()) program.CheckHighTurn(m.PlayerName[m.CurrentPlayer], m.TurnScore);
+  if (m.OutPlayer == Absent && Score >= m.PlayToScore) GoOut();
 }
 
 void Game::GoOut() {
