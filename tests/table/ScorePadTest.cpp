@@ -49,8 +49,9 @@ TEST_F(ScorePad, StandsAtTheSideWhereTheScreenHasRoomAndHoldsItsSeats) {
     Pad.SetPosition();
     Pad.show();
     EXPECT_TRUE(Pad.rect().contains(Label(RoomAtTheRight ? "lblScore(1)" : "lblScore(7)")->geometry()));
-    EXPECT_EQ(Pad.x() > Form.geometry().right(), RoomAtTheRight);
-    EXPECT_FALSE(Pad.frameGeometry().intersects(Form.frameGeometry()));
+    const QRect At = Pad.frameGeometry(), Table = Form.frameGeometry();
+    EXPECT_EQ(RoomAtTheRight ? At.left() - Table.right() : Table.left() - At.right(), 13)
+        << "px, one more than lie between";
     EXPECT_TRUE(Screen.contains(Pad.frameGeometry()));
   }
 }
