@@ -75,7 +75,6 @@ frmMain::frmMain(Game& Table) : QWidget(nullptr, Qt::Window), game(Table) {
   OrderTabStops();
   setFixedSize(Pixels(WindowWidth), Pixels(WindowHeight));
   FixButtonColours(*this);
-  ShowControls();
 }
 
 void frmMain::PlaceTrays() {
@@ -326,11 +325,11 @@ void frmMain::ShowBackground(const QString& Path) {
   const bool Shown = Path != NoBackground && IsModestJpeg(ReadWholeFile(Path, LargestJpeg).value_or(QByteArray()));
   Image1->Load(Shown ? Path : QString());
   // On the bare table some dice lie where the pictures have their motif.
-  if (Image1->IsEmpty() && picLooseDice == nullptr) {
+  if (!Shown && picLooseDice == nullptr) {
     picLooseDice = Make<SvgBox>(picGameTray, QStringLiteral("picLooseDice"), QStringLiteral(":/art/welcome.svg"));
     picLooseDice->setGeometry(QRect({15, 362}, picLooseDice->sizeHint()));
   }
-  if (picLooseDice != nullptr) picLooseDice->setVisible(Image1->IsEmpty());
+  if (picLooseDice != nullptr) picLooseDice->setVisible(!Shown);
 }
 
 void frmMain::DrawDress() {
