@@ -83,11 +83,12 @@ bool Application::Main() {
 
 /// Makes the table's window, dresses it as the settings say, and connects it with the rest.
 void Application::LoadForm() {
-  Form = std::make_unique<frmMain>(Table);
+  Dress Clothes;
+  Clothes.Trays = StartColour(Settings.DieColour());
+  Clothes.Background = Settings.Background();
+  Clothes.TextColour = Settings.TextColour();
+  Form = std::make_unique<frmMain>(Table, Clothes);
   speaker = new Announcer(Form.get());
-  Form->Wears.Trays = StartColour(Settings.DieColour());
-  Form->Wears.Background = Settings.Background();
-  Form->Wears.TextColour = Settings.TextColour();
   Form->ShowControls();
   Form->CentreOnScreen();
   Rollers.LoadHighRollers();

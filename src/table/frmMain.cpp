@@ -61,7 +61,7 @@ QColor OfBgr(std::uint32_t Colour) { return QColor(Colour & 0xFF, (Colour >> 8) 
 
 }  // namespace
 
-frmMain::frmMain(Game& Table) : QWidget(nullptr, Qt::Window), game(Table) {
+frmMain::frmMain(Game& Table, Dress Clothes) : QWidget(nullptr, Qt::Window), Wears(std::move(Clothes)), game(Table) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(QStringLiteral(" Tollmoor Blunko"));
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
@@ -83,6 +83,7 @@ void frmMain::PlaceTrays() {
   // A little wider than the window. The shipped pictures have just twice this size, in which they are quickly decoded.
   Image1 =
       Placed(Make<StretchedPicture>(picGameTray, QStringLiteral("Image1")), TwipsRect(0, 0, TableWidth, WindowHeight));
+  ShowBackground(Wears.Background);
   const auto Tray = [this](const QString& Name, int Top, bool HasTrayAbove) {
     return Placed(Make<DiceTray>(picGameTray, Name, HasTrayAbove), TwipsRect(TrayLeft, Top, TrayWidth, TrayHeight));
   };

@@ -24,7 +24,8 @@ class frmMain : public QWidget {
   Q_OBJECT
 
  public:
-  explicit frmMain(Game& Table);
+  /// `Clothes`: what it wears first. Its background is decoded while the window is built.
+  explicit frmMain(Game& Table, Dress Clothes = {});
 
   /// What the table wears. Shown with the next ShowControls.
   Dress Wears;

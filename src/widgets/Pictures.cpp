@@ -76,7 +76,7 @@ void SvgBox::paintEvent(QPaintEvent*) {
 }
 
 void StretchedPicture::Load(const QString& Path) {
-  if (Path == path && !IsEmpty()) return;
+  if (Path == path && (decoding.valid() || !drawn.isNull())) return;
   path = Path;
   Draw();
   update();
