@@ -100,6 +100,13 @@ TEST_F(NewGame, OpensWithWhatWasSavedPlaysWhatIsShownAndTakesTheRestartWords) {
     EXPECT_EQ(Told(Word), Setup) << Word;
     EXPECT_EQ(At.m.FormMessage, "");
   }
+  At.Screen.OnSleep = {};
+  Told([&] {
+    Choose(1);
+    Form.cboStyle[1]->setCurrentIndex(Moron - Normal);
+    Click(Form.cmdSetDefault);
+  });
+  EXPECT_EQ(Told([&] { Click(Form.cmdPlay); }), "1 10000 1000, Player1, Computer *Moron");
 }
 
 }  // namespace blunko::test

@@ -136,7 +136,6 @@ TEST_F(TheProgram, AsksItsQuestionsAtTheFirstStartAndForTheVersionNowAndThen) {
       {"yon", 0, "", Version},
       {"nn", 0, "", Version},
       {"", 5, "", ""},
-      {"n", 1, "", Version},
       {"yo", 1, "1.0.0\n", "You have the latest version."},
       {"yn", 1, "1.0.1\n", Newer},
       {"yy", 1, "1.0.1\n", Newer, false},
