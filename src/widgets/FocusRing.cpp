@@ -66,16 +66,16 @@ void DrawFocusRing(QPainter& Painter, const QRectF& Outer, qreal Radius) {
 }
 
 void RingStandardControls() {
-  QObject::connect(
-      qApp, &QApplication::focusChanged, qApp, [Ring = QPointer<QFocusFrame>()](QWidget*, QWidget* Now) mutable {
-        delete Ring;
-        if (Now == nullptr || Now->isWindow() || Now->window()->windowType() == Qt::Popup || !IsStandard(Now)) return;
-        Ring = new QFocusFrame(Now->parentWidget());
-        auto* const Style = new RingStyle;
-        Style->setParent(Ring);
-        Ring->setStyle(Style);
-        Ring->setWidget(Now);
-      });
+  auto* const Style = new RingStyle;
+  Style->setParent(qApp);
+  const auto Move = [Style, Ring = QPointer<QFocusFrame>()](QWidget*, QWidget* Now) mutable {
+    delete Ring;
+    if (Now == nullptr || Now->isWindow() || Now->window()->windowType() == Qt::Popup || !IsStandard(Now)) return;
+    Ring = new QFocusFrame(Now->parentWidget());
+    Ring->setStyle(Style);
+    Ring->setWidget(Now);
+  };
+  QObject::connect(qApp, &QApplication::focusChanged, qApp, Move);
 }
 
 }  // namespace blunko
