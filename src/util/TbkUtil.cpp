@@ -45,12 +45,11 @@ std::optional<QVersionNumber> ParseVersion(const QByteArray& Text) {
   return Version;
 }
 
-/// The program that asks for the newest version: beside the game, or where an installation has it; tests lie in a
-/// folder of the build. Empty without it.
+/// The program that asks for the newest version: beside the game, or where an installation has it. Empty without it.
 QString VersionAsker() {
   const QString Here = QCoreApplication::applicationDirPath() + QLatin1Char('/');
   return QStandardPaths::findExecutable(QStringLiteral("blunko-newest-version"),
-                                        {Here, Here + QStringLiteral(TBK_HELPERS), Here + QStringLiteral("..")});
+                                        {Here, Here + QStringLiteral(TBK_HELPERS)});
 }
 
 }  // namespace
