@@ -47,7 +47,7 @@ void Game::cmdPassDice_Click() {
     FlashLastRoll();
     if (!Played.GoesOn()) return;
   }
-  t.cmdRoll.Enabled = !IsComputerTurn();
+  t.cmdRoll.Enabled = !IsComputerTurn();  // not before: in the flash nobody may roll
   SetStatus("Roll the dice.");
   program.Announce(GameEvent::Turn);
 

@@ -323,6 +323,7 @@ void frmMain::OrderTabStops() {
 
 /// The picture of a path; none for "(None)", and for a file that is no picture or costs too much.
 void frmMain::ShowBackground(const QString& Path) {
+  if (std::exchange(background, Path) == Path) return;
   const bool Shown = Path != NoBackground && IsModestJpeg(ReadWholeFile(Path, LargestJpeg).value_or(QByteArray()));
   Image1->Load(Shown ? Path : QString());
   // On the bare table some dice lie where the pictures have their motif.
@@ -338,7 +339,7 @@ void frmMain::DrawDress() {
   for (DiceTray* Tray : {picTray1, picTray2}) Tray->setBackColor(Wears.Trays);
   picSampleDice->setBackColor(Wears.Cover);
   picSampleDice->setVisible(Wears.Covered);
-  if (!drawn || drawn->Background != Wears.Background) ShowBackground(Wears.Background);
+  ShowBackground(Wears.Background);
   for (FitLabel* Label : picGameTray->findChildren<FitLabel*>(Qt::FindDirectChildrenOnly)) {
     Label->setForeColor(OfBgr(Wears.TextColour));
   }

@@ -126,6 +126,7 @@ class frmMain : public QWidget {
   /// Keys pressed in this window, each with its Shift mask then: only their release is a command.
   std::map<int, std::int16_t> keysDown;
   std::optional<Dress> drawn;
+  QString background;  ///< what is shown of it
   /// The dice as they were described last: faces, and what can be taken.
   std::array<std::pair<int, bool>, 12> described{};
   /// First box of the row in which a die had the focus, until the handler that took the die has ended.

@@ -76,7 +76,6 @@ void SvgBox::paintEvent(QPaintEvent*) {
 }
 
 void StretchedPicture::Load(const QString& Path) {
-  if (Path == path && (decoding.valid() || !drawn.isNull())) return;
   path = Path;
   Draw();
   update();
@@ -85,7 +84,8 @@ void StretchedPicture::Load(const QString& Path) {
 void StretchedPicture::Draw() {
   drawn = {};
   QImageReader::setAllocationLimit(LargestPicture);
-  decoding = std::async(&Decode, path, size() * devicePixelRatioF());
+  decoding = {};
+  if (!path.isEmpty()) decoding = std::async(&Decode, path, size() * devicePixelRatioF());
 }
 
 const QPixmap& StretchedPicture::Drawn() {
