@@ -35,6 +35,7 @@ int BalancedWidth(const QLabel& Text) {
 }  // namespace
 
 GameBox::GameBox(QWidget* Owner, Kind Which, const QString& Title, const QString& Text) : PlacedDialog(Owner) {
+  setObjectName("GameBox");
   setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
   setWindowTitle(Title);
   lblText = MakeText(this, "lblText", Text, FontOf(Typeface::Verdana, 9.75), Qt::AlignLeft | Qt::AlignVCenter);

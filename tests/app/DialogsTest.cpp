@@ -33,6 +33,7 @@ TEST(About, DiceSoundLinksOpenAndTheCreditsScrollRound) {
   });
   Next.Expect<frmCredits>([](frmCredits& Credits) {
     int& Top = Credits.picScroll->Top;
+    ExpectAsKept(Credits);
     EXPECT_TRUE(QTest::qWaitFor([&] { return Credits.IsScrolling(); }, 5000));
     Top = -Credits.picScroll->TextHeight();
     EXPECT_TRUE(QTest::qWaitFor([&] { return Top > 0; }, 5000)) << "again from below";
@@ -60,6 +61,7 @@ TEST(Congrats, EngravesTheWinnerWhenTheSoundStartsAndItsButtonsLeaveTheirWords) 
       Game.Screen.OnSleep = [&] { EXPECT_EQ(Dialog.lblWinner->text(), QLatin1String("Engraving...")); };
       EXPECT_TRUE(QTest::qWaitFor([&] { return Dialog.lblWinner->text() == QLatin1String("* Ann *"); }, 5000));
       EXPECT_EQ(Game.TakeLog(), (Lines{"sleep 500", "sound GameOver"}));
+      ExpectAsKept(Dialog);
       Button != nullptr ? Click(Dialog.*Button) : QTest::keyClick(&Dialog, Qt::Key_Escape);
     });
     frmCongrats("Ann", Message, Game.Screen, Game.Options, Game.Form).exec();

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
@@ -15,6 +16,7 @@
 #include <string>
 #include <vector>
 
+#include "app/Accessibility.h"
 #include "app/Application.h"
 #include "tests/support/Place.h"
 #include "tests/support/Table.h"
@@ -36,14 +38,44 @@ struct Desk : Table {
   IniInfo Info{Where.InfoPath()};
   GameSettings Settings{Where, Info};
   QWidget Main;
+
+  Desk() { InstallAccessibility(); }
 };
 
-/// Every text of a window has the room that it asks for, and every stop of the Tab key has a name.
-inline void ExpectUsable(QWidget& Form) {
+/// Holds what a window says it consists of, a line a part, against what tests/app/forms keeps. A change there is looked
+/// at as one of the source is; TBK_KEEP_FORMS=1 keeps what is found.
+inline void ExpectAsKept(QWidget& Form, const QString& State = {}) {
+  QStringList Found{Form.windowTitle(), QStringLiteral("%1 x %2").arg(Form.width()).arg(Form.height())};
+  for (QWidget* Part : Form.findChildren<QWidget*>(QRegularExpression("^(?!qt_).+"))) {
+    if (!Part->isVisible() || Part->window() != &Form) continue;
+    const QAccessibleInterface& Told = *QAccessible::queryAccessibleInterface(Part);
+    const QPalette& Colours = Part->palette();
+    QDebug(&Found.emplace_back()).noquote()
+        << Part->objectName() << Told.role() << '"' + Told.text(QAccessible::Name) + '"'
+        << (Told.state().invisible  ? "unseen "
+            : Told.state().disabled ? "off "
+                                    : "") +
+               Part->font().key().section(',', 0, 5)
+        << QRect(Part->mapTo(&Form, QPoint()), Part->size()) << Colours.color(Part->foregroundRole()).name() << "on"
+        << Colours.color(Part->backgroundRole()).name();
+  }
+  const QByteArray Text = Found.join('\n').replace(" \n", "\n").trimmed().toUtf8() + '\n';
+  QFile Kept(QStringLiteral(TBK_FORMS "/%1%2.txt").arg(Form.objectName(), State));
+  const bool Keeps = qEnvironmentVariableIsSet("TBK_KEEP_FORMS");
+  ASSERT_TRUE(Kept.open(Keeps ? QIODevice::WriteOnly : QIODevice::ReadOnly)) << Kept.fileName().toStdString();
+  if (Keeps) Kept.write(Text);
+  EXPECT_TRUE(Keeps || Kept.readAll() == Text) << "otherwise than in " << Kept.fileName().toStdString() << ":\n"
+                                               << Text.constData();
+}
+
+/// Every text of a window has the room that it asks for, every stop of the Tab key has a name and shows the focus, and
+/// all is as it was.
+inline void ExpectUsable(QWidget& Form, const QString& State = {}) {
   Form.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&Form, 5000));
   QWidget* const Had = Form.focusWidget();
   if (Had != nullptr) Had->clearFocus();
+  ExpectAsKept(Form, State);
   for (QWidget* Part : Form.findChildren<QWidget*>()) {
     if (!Part->isVisible()) continue;
     SCOPED_TRACE(Part->objectName().toStdString());
@@ -71,6 +103,7 @@ inline void ExpectUsable(QWidget& Form) {
 class Answers : public QObject {
  public:
   Answers() {
+    InstallAccessibility();
     qApp->installEventFilter(this);
     QTimer::singleShot(60000, this, [this] {
       ADD_FAILURE() << "the time is up with " << steps.size() << " windows to come";

@@ -118,6 +118,30 @@ TEST_F(Playing, EveryFaceOfTumblingDiceIsPaintedAtOnce) {
   EXPECT_EQ(Seen.Faces, (std::vector{0, 113, 114, 115, 116, 117, 113})) << "five tumbling, then sorted";
 }
 
+TEST_F(Playing, TheTableIsAsKeptInEveryState) {
+  Start("ShowWelcomeMessage=0\nDieColor=101\n");
+  frmMain& Form = *Run->Form;
+  ExpectAsKept(Form, "-start");
+  Begin(3, false);
+  const auto Roll = [&](std::size_t Tumbling, std::initializer_list<int> Faces) {
+    Dice->Faces.assign(Tumbling, 6);
+    Dice->Faces.insert(Dice->Faces.end(), Faces);
+    Click(Form.cmdRoll);
+    Key('1');
+  };
+  Roll(30, {1, 1, 5, 2, 3, 4});
+  ExpectAsKept(Form, "-turn");
+  ExpectAsKept(*Form.findChild<frmScorePad*>());
+  Click(Form.cmdOptions);
+  ExpectAsKept(Form, "-options");
+  Run->CancelOptions();
+  Roll(35, {1, 2, 3, 4, 5});
+  Run->Controls.lblLastRoll.Caption = "(Last Roll - Need 5050 To Win)";
+  Run->Controls.ShowLastRoll();
+  Form.ShowControls();
+  ExpectAsKept(Form, "-last-turn");
+}
+
 TEST(Scale, MakesNoWindowLargerThanTheScreenNorSmallerThanItIs) {
   const std::tuple<int, QSize, double> Rows[] = {
       {150, {1920, 1080}, 1.5}, {400, {5300, 1120}, 2}, {400, {1590, 5600}, 3}, {200, {800, 480}, 1}};

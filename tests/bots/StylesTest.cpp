@@ -36,15 +36,6 @@ struct PlayingTable : Table {
     Numbers.Faces.assign(Script.begin(), Script.end());
     Players.RunComputerTurn();
   }
-  /// The same, but after the first roll, of six faces, `Change` puts the table into the state to be judged.
-  void PlayFrom(const char* Style, int Banked, std::vector<int> Faces, std::function<void()> Change) {
-    Seat(Style, Banked);
-    Numbers.Faces.assign(Faces.begin(), Faces.end());
-    Screen.OnEvents = [this, Change, Rolled = false]() mutable {
-      if (Numbers.Draws == Dice && !std::exchange(Rolled, true)) Change();
-    };
-    Players.RunComputerTurn();
-  }
 };
 
 /// A turn, told by its dice: it ends with the turn's points banked, or with a bust.
@@ -83,28 +74,6 @@ TEST(Styles, PlayTheirTurnsByTheirNumbers) {
     EXPECT_EQ(table.m.PlayerScore[0] - Row.Banked, Row.Gain) << "points banked";
     EXPECT_THAT(table.TakeLog("box"), testing::Each(testing::Not(testing::HasSubstr("contact")))) << "no guard box";
     EXPECT_EQ(table.m.CurrentPlayer, Row.Out == Absent ? 1 : Absent) << "the turn is over";
-  }
-}
-
-TEST(Styles, StopAtTheirScoresByTheDiceLeft) {
-  const std::pair<const char*, std::array<int, 5>> Rows[] = {{"Cautious", {250, 300, 350, 500, 700}},
-                                                             {"Normal", {350, 400, 450, 600, 900}},
-                                                             {"Fearless", {400, 450, 500, 1100, 1500}}};
-  for (const auto& [Style, StopAt] : Rows) {
-    for (int Left = 1; Left <= 5; ++Left) {
-      for (const int Below : {0, 50}) {
-        const int Points = StopAt[static_cast<std::size_t>(Left - 1)] - Below;
-        PlayingTable table;
-        table.PlayFrom(Style, 1000, {1, 2, 3, 4, 4, 6}, [&] {  // "rp" with `Left` dead dice on the table
-          table.m.TurnScore = static_cast<std::int16_t>(Points);
-          table.m.DieScoreCode.fill(NoDie);
-          std::fill_n(table.m.DieScoreCode.begin(), Left, NoScore);
-          table.m.ActionSet = "rp";
-        });
-        EXPECT_EQ(table.Numbers.Draws == Dice, Below == 0)
-            << Style << " with " << Left << " dice left and " << Points << " points";
-      }
-    }
   }
 }
 
@@ -170,13 +139,17 @@ TEST(Styles, EndWithTheirGameAndReportWhatTheyCannotPlay) {
   };
   for (const auto& Row : Rows) {
     PlayingTable table;
-    table.PlayFrom(Row.Style, 1000, {1, 2, 3, 4, 4, 6}, [&] {
+    table.Seat(Row.Style, 1000);
+    table.Numbers.Faces = {1, 2, 3, 4, 4, 6};
+    table.Screen.OnEvents = [&, Rolled = false]() mutable {
+      if (table.Numbers.Draws < Dice || std::exchange(Rolled, true)) return;
       table.m.ActionSet = Row.Actions;
       table.m.DieScoreCode.fill(Row.Code);
       table.TakeLog();
       table.m.PauseComputer = Row.Paused;
       if (Row.Command) Row.Command(table.game);
-    });
+    };
+    table.Players.RunComputerTurn();
     EXPECT_EQ(table.Told(), Row.Told) << Row.Style;
     EXPECT_FALSE(table.t.picTray1.Enabled) << "the table stays closed";
   }

@@ -5,8 +5,6 @@
 
 namespace blunko::test {
 
-const std::string Question = "ask Quit?: Are you sure you want to quit the current game?";
-
 TEST(FreshGame, ReadsAllSeats) {
   Table table;
   GameSetup Setup;
@@ -132,57 +130,6 @@ TEST(EndGame, TheWordOfTheDialogDecidesWhatFollows) {
   }
 }
 
-/// Whatever touches the dice or may stand beside it: all keys but those of the window, all buttons.
-static void PressDice(Table& table) {
-  for (std::int16_t Key = 0; Key < 128; ++Key) {
-    if (Key != Escape && Key != F2) table.game.Form_KeyUp(Key, 0);
-  }
-  for (const std::int16_t Button : {LeftButton, RightButton}) {
-    for (std::int16_t Index = -1; Index <= 16; ++Index) table.game.PersonClicksDie(Index, Button);
-    for (const int Row : {1, 2}) table.game.PersonClicksTray(Row, Button);
-  }
-  table.game.PersonRolls();
-  table.game.PersonPasses();
-}
-static void PressAll(Table& table) {
-  PressDice(table);
-  table.game.Form_KeyUp(Escape, 0);
-  for (const std::int16_t Shift : {0, 1}) table.game.Form_KeyUp(F2, Shift);
-  table.game.ARCmdNewGame_Click();
-  table.game.Command([&] { table.Screen.Log.push_back("a command of the window"); });
-  EXPECT_FALSE(table.game.PersonCloses());
-}
-
-TEST(Commands, NoneIsCarriedOutWhileAHandlerSleepsOrABoxIsOpen) {
-  const auto PlayAGame = [](bool Pressing) {
-    Table table;
-    const auto Press = [&, Pressing] {
-      if (Pressing) PressAll(table);
-    };
-    table.Screen.OnSleep = table.Screen.OnBox = table.Others.OnDialog = Press;
-    table.Screen.OnEvents = [&] {
-      if (Pressing) PressDice(table);
-    };
-    table.Options.Speed = SpeedNormal;
-    table.Others.OnNewGame = [&] {
-      table.m.FormMessage.clear();
-      table.Begin({"Ann", "Bob"});
-    };
-    table.game.ARCmdNewGame_Click();
-    table.Play("123446 @0 13345 @0 @12 @0 @4 333 @0 123456 @0 222446 @0");
-    table.m.PlayerScore[0] = 4900;
-    table.Play("pass 234623");  // goes out; the next seat's last turn is a bust
-    EXPECT_TRUE(table.m.GameOver);
-    for (const bool Yes : {true, true, false}) {  // the first finds no game, and isn't asked
-      table.Screen.Answer = Yes;
-      table.game.PersonBeginsGame();
-    }
-    table.game.PersonCloses();
-    return table.Told();
-  };
-  EXPECT_EQ(PlayAGame(true), PlayAGame(false));
-}
-
 TEST(Commands, NobodyTouchesTheDiceOfAComputerOrOfAClosedTable) {
   for (const char* Closing : {"computer", "given up", "options"}) {
     Table table;
@@ -191,7 +138,7 @@ TEST(Commands, NobodyTouchesTheDiceOfAComputerOrOfAClosedTable) {
     if (*Closing == 'g') table.game.PersonBeginsGame();
     if (*Closing == 'o') table.t.picGameTray.Enabled = false;
     table.TakeLog();
-    PressDice(table);
+    table.PressDice();
     EXPECT_EQ(table.Told(), "") << Closing;
     EXPECT_EQ(table.m.TurnScore, 100) << Closing;
   }

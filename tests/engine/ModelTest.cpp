@@ -13,6 +13,13 @@ class Masher : NumberSource {
  public:
   explicit Masher(std::uint64_t Seed) : chance(Seed) {
     table.Others.OnNewGame = [this] { Begin(); };
+    table.Screen.OnSleep = table.Screen.OnBox = table.Others.OnDialog = [this] {
+      if (Any(16) == 0) table.PressAll();
+    };
+    table.Screen.OnEvents = [this] {
+      if (Any(16) == 0) table.PressDice();
+    };
+    table.Screen.Answer = false;
   }
 
   void Press() {
@@ -20,11 +27,12 @@ class Masher : NumberSource {
     different = 1 + chance() % 6, strays = Any(6);
     drawn.clear();
     sheet.Told.clear();
-    const int Die = Any(6), Way = Any(4), Kind = Any(32);
+    const int Die = Any(6), Way = Any(4), Kind = Any(33);
     if (sheet.OnTurn == Model::Nobody) game.PersonBeginsGame(), sheet.Told = {"new game"};
     if (Kind == 0) return Click(10 + Die, LeftButton), sheet.Undo(static_cast<std::size_t>(Die));
     if (Kind == 1) return Type(Backspace), sheet.Undo(sheet.Frozen);
-    Kind == 2 ? Pass(Way) : Kind < 17 ? Roll(Die, Way) : Take(Die, Way);
+    if (Kind == 2) return Type(F2), static_cast<void>(sheet.Told.insert(sheet.Told.end(), {"beep", Question}));
+    Kind == 3 ? Pass(Way) : Kind < 18 ? Roll(Die, Way) : Take(Die, Way);
   }
   /// What the game shows or keeps otherwise than the rules have it; empty if nothing is.
   std::string Difference() {

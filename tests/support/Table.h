@@ -10,8 +10,11 @@
 #include <vector>
 
 #include "engine/Game.h"
+#include "engine/KeyCodes.h"
 
 namespace blunko::test {
+
+const std::string Question = "ask Quit?: Are you sure you want to quit the current game?";
 
 /// Dice that fall as told. Beyond the script no roll scores: every turn comes to its end.
 class ScriptedDice : public NumberSource {
@@ -213,6 +216,26 @@ struct Table {
         game.Command([this] { game.cmdRoll_Click(); });
       }
     }
+  }
+  /// Whatever touches the dice or may stand beside it: all keys but those of the window, all buttons.
+  void PressDice() {
+    for (std::int16_t Key = 0; Key < 128; ++Key) {
+      if (Key != Escape && Key != F2) game.Form_KeyUp(Key, 0);
+    }
+    for (const std::int16_t Button : {LeftButton, RightButton}) {
+      for (std::int16_t Index = -1; Index <= 16; ++Index) game.PersonClicksDie(Index, Button);
+      for (const int Row : {1, 2}) game.PersonClicksTray(Row, Button);
+    }
+    game.PersonRolls();
+    game.PersonPasses();
+  }
+  void PressAll() {
+    PressDice();
+    for (const std::int16_t Shift : {0, 1}) game.Form_KeyUp(F2, Shift);
+    game.Form_KeyUp(Escape, 0);
+    game.ARCmdNewGame_Click();
+    game.Command([this] { Screen.Log.push_back("a command of the window"); });
+    if (game.PersonCloses()) Screen.Log.push_back("closed");
   }
   /// Ends the turn of the seat on turn with so many points banked.
   void Bank(int Points) {

@@ -1,8 +1,6 @@
 #include <QAction>
 #include <QMenu>
 
-#include <random>
-
 #include "table/KeyCodes.h"
 #include "tests/table/TableForm.h"
 
@@ -134,34 +132,6 @@ TEST_F(TheTable, AButtonThatGoesOffLeavesTheFocusToTheTable) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_NE(QApplication::focusWidget(), &Form) << "Tab stops on what is seen";
   }
-}
-
-TEST_F(TheTable, ShowsTheRecordAfterEveryHandler) {
-  constexpr Qt::Key Keys[] = {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4,         Qt::Key_5,      Qt::Key_6,
-                              Qt::Key_R, Qt::Key_P, Qt::Key_R, Qt::Key_Backspace, Qt::Key_Escape, Qt::Key_F2};
-  std::mt19937 Chance(20);
-  const auto Draw = [&Chance](int Below) { return static_cast<int>(Chance() % static_cast<unsigned>(Below)); };
-  int Games = 0;
-  Others.OnCongrats = [&] { m.FormMessage = Draw(2) == 0 ? "SameGame" : "DifferentGame"; };
-  Others.OnNewGame = [&] {
-    ++Games;
-    if (Draw(4) != 0) Table::Begin({"Ann", "Bob"});
-  };
-  for (int i = 0; i < 3000; ++i) {
-    while (Numbers.Faces.size() < 200) Numbers.Faces.push_back(Draw(6) + 1);
-    Screen.Answer = Draw(8) == 0;
-    switch (Draw(4)) {
-      case 0: QTest::mouseClick(Box(Draw(6) + 10 * Draw(2)), Draw(3) == 0 ? Qt::RightButton : Qt::LeftButton); break;
-      case 1: QTest::mouseClick(Form.cmdRoll, Qt::LeftButton); break;
-      case 2:
-        if (Form.ARCmdNewGame->isVisible()) QTest::mouseClick(Form.ARCmdNewGame, Qt::LeftButton);
-        break;
-      default: QTest::keyClick(&Form, Keys[Draw(std::size(Keys))]); break;
-    }
-    m.Quitting = false;
-    ASSERT_EQ(Difference(Form, t), "") << "after command " << i;
-  }
-  EXPECT_GT(Games, 5);
 }
 
 TEST(KeyCodes, CountByThePlaceOnlyWhereThePlacesAreKnown) {
