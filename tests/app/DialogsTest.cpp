@@ -169,9 +169,6 @@ TEST_F(TheProgram, GreetsOnceAndTheHelpOutlivesTheWelcomeAndGoesWithTheGame) {
   EXPECT_TRUE(Help->isVisible());
   QTest::keyClick(Help, Qt::Key_Escape);
   EXPECT_FALSE(Help->isVisible() || Run->State.Quitting) << "Escape was the help's";
-  Run->Form->hide();
-  Run->Form->show();
-  QTest::qWait(60);
   Run->ShowHelpTopic(QStringLiteral("Overview.htm"));
   Run->Form->close();
   EXPECT_FALSE(Help->isVisible());

@@ -1,11 +1,10 @@
 #include <QMenu>
-#include <QTcpServer>
-#include <QTcpSocket>
 
 #include <algorithm>
 
 #include "app/Scale.h"
 #include "tests/app/Run.h"
+#include "tests/support/Server.h"
 
 namespace blunko::test {
 
@@ -161,27 +160,16 @@ TEST_F(TheProgram, AsksItsQuestionsAtTheFirstStartAndForTheVersionNowAndThen) {
       {"nn", 0, "", Version},
       {"", 5, "", ""},
       {"yo", 1, "1.0.0\n", "You have the latest version."},
-      {"yn", 1, "1.0.1\n", Newer},
       {"yy", 1, "1.0.1\n", Newer, false},
       {"yo", 1, "<html>404", "An error has occurred. Please try again later."},
   };
-  QByteArray Newest;
-  QTcpServer Server;
-  ASSERT_TRUE(Server.listen(QHostAddress::LocalHost));
-  QObject::connect(&Server, &QTcpServer::newConnection, &Server, [&] {
-    QTcpSocket* Socket = Server.nextPendingConnection();
-    QObject::connect(Socket, &QTcpSocket::readyRead, Socket, [&, Socket] {
-      Socket->write("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n" + Newest);
-      Socket->disconnectFromHost();
-    });
-  });
   for (const auto& Row : Rows) {
     SCOPED_TRACE(&Row - Rows);
     const Shell Browser;
-    Newest = Row.Newest;
     if (Row.Drawn == 0) QFile::remove(Folder.Path("game.ini"));
     Create();
-    Run->Util = TbkUtil(QStringLiteral("http://127.0.0.1:%1/version.txt").arg(Server.serverPort()), 3000);
+    std::optional<Server> Web;
+    if (*Row.Newest != '\0') Run->Util = TbkUtil(Web.emplace(Ok + "\r\n" + Row.Newest).Address, Patience);
     Dice->Faces = {Row.Drawn};
     for (const char Answer : std::string_view(Row.Answers)) {
       Next.Press(Answer == 'y' ? &GameBox::cmdYes : Answer == 'n' ? &GameBox::cmdNo : &GameBox::cmdOK);

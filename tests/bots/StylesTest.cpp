@@ -38,20 +38,12 @@ struct PlayingTable : Table {
   }
 };
 
-/// A turn, told by its dice: it ends with the turn's points banked, or with a bust.
-struct StyleRow {
-  const char* Style;
-  const char* Why;
-  const char* Faces;
-  int Banked;  ///< of the seat before the turn
-  int Gain;    ///< what the turn adds
-  int DiceDrawn;
-  int OpponentBanked = 0;
-  int Out = Absent;
-};
-
+/// Points of the seat before its turn, what the turn adds, and the dice that it draws.
 TEST(Styles, PlayTheirTurnsByTheirNumbers) {
-  const StyleRow Rows[] = {
+  const struct {
+    const char *Style, *Why, *Faces;
+    int Banked, Gain, DiceDrawn, OpponentBanked = 0, Out = Absent;
+  } Rows[] = {
       {"Simple", "takes all, passes at 400", "115553", 500, 700, 6},
       {"Simple", "350 isn't enough: rolls the one die left and busts", "1151133", 500, 2050, 6},
       {"Moron", "takes the first scorer and passes", "134622", 500, 100, 6},
@@ -66,7 +58,7 @@ TEST(Styles, PlayTheirTurnsByTheirNumbers) {
       {"Genius", "1000 behind plays Normal: 400 with two dice left passes", "333146", 1000, 400, 6, 2000},
       {"Genius", "1050 behind plays Fearless: it rolls them", "33314623", 1000, 0, 8, 2050},
   };
-  for (const StyleRow& Row : Rows) {
+  for (const auto& Row : Rows) {
     SCOPED_TRACE(std::string(Row.Style) + ": " + Row.Why);
     PlayingTable table;
     table.PlayTurn(Row.Style, Row.Faces, Row.Banked, Row.OpponentBanked, Row.Out);

@@ -86,20 +86,6 @@ TEST(PassDice, ABustIsShown) {
   }
 }
 
-TEST(PassDice, TheLastRollFlashes) {
-  for (const std::string Beep : {"", "beep; "}) {
-    Table table;
-    table.Screen.TellsAll = true;
-    table.Options.Silent = Beep.empty();
-    table.Begin({"Ann", "Bob"});
-    table.Bank(5000);
-    const std::string Shown = "last roll (Last Roll - Need 5050 To Win)^3105; ", Told = table.Told();
-    const std::string Again = "sleep 200; last roll ^3105; sleep 200; " + Beep + Shown;
-    EXPECT_EQ(Told.substr(Told.find("last roll")),
-              "last roll ^3105; " + Beep + "status ; " + Shown + Again + Again + "status Roll the dice.; buttons roll");
-  }
-}
-
 TEST(EndGame, TheWordOfTheDialogDecidesWhatFollows) {
   constexpr int Bust = -1;
   const struct {

@@ -44,14 +44,14 @@ def start(program, **environment):
                                             "SDL_AUDIODRIVER": "dummy", **environment})
 
 
-def wait_for(find, why, limit=30):
+def wait_for(find, why, limit=30, fail=sys.exit):
     end = time.time() + limit
     while time.time() < end:
         found = find()
         if found:
             return found
         time.sleep(0.05)
-    sys.exit(f"waited in vain for {why}; heard: {heard}")
+    fail(f"waited in vain for {why}; heard: {heard}")
 
 
 def everything(node):

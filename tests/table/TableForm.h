@@ -40,9 +40,4 @@ struct TableForm : Table {
   DieBox* Box(int Index) { return Form.Picture1[static_cast<std::size_t>(Index < 10 ? Index : Index - 4)]; }
 };
 
-/// Where a picture has exactly this colour.
-inline QRegion Drawn(const QPixmap& Picture, const QColor& Colour) {
-  return QRegion(Picture.createMaskFromColor(Colour, Qt::MaskOutColor));
-}
-
 }  // namespace blunko::test

@@ -22,10 +22,7 @@ TEST_F(TheTable, ClicksAndKeysReachTheGame) {
   const std::tuple<const char*, Input, int> Rows[] = {
       // with the score afterwards
       {"beside the dice", Beside(Form.picTray1, Qt::LeftButton), 0},
-      {"an empty slot", Click(12, Qt::LeftButton), 0},
-      {"a die that doesn't score", Click(1, Qt::LeftButton), 0},
       {"a scorer", Click(0, Qt::LeftButton), 100},
-      {"its empty place", Click(0, Qt::LeftButton), 100},
       {"the tray die", Click(10, Qt::LeftButton), 0},
       {"a digit", Key(Qt::Key_1), 100},
       {"Backspace", Key(Qt::Key_Backspace), 0},
@@ -157,7 +154,7 @@ TEST_F(TheTable, NoTextIsCut) {
     t.lblStatus.Caption = Status;
     Form.ShowControls();
     for (FitLabel* Label : Form.picGameTray->findChildren<FitLabel*>()) {
-      const QRect Ink = Drawn(Label->grab(), Qt::red).boundingRect();
+      const QRect Ink = QRegion(Label->grab().createMaskFromColor(Qt::red, Qt::MaskOutColor)).boundingRect();
       const bool Whole = Ink.width() > 4 && Label->rect().adjusted(0, 0, -1, 0).contains(Ink);
       EXPECT_TRUE(Whole || Label->text().isEmpty()) << Label->objectName().toStdString();
     }

@@ -1,44 +1,15 @@
 #include <QDeadlineTimer>
 #include <QRegularExpression>
-#include <QTcpServer>
-#include <QTcpSocket>
 
-#include <future>
 #include <gtest/gtest.h>
-#include <thread>
 
 #include "tests/support/Place.h"
+#include "tests/support/Server.h"
 #include "util/TbkUtil.h"
 
 namespace blunko::test {
 
-constexpr int Limit = 400;      // ms, for a server that never comes to an end
-constexpr int Patience = 5000;  // ms: a loaded machine may be late, but not for ever
-const QByteArray Ok = "HTTP/1.1 200 OK\r\n";
-
-/// On loopback, answers with `Begin` and hangs up; `Stays` on the line instead, sending `More` for ever.
-class Server {
-  std::promise<quint16> port;
-  std::jthread thread;
-
- public:
-  explicit Server(const QByteArray& Begin, bool Stays = false, const QByteArray& More = {})
-      : thread([=, this](const std::stop_token& Stop) {
-          QTcpServer Tcp;
-          if (!Tcp.listen(QHostAddress::LocalHost)) abort();
-          port.set_value(Tcp.serverPort());
-          if (!Tcp.waitForNewConnection(Patience)) return;
-          QTcpSocket* const Client = Tcp.nextPendingConnection();
-          Client->waitForReadyRead(Patience);
-          Client->readAll();
-          Client->write(Begin);
-          do Client->write(More);
-          while ((Client->waitForBytesWritten(Patience) || !Client->waitForReadyRead(5)) && Stays &&
-                 !Stop.stop_requested());
-        }) {}
-  const QByteArray Address = "http://127.0.0.1:" + QByteArray::number(port.get_future().get()) + "/version.txt";
-};
-
+constexpr int Limit = 400;  // ms, for a server that never comes to an end
 static TbkUtil::VersionAnswer Ask(const QString& Address, int TimeLimit = 10 * Patience) {
   return TbkUtil(Address, TimeLimit).UtilCheckVersion(1, 9, 3);
 }
