@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <future>
 
 #include "Links.h"
 #include "app/Accessibility.h"
@@ -36,9 +37,15 @@ std::int16_t To16Bits(int LogicalPixels) {
 }
 
 /// From pictures, not from the drawing, and none larger than windows show: that would cost a tenth of the start.
-QIcon GameIcon() {
+QList<QImage> IconPictures() {
+  QList<QImage> All;
+  for (const int Side : {16, 24, 32, 48, 64}) All.append(QImage(QStringLiteral(":/icons/%1.png").arg(Side)));
+  return All;
+}
+
+QIcon GameIcon(const QList<QImage>& Pictures) {
   QIcon Icon;
-  for (const int Side : {16, 24, 32, 48, 64}) Icon.addPixmap(QPixmap(QStringLiteral(":/icons/%1.png").arg(Side)));
+  for (const QImage& Picture : Pictures) Icon.addPixmap(QPixmap::fromImage(Picture));
   return Icon;
 }
 
@@ -60,16 +67,20 @@ Application::~Application() = default;
 
 bool Application::Main() {
   InstallAccessibility();
-  QApplication::setWindowIcon(GameIcon());
+  auto Pictures = std::async(IconPictures);  // while the window is built
+  const auto ShowIcon = [&Pictures] { QApplication::setWindowIcon(GameIcon(Pictures.get())); };
   State.HelpFile = folders.Shipped(QStringLiteral("help")).toStdString();
   State.PlayToScore = static_cast<std::int16_t>(Settings.ReadPlayToScore());
   State.BreakInScore = static_cast<std::int16_t>(Settings.ReadBreakInScore());
   Util.UtilSetFolder(QFileInfo(folders.ListsPath()).path());
   StartQuestions Questions(Settings, Screen, Util);
   const bool FirstStart = !Settings.Scanned();
-  Questions.SurveyHardware();
   const bool Asks = FirstStart || Numbers->UtilRandom(LaterStartsPerVersionCheck) == 1;
-  if (Asks && !Questions.CheckForUpdate()) return false;
+  if (Asks) {
+    ShowIcon();
+    Questions.SurveyHardware();
+    if (!Questions.CheckForUpdate()) return false;
+  }
   State.Quitting = false;
   Uniform = UniformGenerator(static_cast<std::uint64_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000));
   State.PauseComputer = false;
@@ -77,6 +88,7 @@ bool Application::Main() {
   ExtractSounds(folders.Temp);
   LoadForm();
   Table.ClearAtStart();
+  if (!Asks) ShowIcon();
   Form->show();
   return true;
 }
