@@ -135,7 +135,7 @@ TEST(Welcome, TheBoxIsKeptAtOnceAndClosingTellsOfIt) {
     if (*Stored != '\0') At.Info.WriteInfoValue(ShowWelcomeMessageKey, QLatin1String(Stored));
     frmWelcome Form(At.Info, At.Screen, nullptr);
     Form.show();
-    ExpectUsable(Form);
+    ExpectUsable(Form, Form.lblCheck->isChecked() ? "-ticked" : "");
     EXPECT_EQ(Form.lblCheck->isChecked(), *Stored == '\0' || *Stored == '1');
     for (int i = 0; i < Clicks; ++i) Click(i % 2 == 0 ? static_cast<QWidget*>(Form.lblShowWelcome) : Form.lblCheck);
     EXPECT_EQ(At.Info.ReadInfoValue(ShowWelcomeMessageKey), QLatin1String(Kept)) << "before it closes";

@@ -52,20 +52,21 @@ inline void ExpectAsKept(QWidget& Form, const QString& State = {}) {
     const QPalette& Colours = Part->palette();
     QDebug(&Found.emplace_back()).noquote()
         << Part->objectName() << Told.role() << '"' + Told.text(QAccessible::Name) + '"'
-        << (Told.state().invisible  ? "unseen "
-            : Told.state().disabled ? "off "
-                                    : "") +
-               Part->font().key().section(',', 0, 5)
-        << QRect(Part->mapTo(&Form, QPoint()), Part->size()) << Colours.color(Part->foregroundRole()).name() << "on"
-        << Colours.color(Part->backgroundRole()).name();
+        << Told.text(QAccessible::Description) << (Told.state().invisible ? "unseen" : "")
+        << (Told.state().disabled ? "off" : "") << (Told.state().checked ? "checked" : "")
+        << QRect(Part->mapTo(&Form, QPoint()), Part->size()) << Part->font().key().section(',', 0, 5)
+        << Colours.color(Part->foregroundRole()).name() << "on" << Colours.color(Part->backgroundRole()).name();
   }
-  const QByteArray Text = Found.join('\n').replace(" \n", "\n").trimmed().toUtf8() + '\n';
+  for (QString& Line : Found) Line = Line.simplified();
+  const QByteArray Text = Found.join('\n').toUtf8() + '\n';
   QFile Kept(QStringLiteral(TBK_FORMS "/%1%2.txt").arg(Form.objectName(), State));
   const bool Keeps = qEnvironmentVariableIsSet("TBK_KEEP_FORMS");
   ASSERT_TRUE(Kept.open(Keeps ? QIODevice::WriteOnly : QIODevice::ReadOnly)) << Kept.fileName().toStdString();
-  if (Keeps) Kept.write(Text);
-  EXPECT_TRUE(Keeps || Kept.readAll() == Text) << "otherwise than in " << Kept.fileName().toStdString() << ":\n"
-                                               << Text.constData();
+  if (Keeps) {
+    Kept.write(Text);
+  } else {
+    EXPECT_EQ(Kept.readAll().toStdString(), Text.toStdString()) << Kept.fileName().toStdString();
+  }
 }
 
 /// Every text of a window has the room that it asks for, every stop of the Tab key has a name and shows the focus, and
