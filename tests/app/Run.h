@@ -18,6 +18,7 @@
 
 #include "app/Accessibility.h"
 #include "app/Application.h"
+#include "storage/FileAccess.h"
 #include "tests/support/Place.h"
 #include "tests/support/Table.h"
 #include "widgets/Boxes.h"
@@ -58,15 +59,10 @@ inline void ExpectAsKept(QWidget& Form, const QString& State = {}) {
         << Colours.color(Part->foregroundRole()).name() << "on" << Colours.color(Part->backgroundRole()).name();
   }
   for (QString& Line : Found) Line = Line.simplified();
-  const QByteArray Text = Found.join('\n').toUtf8() + '\n';
-  QFile Kept(QStringLiteral(TBK_FORMS "/%1%2.txt").arg(Form.objectName(), State));
-  const bool Keeps = qEnvironmentVariableIsSet("TBK_KEEP_FORMS");
-  ASSERT_TRUE(Kept.open(Keeps ? QIODevice::WriteOnly : QIODevice::ReadOnly)) << Kept.fileName().toStdString();
-  if (Keeps) {
-    Kept.write(Text);
-  } else {
-    EXPECT_EQ(Kept.readAll().toStdString(), Text.toStdString()) << Kept.fileName().toStdString();
-  }
+  const std::string Text = Found.join('\n').toStdString() + '\n';
+  const QString Kept = QStringLiteral(TBK_FORMS "/%1%2.txt").arg(Form.objectName(), State);
+  if (qEnvironmentVariableIsSet("TBK_KEEP_FORMS")) ReplaceFile(Kept, Text.c_str());
+  EXPECT_EQ(ReadWholeFile(Kept, 1 << 20).value_or("").toStdString(), Text) << Kept.toStdString();
 }
 
 /// Every text of a window has the room that it asks for, every stop of the Tab key has a name and shows the focus, and

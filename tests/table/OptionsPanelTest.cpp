@@ -109,6 +109,16 @@ TEST(OptionsPanel, TrayColoursFollowTheMomentAtWhichASetIsPainted) {
   }
 }
 
+TEST(DiceSets, HaveTheNumbersAndTrayColoursOfEver) {
+  std::uint64_t Signature = 0;
+  for (int Base = 0; Base < 256; ++Base) {
+    const DiceSet* Set = FindDiceSet(Base);
+    if (Set == nullptr) continue;
+    for (const QRgb Part : {QRgb(Base), Set->Start, Set->Open, Set->Pick}) Signature = 31 * Signature + Part;
+  }
+  EXPECT_EQ(Signature, 12293979631036369994U);
+}
+
 TEST(OptionsPanel, DiceOfARunningGameComeBackInTheChosenSetWithTheChosenMarks) {
   const std::tuple<const char*, const char*, int, bool> Rows[] = {
       {"none set aside", "152344", 0, true},
