@@ -233,10 +233,7 @@ void Application::ExitProgram() {
   QCoreApplication::exit();
 }
 
-void Application::CustomizeSounds() {
-  QWidget* const Active = QApplication::activeWindow();
-  frmCustomizeSounds(State.FormMessage, Settings, Screen, Active != nullptr ? Active : Form.get()).exec();
-}
+void Application::CustomizeSounds() { frmCustomizeSounds(State.FormMessage, Settings, Screen, Form.get()).exec(); }
 
 void Application::Abort() { std::_Exit(EXIT_FAILURE); }
 

@@ -39,13 +39,9 @@ void QtDesktop::PlaySoundFile(const std::string& File, bool Always) {
   if (Always || !options.SoundDisabled()) player.Play(QFile::decodeName(QByteArray::fromStdString(File)));
 }
 
-void QtDesktop::MessageBox(const std::string& Text) {
-  Refresh();
-  ShowMessage(form, QString::fromStdString(Text));
-}
+void QtDesktop::MessageBox(const std::string& Text) { ShowMessage(form, QString::fromStdString(Text)); }
 
 bool QtDesktop::AskYesNo(const std::string& Text, const std::string& Title) {
-  Refresh();
   return AskQuestion(form, QString::fromStdString(Text), QString::fromStdString(Title));
 }
 

@@ -8,8 +8,7 @@ namespace blunko {
 class frmMain;
 class Sounds;
 
-/// The real desktop. The screen changes only here: before each wait, and whenever events are delivered, the controls
-/// are copied to the widgets.
+/// The real desktop. Before each wait, and whenever events are delivered, the controls are copied to the widgets.
 class QtDesktop : public Desktop {
  public:
   QtDesktop(Sounds& Player, const GameOptions& Options) : player(Player), options(Options) {}

@@ -74,14 +74,14 @@ void frmCustomizeSounds::LayOut() {
   Places->setContentsMargins(12, 10, 12, 10);
   Places->setHorizontalSpacing(12);
   Places->setVerticalSpacing(4);
-  Places->addWidget(MakeText(this, {}, "Event:", font(), Left), 0, 0);
+  Places->addWidget(MakeText(this, "lblEvent", "Event:", font(), Left), 0, 0);
   Places->addWidget(lstEvents, 1, 0);
   Places->setRowMinimumHeight(2, 4);
-  Places->addWidget(MakeText(this, {}, "Sound:", font(), Left), 3, 0);
+  Places->addWidget(MakeText(this, "lblSound", "Sound:", font(), Left), 3, 0);
   Places->addWidget(txtSound, 4, 0);
   Places->addLayout(Buttons, 1, 1, 4, 1);
   Places->setRowMinimumHeight(5, 4);
-  Places->addWidget(MakeText(this, {}, "[Hit Backspace to restore defaults]", font()), 6, 0, 1, 2);
+  Places->addWidget(MakeText(this, "lblHint", "[Hit Backspace to restore defaults]", font()), 6, 0, 1, 2);
   Places->setSizeConstraint(QLayout::SetFixedSize);
 }
 

@@ -29,7 +29,7 @@ constexpr int OffsetLeft = 500, OffsetTop = 1550;      // twips, from the table'
 template <std::size_t Count>
 QGroupBox* MakeChoice(QWidget* Form, const QString& Caption, std::array<QRadioButton*, Count>& Options,
                       const QString& Name, const QStringList& Captions, int Columns) {
-  auto* Frame = new QGroupBox(Caption, Form);
+  auto* Frame = Make<QGroupBox>(Form, "fra" + Name, Caption);
   auto* Places = new QGridLayout(Frame);
   Places->setContentsMargins(0, 4, 0, 4);
   Places->setHorizontalSpacing(0);
@@ -84,9 +84,9 @@ QLayout* frmNewGame::BuildSeats() {
   Seats->setColumnStretch(0, 1);
   const QString Headings[] = {"Name", "Computer Player?", "Computer Style"};
   for (int Column = 0; Column < 3; ++Column) {
-    Seats->addWidget(
-        MakeText(this, {}, Headings[Column], FontOf(Typeface::Verdana, 8.25, true), Qt::AlignLeft | Qt::AlignBottom), 0,
-        Column);
+    Seats->addWidget(MakeText(this, QStringLiteral("lblHeading%1").arg(Column), Headings[Column],
+                              FontOf(Typeface::Verdana, 8.25, true), Qt::AlignLeft | Qt::AlignBottom),
+                     0, Column);
   }
   for (int i = 0; i < MaxSeats; ++i) {
     BuildSeat(i);

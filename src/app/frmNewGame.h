@@ -11,7 +11,6 @@
 
 class QCheckBox;
 class QComboBox;
-class QGroupBox;
 class QLayout;
 class QLineEdit;
 class QRadioButton;

@@ -13,7 +13,6 @@ namespace blunko {
 namespace {
 
 constexpr int SmallestWidth = 370;  // px
-const QColor ButtonColour(159, 202, 255);
 
 }  // namespace
 
@@ -39,7 +38,6 @@ frmViewHRListYN::frmViewHRListYN(std::string& FormMessage, Desktop& Screen, cons
   lblCheck = Make<TickBox>(this, "lblCheck");
   lblDontAsk = MakeWordsOf(lblCheck, "lblDontAsk", "Don't ask me this again today.");
   connect(lblCheck, &QAbstractButton::clicked, this, &frmViewHRListYN::lblCheck_Click);
-  for (ButtonPlus* Button : {cmdYes, cmdNo}) Button->setBackColor(ButtonColour);
   FixButtonColours(*this);
   LayOut();
   cmdYes->setFocus();

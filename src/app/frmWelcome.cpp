@@ -49,7 +49,7 @@ void frmWelcome::LayOut() {
   auto* Column = new QVBoxLayout(this);
   Column->setContentsMargins(14, 14, 14, 14);  // no wider than the table
   Column->setSpacing(6);
-  auto* Dice = new SvgBox(":/art/welcome.svg", this);
+  auto* Dice = Make<SvgBox>(this, "picDice", QStringLiteral(":/art/welcome.svg"));
   Dice->setFixedSize(Dice->sizeHint());
   Column->addWidget(Dice, 0, Qt::AlignCenter);
   Column->addWidget(Label1);

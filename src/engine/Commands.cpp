@@ -89,12 +89,14 @@ void Game::Form_KeyUp(std::int16_t KeyCode, std::int16_t Shift) {
   }
 }
 
+bool Game::MayQuitGame() {
+  desktop.Beep();
+  return desktop.AskYesNo("Are you sure you want to quit the current game?", "Quit?");
+}
+
 bool Game::Form_Unload() {
   if (m.Quitting) return true;
-  if (m.CurrentPlayer != Absent) {
-    desktop.Beep();
-    if (!desktop.AskYesNo("Are you sure you want to quit the current game?", "Quit?")) return false;
-  }
+  if (m.CurrentPlayer != Absent && !MayQuitGame()) return false;
   m.Quitting = true;
   program.ExitProgram();
   return true;

@@ -1,5 +1,5 @@
 #include <algorithm>
-#include <utility>
+#include <functional>
 
 #include "engine/Game.h"
 

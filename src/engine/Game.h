@@ -16,7 +16,7 @@
 
 namespace blunko {
 
-/// Buttons of the mouse, and key codes, as the handlers take them.
+/// Buttons of the mouse, and the Shift key, as the handlers take them.
 inline constexpr std::int16_t LeftButton = 1;
 inline constexpr std::int16_t RightButton = 2;
 inline constexpr std::int16_t ShiftAlone = 1;
@@ -62,6 +62,7 @@ class Game {
   void mnuNewGame_Click();
   /// The program ends, unless the person, asked while a game runs, wants to play on. False: play goes on.
   bool Form_Unload();
+  bool MayQuitGame();
 
   // Commands of a person. These look first whether the table takes them at the moment.
   void PersonClicksDie(std::int16_t Index, std::int16_t Button);

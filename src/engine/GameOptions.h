@@ -23,12 +23,15 @@ class GameOptions {
   virtual const std::string& GetSound(std::string_view Name) const = 0;
 };
 
+/// Base number of the set with which the game comes: Antique.
+inline constexpr int DefaultDiceSet = 112;
+
 /// Options as plain values, for games without a settings file.
 struct PlainOptions : GameOptions {
   int Speed = SpeedRidiculous;
   bool Sort = true;
   bool Mark = true;
-  int Colour = 112;
+  int Colour = DefaultDiceSet;
   bool Silent = false;
   std::string Sound;
 

@@ -26,7 +26,7 @@ void Game::FreshGame(const GameSetup& Setup) {
     m.PlayerName[i] = Seat.Name;
     m.PlayerIsComputer[i] = Seat.IsComputer;
     m.PlayerScore[i] = 0;
-    if (Seat.Style >= Normal && Seat.Style <= Moron) m.PlayerStyle[i] = Seat.Style;
+    if (Seat.Style >= Normal && Seat.Style <= StyleWords.size()) m.PlayerStyle[i] = Seat.Style;
   }
   t.lblPlayer.Caption = m.PlayerName[0];
   ClearDice();
@@ -57,9 +57,9 @@ void Game::FreshGame(const GameSetup& Setup) {
 void Game::mnuNewGame_Click() {
   desktop.PumpEvents();
   if (m.CurrentPlayer != Absent) {
-    desktop.Beep();
-    if (m.FormMessage != "RestartGame" &&
-        !desktop.AskYesNo("Are you sure you want to quit the current game?", "Quit?")) {
+    if (m.FormMessage == "RestartGame") {
+      desktop.Beep();
+    } else if (!MayQuitGame()) {
       return;
     }
     GiveUpGame();

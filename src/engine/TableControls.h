@@ -22,7 +22,6 @@ struct Panel {
 };
 
 struct PictureBox {
-  int Picture = 0;  ///< number of the bitmap, 0 for none
   bool Visible = true;
   int Left = 0;  ///< twips
 };
@@ -58,7 +57,7 @@ struct TableControls {
   Panel picTray2;
   DieBoxes Picture1;                ///< bitmap numbers, 0 for an empty box
   std::array<bool, 6> picMarker{};  ///< visible marks over the table positions
-  PictureBox pctDivider{198, false, 0};
+  PictureBox pctDivider{false, 0};
   bool Rolling = false;  ///< the dice are in the air: what they show doesn't count yet
   bool Busted = false;   ///< the dice on the table are lost, and pale
 

@@ -110,7 +110,6 @@ class Sounds::Player {
   bool Open();
   void Close();
   QByteArray InDeviceForm(const QByteArray& File) const;
-  void Play(const QByteArray& Sound);
   void WaitForEnd(std::unique_lock<std::mutex>& Lock, Clock::time_point Latest);
   bool HasDevice() const { return sdl.GetAudioDeviceStatus(device) != SDL_AUDIO_STOPPED; }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "engine/GameOptions.h"
 #include "sound/SoundEvents.h"
 #include "storage/Numbers.h"
 
@@ -25,7 +26,6 @@ const QString MarkScorersKey = QStringLiteral("MarkScorers");
 constexpr std::array<std::uint32_t, 8> TextColours{0x000000, 0x0000FF, 0x00FF00, 0x00FFFF,
                                                    0xFF0000, 0xFF00FF, 0xFFFF80, 0xFFFFFF};
 constexpr int White = 7;
-constexpr int DefaultDice = 112;
 
 const SoundEvent* FindEvent(std::string_view Name) {
   const auto Found = std::find_if(SoundEvents.begin(), SoundEvents.end(),
@@ -57,11 +57,6 @@ void GameSettings::setScanned(bool Value) {
   WriteFlag(ScannedKey, Value);
 }
 
-void GameSettings::setShowWelcome(bool Value) {
-  showWelcome = Value;
-  WriteFlag(ShowWelcomeMessageKey, Value);
-}
-
 void GameSettings::setDieColour(std::int16_t Base) {
   dieColour = Base;
   OwnInfo.WriteInfoValue(DieColorKey, QString::number(Base));
@@ -72,11 +67,6 @@ int GameSettings::TextColourIndex() const { return IndexOfColour(textColour); }
 void GameSettings::setTextColourIndex(int Index) {
   textColour = ColourOfIndex(Index);
   OwnInfo.WriteInfoValue(TextColorKey, QString::number(Index));
-}
-
-void GameSettings::setTextColour(std::uint32_t Colour) {
-  textColour = Colour;
-  OwnInfo.WriteInfoValue(TextColorKey, QString::number(IndexOfColour(Colour)));
 }
 
 void GameSettings::setBackground(const QString& Path) {
@@ -153,8 +143,8 @@ void GameSettings::LoadSounds() {
 }
 
 void GameSettings::LoadAppearance() {
-  dieColour = LeadingNumber(OwnInfo.ReadInfoValue(DieColorKey, QString::number(DefaultDice)));
-  if (dieColour <= 0) dieColour = DefaultDice;  // below 0 a die could have the picture of none
+  dieColour = LeadingNumber(OwnInfo.ReadInfoValue(DieColorKey, QString::number(DefaultDiceSet)));
+  if (dieColour <= 0) dieColour = DefaultDiceSet;  // below 0 a die could have the picture of none
 
   background = QFile::decodeName(OwnInfo.ReadInfoPath(BackgroundKey, QFile::encodeName(DefaultBackground())));
   if (background != NoBackground && !FileExists(background)) {

@@ -35,13 +35,11 @@ class GameSettings {
   bool Scanned() const { return scanned; }
   void setScanned(bool Value);
   bool ShowWelcome() const { return showWelcome; }
-  void setShowWelcome(bool Value);
   std::int16_t DieColour() const { return dieColour; }
   void setDieColour(std::int16_t Base);
   int TextColourIndex() const;
   void setTextColourIndex(int Index);
   std::uint32_t TextColour() const { return textColour; }
-  void setTextColour(std::uint32_t Colour);
   const QString& Background() const { return background; }
   void setBackground(const QString& Path);
   bool SoundDisabled() const { return soundDisabled; }
@@ -84,7 +82,7 @@ class GameSettings {
   IniInfo OwnInfo;
   bool scanned = false;
   bool showWelcome = true;
-  std::int16_t dieColour = 112;
+  std::int16_t dieColour = 0;
   QString background;
   std::uint32_t textColour = 0;
   int computerSpeed = 0;

@@ -38,7 +38,8 @@ QStringList FieldsOf(const IniInfo& Info, const QString& Key) {
 std::uint8_t StyleOf(const QString& Field) {
   bool IsNumber = false;
   const int Style = Field.trimmed().toInt(&IsNumber) + Normal;
-  return IsNumber && Style >= Normal && Style <= Moron ? static_cast<std::uint8_t>(Style) : std::uint8_t{Normal};
+  return IsNumber && Style >= Normal && Style <= std::ssize(StyleWords) ? static_cast<std::uint8_t>(Style)
+                                                                        : std::uint8_t{Normal};
 }
 
 }  // namespace

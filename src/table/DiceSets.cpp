@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "engine/GameOptions.h"
+
 namespace blunko {
 
 namespace {
@@ -27,8 +29,6 @@ constexpr DiceSet Sets[] = {
     Same("Roman", 190, qRgb(0, 0, 0)),
 };
 
-constexpr int DefaultSet = 112;
-
 constexpr const char* Offered[] = {"Blue",  "Red",    "Clouds",  "Antique",  "Marbles", "Patriot",
                                    "Pablo", "Clocks", "Bubbles", "Computer", "Digital"};
 
@@ -50,7 +50,7 @@ const DiceSet* FindDiceSet(const QString& Name) {
   return Find([&Name](const DiceSet& Set) { return Name == QLatin1String(Set.Name); });
 }
 
-int DrawableSet(int Base) { return FindDiceSet(Base) == nullptr ? DefaultSet : Base; }
+int DrawableSet(int Base) { return FindDiceSet(Base) == nullptr ? DefaultDiceSet : Base; }
 
 QColor StartColour(int Base) {
   const DiceSet* Set = FindDiceSet(Base);

@@ -49,7 +49,6 @@ class DiceTray : public QWidget {
   DiceTray(bool HasTrayAbove, QWidget* Parent) : QWidget(Parent), hasTrayAbove(HasTrayAbove) {}
 
   void setBackColor(const QColor& Colour);
-  QColor BackColor() const { return backColor; }
 
  signals:
   void mouseUp(int Button);

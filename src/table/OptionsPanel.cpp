@@ -59,7 +59,7 @@ OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QS
 
 /// A box with a caption; returns what its controls stand in.
 QVBoxLayout* OptionsPanel::AddFrame(const QString& Caption) {
-  auto* Box = new QGroupBox(Caption, this);
+  auto* Box = Make<QGroupBox>(this, "fra" + Caption.chopped(1).remove(' '), Caption);
   auto* Inside = new QVBoxLayout(Box);
   Inside->setContentsMargins(6, 6, 5, 5);
   Inside->setSpacing(2);
@@ -91,7 +91,7 @@ void OptionsPanel::BuildSwitches() {
   }
   Sound->addLayout(OnOff);
   cmdCustomizeSounds = AddTo(Sound, MakeButton(this, QStringLiteral("cmdCustomizeSounds"), QStringLiteral("Customize"),
-                                               [this] { game.Command([this] { emit customizeSoundsAsked(); }); }));
+                                               [this] { Run(&OptionsPanel::customizeSoundsAsked); }));
   cmdCustomizeSounds->setFixedHeight(CommandHeight);
 }
 
@@ -132,13 +132,18 @@ void OptionsPanel::BuildSwatches() {
 
 void OptionsPanel::BuildCommands() {
   ARCmdSaveOptions = MakeButton(this, QStringLiteral("ARCmdSaveOptions"), QStringLiteral("Save"),
-                                [this] { game.Command([this] { ARCmdSaveOptions_Click(); }); });
+                                [this] { Run(&OptionsPanel::ARCmdSaveOptions_Click); });
   ARCmdCancelOptions = MakeButton(this, QStringLiteral("ARCmdCancelOptions"), QStringLiteral("Cancel"),
-                                  [this] { game.Command([this] { ARCmdCancelOptions_Click(); }); });
+                                  [this] { Run(&OptionsPanel::ARCmdCancelOptions_Click); });
   for (ButtonPlus* Command : {ARCmdSaveOptions, ARCmdCancelOptions}) {
     Command->setFixedHeight(CommandHeight);
     frames->addWidget(Command);
   }
+}
+
+/// A press of a button, which the gate may keep out.
+void OptionsPanel::Run(void (OptionsPanel::*Command)()) {
+  form.Handle([=, this] { game.Command([=, this] { (this->*Command)(); }); });
 }
 
 void OptionsPanel::ColourControls() {

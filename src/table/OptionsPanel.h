@@ -62,6 +62,7 @@ class OptionsPanel : public QWidget {
   void BuildSwatches();
   void BuildCommands();
   void ColourControls();
+  void Run(void (OptionsPanel::*Command)());
   void ShowWholeRows();
   void Close();
   void ShowSampleDice();

@@ -2,9 +2,7 @@
 
 #include <QAccessible>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMenu>
 #include <QPainter>
 #include <QScreen>
@@ -116,7 +114,7 @@ void frmMain::PlaceCover() {
   lblSampleDice->setAutoFillBackground(true);
   // Dark blue letters need a light ground on every set's colour.
   SetColours(*lblSampleDice, {{QPalette::Window, QColor(232, 238, 250)}, {QPalette::WindowText, QColor(0, 0, 128)}});
-  lblSampleDice->setGeometry(QRect(picSampleDice->width() / 2 - 75, picSampleDice->height() / 2 - 13, 150, 26));
+  Placed(lblSampleDice, QRect(picSampleDice->width() / 2 - 75, picSampleDice->height() / 2 - 13, 150, 26));
 }
 
 void frmMain::PlaceButtons() {
@@ -135,12 +133,9 @@ void frmMain::PlaceButtons() {
 void frmMain::PlaceLabels() {
   const auto Text = [this](const char* Name, const QString& Caption, QRect Place, double Points, bool Bold,
                            Qt::Alignment Side) {
-    auto* Made = new FitLabel(Caption, picGameTray);
-    Made->setObjectName(QLatin1String(Name));
-    Made->setGeometry(Place);
-    Made->setFont(FontOf(Typeface::Verdana, Points, Bold));
-    Made->setAlignment(Side | Qt::AlignVCenter);
-    return Made;
+    return Placed(MakeText<FitLabel>(picGameTray, QLatin1String(Name), Caption, FontOf(Typeface::Verdana, Points, Bold),
+                                     Side | Qt::AlignVCenter),
+                  Place);
   };
   lblStatus = Text("lblStatus", {}, QRect(5, Pixels(StatusTop), 381, 30), 15.75, false, Qt::AlignHCenter);
   lblLastRoll = Text("lblLastRoll", {}, QRect(5, 237, 381, 23), 11.25, true, Qt::AlignHCenter);
@@ -329,7 +324,7 @@ void frmMain::ShowBackground(const QString& Path) {
   // On the bare table some dice lie where the pictures have their motif.
   if (!Shown && picLooseDice == nullptr) {
     picLooseDice = Make<SvgBox>(picGameTray, QStringLiteral("picLooseDice"), QStringLiteral(":/art/welcome.svg"));
-    picLooseDice->setGeometry(QRect({15, 362}, picLooseDice->sizeHint()));
+    Placed(picLooseDice, QRect({15, 362}, picLooseDice->sizeHint()));
   }
   if (picLooseDice != nullptr) picLooseDice->setVisible(!Shown);
 }

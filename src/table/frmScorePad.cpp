@@ -33,17 +33,12 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
   setObjectName(QStringLiteral("frmScorePad"));
   setWindowTitle(QStringLiteral(" Score Pad"));
   setAttribute(Qt::WA_ShowWithoutActivating);
-  QPalette Colours = palette();
-  Colours.setColor(QPalette::Window, FormBlue);
-  setPalette(Colours);
+  SetColours(*this, {{QPalette::Window, FormBlue}});
   setAutoFillBackground(true);
 
   const auto Text = [this](const QString& Name, const QString& Caption, QRect Place, Qt::Alignment Side, QColor Ink) {
-    auto* Made = new FitLabel(Caption, this);
-    Made->setObjectName(Name);
-    Made->setGeometry(Place);
-    Made->setFont(FontOf(Typeface::Verdana, 9.75, true));
-    Made->setAlignment(Side | Qt::AlignTop);
+    auto* Made = Placed(
+        MakeText<FitLabel>(this, Name, Caption, FontOf(Typeface::Verdana, 9.75, true), Side | Qt::AlignTop), Place);
     Made->setForeColor(Ink);
     Made->setAttribute(Qt::WA_TransparentForMouseEvents);
     return Made;

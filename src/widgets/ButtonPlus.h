@@ -13,7 +13,6 @@ class ButtonPlus : public QPushButton {
  public:
   explicit ButtonPlus(const QString& Caption, QWidget* Parent = nullptr);
 
-  QColor BackColor() const { return backColor; }
   void setBackColor(const QColor& Colour);
 
   QSize sizeHint() const override;

@@ -11,6 +11,9 @@ namespace {
 
 constexpr int LargestPicture = 64;  // MB, of one that is decoded as small as it can be, but isn't yet stretched
 
+/// Set before any thread reads a picture.
+[[maybe_unused]] const bool IsLimited = (QImageReader::setAllocationLimit(LargestPicture), true);
+
 /// The picture is decoded in the size in which it is shown: that is quick, and spares the memory of an enormous one.
 QImage Decode(const QString& Path, const QSize& Wanted) {
   if (!QFileInfo(Path).isFile()) return {};
@@ -83,7 +86,6 @@ void StretchedPicture::Load(const QString& Path) {
 
 void StretchedPicture::Draw() {
   drawn = {};
-  QImageReader::setAllocationLimit(LargestPicture);
   decoding = {};
   if (!path.isEmpty()) decoding = std::async(&Decode, path, size() * devicePixelRatioF());
 }

@@ -111,8 +111,10 @@ TEST(CustomizeSounds, EveryEntryOfTheListIsItsEventAndOKAloneWritesAll) {
   }
 }
 
-TEST_F(TheProgram, SwitchedOffNothingSoundsButATest) {
+TEST_F(TheProgram, HasItsSoundsAndSwitchedOffOnlyATestIsHeard) {
   Start();
+  EXPECT_EQ(QDir(Folder.Path("temp")).count(), 9U + 2) << "sounds";
+  for (const SoundEvent& Sound : SoundEvents) EXPECT_TRUE(Folder.Get("temp/" + QString(Sound.File)).startsWith("RIFF"));
   Run->Settings.setSoundDisabled(true);
   for (const bool IsTest : {false, true}) {
     Run->Screen.PlaySoundFile(Run->State.TempFolder + "undo.wav", IsTest);
@@ -135,7 +137,7 @@ TEST(Welcome, TheBoxIsKeptAtOnceAndClosingTellsOfIt) {
     if (*Stored != '\0') At.Info.WriteInfoValue(ShowWelcomeMessageKey, QLatin1String(Stored));
     frmWelcome Form(At.Info, At.Screen, nullptr);
     Form.show();
-    ExpectUsable(Form, Form.lblCheck->isChecked() ? "-ticked" : "");
+    if (Row == 0) ExpectUsable(Form);
     EXPECT_EQ(Form.lblCheck->isChecked(), *Stored == '\0' || *Stored == '1');
     for (int i = 0; i < Clicks; ++i) Click(i % 2 == 0 ? static_cast<QWidget*>(Form.lblShowWelcome) : Form.lblCheck);
     EXPECT_EQ(At.Info.ReadInfoValue(ShowWelcomeMessageKey), QLatin1String(Kept)) << "before it closes";
@@ -169,6 +171,9 @@ TEST_F(TheProgram, GreetsOnceAndTheHelpOutlivesTheWelcomeAndGoesWithTheGame) {
   EXPECT_TRUE(Help->isVisible());
   QTest::keyClick(Help, Qt::Key_Escape);
   EXPECT_FALSE(Help->isVisible() || Run->State.Quitting) << "Escape was the help's";
+  Run->Form->hide();
+  Run->Form->show();
+  QTest::qWait(60);
   Run->ShowHelpTopic(QStringLiteral("Overview.htm"));
   Run->Form->close();
   EXPECT_FALSE(Help->isVisible());

@@ -1,4 +1,5 @@
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTreeWidget>
@@ -86,8 +87,13 @@ TEST(Help, DialogsBlockEveryWindowButTheHelp) {
     ClickBoth(2, 1);
     Window.Help.close();  // and opened again under the dialog
     Window.Help.ShowTopic(QStringLiteral("Overview.htm"));
+    QMessageBox(QMessageBox::NoIcon, {}, QStringLiteral("inner"), {}, &Outer).exec();
     ClickBoth(1, 1);
     Outer.close();
+  });
+  Next.Expect<QMessageBox>([&](QMessageBox& Inner) {
+    ClickBoth(0, 1);
+    Inner.close();
   });
   Outer.exec();
   ClickBoth(2, 2);

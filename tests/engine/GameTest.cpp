@@ -22,7 +22,6 @@ TEST(FreshGame, ReadsAllSeats) {
 
 TEST(PassDice, BanksOrNotAndHandsOn) {
   const std::string Box = " has gone out.  Everybody else gets one more roll to try and beat 5000 points.; ";
-  const std::string Flash = "beep; sleep 200 x2; beep; sleep 200 x2; beep; ";
   const struct {
     const char *Seat, *Next;
     int Before, Speed;
@@ -36,8 +35,6 @@ TEST(PassDice, BanksOrNotAndHandsOn) {
       {"Ann", "Normal", 4900, 2, "pass",
        "1; high turn Ann 100; sound /tmp/overtop.wav; box Ann" + Box + "status Roll the dice.; computer turn"},
       {"Normal", "Simple", 4900, 2, "pass", "1; sound /tmp/overtop.wav; status Roll the dice.; computer turn"},
-      {"Normal", "Ann", 4900, 2, "pass",
-       "1; sound /tmp/overtop.wav; box Normal" + Box + Flash + "status Roll the dice."},
   };
   for (const auto& Row : Rows) {
     Table table;
@@ -83,6 +80,20 @@ TEST(PassDice, ABustIsShown) {
     Told.erase(std::min(Told.size(), Told.find("pointer 0")));
     EXPECT_EQ(Told, Shown) << Seat << ' ' << Speed;
     EXPECT_EQ(table.m.ActionSet, "p");
+  }
+}
+
+TEST(PassDice, TheLastRollFlashesAndBeepsUnlessSilent) {
+  for (const std::string Beep : {"", "beep; "}) {
+    Table table;
+    table.Screen.TellsAll = true;
+    table.Options.Silent = Beep.empty();
+    table.Begin({"Ann", "Bob"});
+    table.Bank(5000);
+    const std::string On = "last roll (Last Roll - Need 5050 To Win)^3105; ", Told = table.Told();
+    const std::string Again = "sleep 200; last roll ^3105; sleep 200; " + Beep + On;
+    EXPECT_NE(Told.find("^3105; " + Beep + "status ; " + On + Again + Again + "status Roll"), std::string::npos)
+        << Told;
   }
 }
 
@@ -159,7 +170,6 @@ TEST(Commands, NewGameAndTheEndAreAskedForAndClearUp) {
       {"Yes", Escape, 0, true, false, true, "unload others; beep; " + Question + "; exit"},
       {"Esc closes the panel first", Escape, 0, true, true, true, "cancel options"},
       {"the close box doesn't", CloseBox, 0, true, true, true, "beep; " + Question + "; exit"},
-      {"F2: No", F2, 0, true, false, false, "beep; " + Question},
       {"F2: Yes", F2, 0, true, false, true, "beep; " + Question + "; new game"},
       {"Shift doesn't ask", F2, ShiftAlone, true, false, false, "beep; new game"},
       {"Shift and Control do", F2, 3, true, false, false, "beep; " + Question},

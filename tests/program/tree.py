@@ -1,4 +1,4 @@
-"""The tree that the real program offers to screen readers: found, pressed and listened to."""
+"""A session for the real program, and the tree that it offers to screen readers: found, pressed and listened to."""
 import os
 import shutil
 import subprocess
@@ -93,7 +93,7 @@ def press(name, role="push button"):
 def on_name(event):
     key = (event.source.getRoleName(), event.source.path)
     name = event.source.name
-    if last_name.get(key) == name and not "BLUNKO - Passing the dice.".startswith(name):  # spelled quicker than one can ask
+    if last_name.get(key) == name and not (name or "").startswith("BLUNKO"):  # spelled quicker than one can ask
         repeated.append(f"{key[0]}: {name}")
     last_name[key] = name
 

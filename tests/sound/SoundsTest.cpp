@@ -152,14 +152,6 @@ TEST(Sounds, AHangingDeviceHoldsUpNeitherTheGameNorItsEnd) {
   EXPECT_GE(open(QFile::encodeName(Recorder.recorded).constData(), O_RDWR), 0);  // lets the thread come to its end
 }
 
-TEST(Extraction, EverySoundIsThereUnderItsName) {
-  const Place Folder;
-  ExtractSounds(Folder.Path() + '/');
-  EXPECT_EQ(Folder.Names().size(), 9);
-  for (const SoundEvent& Sound : SoundEvents) EXPECT_TRUE(Folder.Get(Sound.File).startsWith("RIFF")) << Sound.File;
-  EXPECT_TRUE(Folder.Get(OutSound.File).startsWith("RIFF"));
-}
-
 TEST(Extraction, WritesOverTheStartOfPlainFilesOnly) {
   const Place Folder;
   const QString Longer = Folder.Put("longer", QByteArray(100'000, 'x')), Target = Folder.Put("target", "mine");

@@ -5,9 +5,9 @@
 
 #include <gmock/gmock.h>
 
-#include "app/SettingsView.h"
 #include "table/DiceSets.h"
 #include "table/OptionsPanel.h"
+#include "table/SettingsView.h"
 #include "tests/support/Place.h"
 #include "tests/table/TableForm.h"
 
@@ -116,7 +116,7 @@ TEST(DiceSets, HaveTheNumbersAndTrayColoursOfEver) {
     if (Set == nullptr) continue;
     for (const QRgb Part : {QRgb(Base), Set->Start, Set->Open, Set->Pick}) Signature = 31 * Signature + Part;
   }
-  EXPECT_EQ(Signature, 12293979631036369994U);
+  EXPECT_EQ(Signature, 12293979631036369994U) << "another set, number or colour than before";
 }
 
 TEST(OptionsPanel, DiceOfARunningGameComeBackInTheChosenSetWithTheChosenMarks) {

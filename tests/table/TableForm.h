@@ -1,15 +1,12 @@
 #pragma once
 
 #include <QApplication>
-#include <QBitmap>
 #include <QTest>
 
 #include <gtest/gtest.h>
-#include <string>
 
 #include "table/frmMain.h"
 #include "tests/support/Table.h"
-#include "widgets/Twips.h"
 
 namespace blunko::test {
 

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QBitmap>
 #include <QMenu>
 
 #include "table/KeyCodes.h"
