@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "bots/ComputerPlayers.h"
@@ -64,7 +63,6 @@ TEST(Styles, PlayTheirTurnsByTheirNumbers) {
     table.PlayTurn(Row.Style, Row.Faces, Row.Banked, Row.OpponentBanked, Row.Out);
     EXPECT_EQ(table.Numbers.Draws, Row.DiceDrawn) << "dice drawn";
     EXPECT_EQ(table.m.PlayerScore[0] - Row.Banked, Row.Gain) << "points banked";
-    EXPECT_THAT(table.TakeLog("box"), testing::Each(testing::Not(testing::HasSubstr("contact")))) << "no guard box";
     EXPECT_EQ(table.m.CurrentPlayer, Row.Out == Absent ? 1 : Absent) << "the turn is over";
   }
 }
