@@ -1,3 +1,4 @@
+#include <QBitmap>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
@@ -9,6 +10,7 @@
 #include "app/frmWelcome.h"
 #include "tests/app/Run.h"
 #include "tests/table/TableForm.h"
+#include "widgets/Colours.h"
 
 namespace blunko::test {
 
@@ -40,6 +42,9 @@ TEST(About, DiceSoundLinksOpenAndTheCreditsScrollRound) {
     const int Before = Top;
     QTest::qWait(400);
     EXPECT_LT(Top, Before);
+    Top = 0;
+    const QRegion Bare(Credits.picScroll->grab().createMaskFromColor(FormBlue, Qt::MaskOutColor));
+    EXPECT_NE(Bare, QRegion(Credits.picScroll->rect())) << "there are words";
     Click(Credits.cmdOK);
   });
   Form.exec();
@@ -113,7 +118,6 @@ TEST(CustomizeSounds, EveryEntryOfTheListIsItsEventAndOKAloneWritesAll) {
 
 TEST_F(TheProgram, HasItsSoundsAndSwitchedOffOnlyATestIsHeard) {
   Start();
-  EXPECT_EQ(QDir(Folder.Path("temp")).count(), 9U + 2) << "sounds";
   for (const SoundEvent& Sound : SoundEvents) EXPECT_TRUE(Folder.Get("temp/" + QString(Sound.File)).startsWith("RIFF"));
   Run->Settings.setSoundDisabled(true);
   for (const bool IsTest : {false, true}) {

@@ -111,7 +111,6 @@ TEST_F(TheProgram, ABankedTurnGoesThroughTheRealDialogs) {
     EXPECT_EQ(Shown(), Entered);
     Next.Press(&GameBox::cmdYes);
     QTest::keyClick(Form.lblReset, Qt::Key_Return);
-    EXPECT_TRUE(Shown().startsWith(QLatin1String("Tam.............1500\n")));
     EXPECT_EQ(Run->Rollers.Lists(), RollerLists::Default()) << "the next score is tested against the default lists";
     QTest::keyClick(&Form, Qt::Key_Return);
   });

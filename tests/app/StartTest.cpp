@@ -121,6 +121,8 @@ TEST_F(Playing, TheTableIsAsKeptInEveryState) {
   Start("ShowWelcomeMessage=0\nDieColor=101\n");
   frmMain& Form = *Run->Form;
   ExpectAsKept(Form, "-start");
+  Run->Screen.SetMousePointer(MousePointer::Hourglass);
+  EXPECT_EQ(Form.cursor().shape(), Qt::WaitCursor);
   Begin(3, false);
   const auto Roll = [&](std::size_t Tumbling, std::initializer_list<int> Faces) {
     Dice->Faces.assign(Tumbling, 6);
