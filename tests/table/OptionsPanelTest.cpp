@@ -161,7 +161,7 @@ TEST(OptionsPanel, TheTableStandsStill) {
   EXPECT_EQ(Form.picGameTray->mapToGlobal(QPoint(0, 0)), Place);
   EXPECT_THAT(Dressed.TakeLog(), testing::ElementsAre("sound /tmp/over.wav", "sound /tmp/over.wav"));
   EXPECT_TRUE(Dressed.m.PauseComputer);
-  Dressed.t.cmdRoll.Enabled = false;
+  Dressed.t.cmdRoll.Enabled = false, Dressed.m.ActionSet = "s";
   Dressed.Close(false);
   EXPECT_FALSE(Form.cmdRoll->isEnabled()) << "the buttons are as the game needs them now, not at the opening";
   EXPECT_EQ(Form.picGameTray->mapToGlobal(QPoint(0, 0)), Place);
