@@ -57,6 +57,11 @@ void GameSettings::setScanned(bool Value) {
   WriteFlag(ScannedKey, Value);
 }
 
+void GameSettings::setShowWelcome(bool Value) {
+  showWelcome = Value;
+  WriteFlag(ShowWelcomeMessageKey, Value);
+}
+
 void GameSettings::setDieColour(std::int16_t Base) {
   dieColour = Base;
   OwnInfo.WriteInfoValue(DieColorKey, QString::number(Base));
@@ -67,6 +72,11 @@ int GameSettings::TextColourIndex() const { return IndexOfColour(textColour); }
 void GameSettings::setTextColourIndex(int Index) {
   textColour = ColourOfIndex(Index);
   OwnInfo.WriteInfoValue(TextColorKey, QString::number(Index));
+}
+
+void GameSettings::setTextColour(std::uint32_t Colour) {
+  textColour = Colour;
+  OwnInfo.WriteInfoValue(TextColorKey, QString::number(IndexOfColour(Colour)));
 }
 
 void GameSettings::setBackground(const QString& Path) {

@@ -35,11 +35,13 @@ class GameSettings {
   bool Scanned() const { return scanned; }
   void setScanned(bool Value);
   bool ShowWelcome() const { return showWelcome; }
+  void setShowWelcome(bool Value);
   std::int16_t DieColour() const { return dieColour; }
   void setDieColour(std::int16_t Base);
   int TextColourIndex() const;
   void setTextColourIndex(int Index);
   std::uint32_t TextColour() const { return textColour; }
+  void setTextColour(std::uint32_t Colour);
   const QString& Background() const { return background; }
   void setBackground(const QString& Path);
   bool SoundDisabled() const { return soundDisabled; }

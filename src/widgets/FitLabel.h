@@ -12,8 +12,7 @@ class FitLabel : public QLabel {
   Q_OBJECT
 
  public:
-  explicit FitLabel(QWidget* Parent = nullptr) : QLabel(Parent) {}
-  FitLabel(const QString& Caption, QWidget* Parent) : QLabel(Caption, Parent) {}
+  using QLabel::QLabel;
 
   void setForeColor(const QColor& Colour);
   QColor ForeColor() const { return foreColor; }

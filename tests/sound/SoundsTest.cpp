@@ -109,7 +109,6 @@ TEST(Sounds, UsualWavesSoundAlikeAndWhatIsNoneIsSilent) {
       {Recorder.Put("cut within the format", Plain.left(30)), 0},
       {Recorder.Put("no samples", With(40, 0, 4)), 0},
       {Recorder.Put("65535 channels", With(22, 0xFFFF, 2)), 0},
-      {Recorder.Put("one sample a second", With(24, 1, 4)), 0},
       {Recorder.Put("four billion samples a second", With(24, 0xFFFFFFFF, 4)), 0},
       {Recorder.Path("missing"), 0},
       {Recorder.Pipe("pipe"), 0},

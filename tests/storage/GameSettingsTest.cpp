@@ -59,6 +59,19 @@ TEST_F(GameSettingsTest, TakesWhateverStandsInTheFile) {
   }
 }
 
+TEST_F(GameSettingsTest, EachSetterWritesItsOwnKeyAtOnce) {
+  GameSettings s = Load();
+  EXPECT_EQ(place.Names(), QStringList("Background")) << "a first run writes nothing";
+  s.setShowWelcome(false);
+  s.setTextColour(0xFFFF80);
+  s.SetSound("Undo", "/t\xC3\xB6ne/u.wav");
+  s.SetSound("Nose", "/no/event.wav");
+  EXPECT_EQ(Keys(), "ShowWelcomeMessage=False\nTextColor=6\nUndoSound=/t\xC3\xB6ne/u.wav\nNoseSound=/no/event.wav\n");
+  EXPECT_EQ(Held(Load()), Held(s));
+  s.setTextColour(0x123456);  // not on the list: for the run
+  EXPECT_TRUE(s.TextColour() == 0x123456 && Load().TextColour() == 0);
+}
+
 TEST_F(GameSettingsTest, ReplacesALostBackground) {
   const QByteArray Lost = "TextColor=3\nBackground=/gone/Old.jpg\n";
   const QString Satin = place.Path("Background/Satin.jpg");

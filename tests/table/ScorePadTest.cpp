@@ -72,10 +72,10 @@ TEST(Letters, StandOutFromEveryGroundByTheirHalo) {
     Words.setForeColor(Ink);
     Words.resize(150, 50);
     const QImage Picture = Words.grab().toImage();
+    const double Letters = Luminance(Ink) + 0.05;
     int Standing = 0;
     for (int i = 0; i < Picture.width() * Picture.height(); ++i) {
       const double Here = Luminance(Picture.pixelColor(i % Picture.width(), i / Picture.width())) + 0.05;
-      const double Letters = Luminance(Ink) + 0.05;
       Standing += std::max(Here, Letters) >= 4.5 * std::min(Here, Letters) ? 1 : 0;
     }
     EXPECT_GE(Standing, 950) << "px of the halo in colour " << Index;

@@ -22,7 +22,6 @@ TEST_F(TheTable, ClicksAndKeysReachTheGame) {
   const auto Key = [this](Qt::Key Code) { return Input([=, this] { QTest::keyClick(Form.cmdHighRollers, Code); }); };
   const std::tuple<const char*, Input, int> Rows[] = {
       // with the score afterwards
-      {"beside the dice", Beside(Form.picTray1, Qt::LeftButton), 0},
       {"a scorer", Click(0, Qt::LeftButton), 100},
       {"the tray die", Click(10, Qt::LeftButton), 0},
       {"a digit", Key(Qt::Key_1), 100},

@@ -10,6 +10,7 @@
 namespace blunko::test {
 
 constexpr int Limit = 400;  // ms, for a server that never comes to an end
+
 static TbkUtil::VersionAnswer Ask(const QString& Address, int TimeLimit = 10 * Patience) {
   return TbkUtil(Address, TimeLimit).UtilCheckVersion(1, 9, 3);
 }
