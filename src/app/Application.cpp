@@ -24,6 +24,7 @@
 #include "sound/SoundFiles.h"
 #include "storage/DayNumber.h"
 #include "table/DiceSets.h"
+#include "table/Strip.h"
 #include "widgets/Boxes.h"
 
 namespace blunko {
@@ -102,7 +103,7 @@ void Application::LoadForm() {
   Form = std::make_unique<frmMain>(Table, Clothes);
   speaker = new Announcer(Form.get());
   Form->ShowControls();
-  Form->CentreOnScreen();
+  CentreOnScreen(*Form);
   Rollers.LoadHighRollers();
 
   const auto On = [this](auto Signal, auto Run) { QObject::connect(Form.get(), Signal, Form.get(), Run); };

@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include "table/Strip.h"
 #include "table/frmMain.h"
 #include "widgets/Colours.h"
 #include "widgets/FormBuilder.h"
@@ -70,7 +71,7 @@ void frmCongrats::Leave(const char* Word) {
   accept();
 }
 
-void frmCongrats::Place() { PlaceFrame(*this, main.TableCorner()); }
+void frmCongrats::Place() { PlaceFrame(*this, TableCorner(main)); }
 
 void frmCongrats::showEvent(QShowEvent* Event) {
   PlacedDialog::showEvent(Event);

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "table/DiceSets.h"
+#include "table/Strip.h"
 #include "table/frmMain.h"
 #include "widgets/Fonts.h"
 #include "widgets/FormBuilder.h"
@@ -183,7 +184,7 @@ void OptionsPanel::cmdOptions_Click() {
   show();
   ShowWholeRows();
   game.m.ResizeBlocked = true;
-  form.OpenStrip(grab(QRect(0, 0, Pixels(StripWidth), height())));
+  OpenStrip(form, grab(QRect(0, 0, Pixels(StripWidth), height())));
   game.m.ResizeBlocked = false;
   form.ShowControls();
   ARCmdSaveOptions->setFocus();
@@ -309,7 +310,7 @@ void OptionsPanel::Close() {
   game.t.picGameTray.Enabled = true;
   form.ShowControls();
   game.m.ResizeBlocked = true;
-  form.CloseStrip();
+  CloseStrip(form);
   hide();
   game.m.ResizeBlocked = false;
   game.m.PauseComputer = false;

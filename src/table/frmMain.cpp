@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
-#include <QScreen>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -23,7 +22,6 @@
 #include "widgets/FormBuilder.h"
 #include "widgets/PlacedDialog.h"
 #include "widgets/Twips.h"
-#include "widgets/X11.h"
 
 namespace blunko {
 
@@ -341,35 +339,6 @@ void frmMain::DrawDress() {
   for (WordButton* Menu : {lblMnuGame, lblMnuHelp}) Menu->setForeColor(OfBgr(Wears.TextColour));
   drawn = Wears;
 }
-
-void frmMain::OpenStrip(const QPixmap& Picture) {
-  const int Width = Picture.deviceIndependentSize().toSize().width();
-  QImage Whole((size() + QSize(Width, 0)) * devicePixelRatioF(), QImage::Format_RGB32);
-  Whole.setDevicePixelRatio(devicePixelRatioF());
-  QPainter Painter(&Whole);
-  Painter.drawPixmap(0, 0, Picture);
-  Painter.drawPixmap(Width, 0, picGameTray->grab(rect()));
-  SetStripWidth(Width, Whole);
-}
-
-void frmMain::CloseStrip() {
-  SetStripWidth(0, picGameTray->grab(QRect(0, 0, width() - picGameTray->x(), height())).toImage());
-}
-
-/// The left edge moves, everything on the table stays where it is on the screen. `Whole`: the window in its new size.
-/// Nothing is painted before the window has it.
-void frmMain::SetStripWidth(int Width, const QImage& Whole) {
-  HoldRightEdge(*this, Whole);
-  const QRect Place = geometry().adjusted(picGameTray->x() - Width, 0, 0, 0);
-  setMinimumSize(minimumSize().boundedTo(Place.size()));
-  setMaximumSize(maximumSize().expandedTo(Place.size()));
-  setGeometry(Place);
-  setFixedSize(Place.size());
-  picGameTray->move(Width, 0);
-  AwaitSize(*this);
-}
-
-void frmMain::CentreOnScreen() { CentreFrame(*this, screen()->geometry()); }
 
 void frmMain::wheelEvent(QWheelEvent* Event) { ShiftOnLowScreen(*this, Event->angleDelta().y() / 2); }
 

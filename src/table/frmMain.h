@@ -32,14 +32,6 @@ class frmMain : public QWidget {
   /// Draws the records of the controls and of the dress; what has changed is on the screen when it returns.
   void ShowControls();
 
-  /// Opens a strip at the left of the table, which keeps its place on the screen. `Picture`: what will be seen in it.
-  void OpenStrip(const QPixmap& Picture);
-  void CloseStrip();
-  /// The table's part of the window, frame included, in screen coordinates.
-  QPoint TableCorner() const { return pos() + QPoint(picGameTray->x(), 0); }
-  /// Moves the window to the middle of its screen.
-  void CentreOnScreen();
-
   /// Runs a handler of the game, and shows what it has changed.
   template <typename Handler>
   void Handle(Handler Run) {
@@ -120,7 +112,6 @@ class frmMain : public QWidget {
   void ShowDie(std::size_t Box, int Picture);
   void KeepFocusOnDice();
   void OrderTabStops();
-  void SetStripWidth(int Width, const QImage& Whole);
 
   Game& game;
   /// Keys pressed in this window, each with its Shift mask then: only their release is a command.
