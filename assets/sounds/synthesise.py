@@ -165,7 +165,7 @@ def one_die():
         level *= 0.78
         if gap < 0.018:
             break
-    finish(sound, "11d.wav", 1)
+    finish(sound, "101.wav", 1)
 
 
 def more_dice():
@@ -181,7 +181,7 @@ def more_dice():
     for _ in range(9):
         time = 0.3 * noise.random() ** 1.3
         sound.clack(0.01 + time, 0.75 * math.exp(-time / 0.2), noise.uniform(0.85, 1.15), noise)
-    finish(sound, "33d.wav", 1)
+    finish(sound, "102.wav", 1)
 
 
 def move():
@@ -191,7 +191,7 @@ def move():
         sound.mode(start, 610, 0.60 * level, 0.018)
         sound.mode(start, 255, 0.55 * level, 0.030)
         sound.hiss(start, 1.2 * level, 0.007, 1600, noise)
-    finish(sound, "moveit.wav", 1, SOFTER)
+    finish(sound, "103.wav", 1, SOFTER)
 
 
 def pass_with_points():
@@ -199,7 +199,7 @@ def pass_with_points():
     for start, frequency, level in ((0.004, 659.3, 0.8), (0.095, 987.8, 0.8), (0.19, 1318.5, 1)):
         sound.bar(start, frequency, level, 0.13)
     sound.bar(0.19, 659.3, 0.35, 0.12)
-    finish(sound, "passem1.wav", 1)
+    finish(sound, "104.wav", 1)
 
 
 def pass_without_points():
@@ -210,7 +210,7 @@ def pass_without_points():
         sound.mode(start, 3.1 * frequency, 0.25 * level, 0.03, 0.003)
         sound.hiss(start, 1.5 * level, 0.015, 500, noise)
     sound.band_limit(1100)
-    finish(sound, "passem2.wav", 1)
+    finish(sound, "105.wav", 1)
 
 
 def bust():
@@ -229,7 +229,7 @@ def bust():
     sound.mode(0.41, 184, 0.7, 0.03, 0.002)
     sound.mode(0.41, 420, 0.35, 0.015)
     sound.hiss(0.41, 2.0, 0.018, 700, noise)
-    finish(sound, "bust.wav", 1)
+    finish(sound, "106.wav", 1)
 
 
 def undo():
@@ -251,14 +251,14 @@ def undo():
         sound.mode(start, 2.7 * frequency, 0.25 * level, 0.008)
         sound.mode(start, 300, 0.4 * level, 0.02)
         sound.hiss(start, 0.7 * level, 0.006, 2200, noise)
-    finish(sound, "undo.wav", 2, SOFTER)
+    finish(sound, "107.wav", 2, SOFTER)
 
 
 def game_over():
     sound = Sound(11025, 0.48)
     sound.bell(0.003, 784, 1, 0.11)
     sound.bell(0.1, 1046.5, 0.9, 0.095)  # silent before the sound ends, so that nothing is cut off
-    finish(sound, "gameover.wav", 1)
+    finish(sound, "108.wav", 1)
 
 
 def going_out():
@@ -269,7 +269,7 @@ def going_out():
     for frequency, level in ((392, 0.3), (523.3, 0.32), (659.3, 0.3), (784, 0.66)):
         sound.horn(0.375, 0.50, frequency, level, 0.16)
     sound.bell(0.375, 1568, 0.25, 0.16)
-    finish(sound, "overtop.wav", 1)
+    finish(sound, "109.wav", 1)
 
 
 if __name__ == "__main__":

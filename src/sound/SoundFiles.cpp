@@ -3,27 +3,13 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
-
 #include "sound/SoundEvents.h"
 
 namespace blunko {
 
-namespace {
-
-QString FileOfSound(int Id) {
-  if (Id == OutSound.Resource) return QLatin1String(OutSound.File);
-  const auto Found = std::find_if(SoundEvents.begin(), SoundEvents.end(),
-                                  [Id](const SoundEvent& Sound) { return Sound.Resource == Id; });
-  return Found == SoundEvents.end() ? QString() : QLatin1String(Found->File);
-}
-
-}  // namespace
-
 int ExtractResource(int Id, const QString& Kind, const QString& Path) {
-  const QString Name = FileOfSound(Id);
-  QFile Resource(QStringLiteral(":/sounds/") + Name);
-  if (Kind != QLatin1String("CUSTOM") || Name.isEmpty() || !Resource.open(QIODevice::ReadOnly)) return QFile::OpenError;
+  QFile Resource(QStringLiteral(":/sounds/%1.wav").arg(Id));
+  if (Kind != QLatin1String("CUSTOM") || !Resource.open(QIODevice::ReadOnly)) return QFile::OpenError;
   const QByteArray Bytes = Resource.readAll();
 
   const QFileInfo There(Path);
@@ -37,6 +23,7 @@ int ExtractResource(int Id, const QString& Kind, const QString& Path) {
 }
 
 void ExtractSounds(const QString& Folder) {
+  if (Folder.isEmpty()) return;  // the current one may hold files of the player's own
   for (const SoundEvent& Sound : SoundEvents) {
     ExtractResource(Sound.Resource, QStringLiteral("CUSTOM"), Folder + QLatin1String(Sound.File));
   }

@@ -9,8 +9,8 @@ namespace blunko {
 /// written to, and none by way of a link.
 int ExtractResource(int Id, const QString& Kind, const QString& Path);
 
-/// Puts all sounds of the program into the folder, whose name ends with its separator. What can't be written stays
-/// silent.
+/// Puts all sounds of the program into the folder, whose name ends with its separator; none without a folder. What
+/// can't be written stays silent.
 void ExtractSounds(const QString& Folder);
 
 }  // namespace blunko

@@ -21,13 +21,13 @@ class Sounds {
   ~Sounds();
 
   /// Starts a plain wave file and returns at once. Without a device, for a file that can't be played, and while another
-  /// sound plays, nothing happens.
+  /// sound plays, nothing happens; a file that can't be played doesn't keep the next one from it.
   void Play(const QString& Path);
-  /// Whether a sound plays, or waits for the device to open.
+  /// Whether a sound plays, or waits for the device or the disk.
   bool IsPlaying() const;
 
  private:
-  class Player;
+  struct Player;
   std::shared_ptr<Player> player;
 };
 

@@ -92,6 +92,7 @@ QString GetTempFolder() {
     const QString Folder = Parent + QLatin1Char('/') + FolderName;
     if (IsPrivate(Folder) || (MakePrivate(Folder) && IsPrivate(Folder))) return Folder + QLatin1Char('/');
   }
+  if (QDir::tempPath().isEmpty()) return {};  // the one that the system names isn't there
   // A name that nobody can take beforehand; the next start finds the folder by its owner.
   const QDir Shared(QDir::tempPath());
   for (const QString& Name :

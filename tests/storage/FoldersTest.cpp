@@ -49,6 +49,9 @@ TEST_F(FoldersTest, TemporaryFolderIsPrivateAndTheSameAtEveryStart) {
     EXPECT_EQ(QFile::permissions(InCache), Private) << Trouble;
   }
   EXPECT_FALSE(QFileInfo::exists(place.Path("run"))) << "it isn't the game's to make";
+  Set("XDG_CACHE_HOME", "/proc");
+  Set("TMPDIR", place.Path("none"));
+  EXPECT_EQ(GetTempFolder(), "");
 }
 
 TEST_F(FoldersTest, StateLiesBesideTheProgramOrWithTheUser) {
