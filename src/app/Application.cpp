@@ -109,7 +109,6 @@ void Application::LoadForm() {
   const auto On = [this](auto Signal, auto Run) { QObject::connect(Form.get(), Signal, Form.get(), Run); };
   On(&frmMain::firstShown, [this] { Form_Activate(); });
   On(&frmMain::minimised, [this] { Form_Resize(); });
-  On(&frmMain::optionsAsked, [this] { Options().cmdOptions_Click(); });
   On(&frmMain::scorePadAsked, [this] {
     if (State.ScorePadShown) ScorePad().show();
   });
@@ -219,7 +218,11 @@ void Application::ShowNewGame() {
   Chosen ? Table.FreshGame(*Chosen) : static_cast<void>(Controls.cmdRoll.Enabled = false);
 }
 
-void Application::CancelOptions() { Options().ARCmdCancelOptions_Click(); }
+void Application::ShowOptions() { Options().Open(); }
+
+void Application::SettleOptions(bool Save) { Options().Settle(Save); }
+
+void Application::HideOptions() { Options().Close(); }
 
 void Application::UnloadOtherForms() {
   if (newGame != nullptr) newGame->Unload();
@@ -228,7 +231,7 @@ void Application::UnloadOtherForms() {
 }
 
 void Application::ExitProgram() {
-  if (options != nullptr) options->ARCmdCancelOptions_Click();  // a preview isn't kept
+  Table.ARCmdCancelOptions_Click();  // a preview isn't kept
   UnloadOtherForms();
   Form->hide();
   QCoreApplication::exit();

@@ -50,7 +50,9 @@ class Application : public Program, private HighRollersScreen {
   void CheckWhoopin(const std::string& Name, std::int16_t Margin) override;
   void ShowCongrats() override;
   void ShowNewGame() override;
-  void CancelOptions() override;
+  void ShowOptions() override;
+  void SettleOptions(bool Save) override;
+  void HideOptions() override;
   void UnloadOtherForms() override;
   void ExitProgram() override;
   void Abort() override;

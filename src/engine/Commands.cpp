@@ -40,7 +40,7 @@ void Game::ARCmdNewGame_Click() {
 }
 
 void Game::PersonBeginsGame(bool AtOnce) {
-  if (!t.picGameTray.Enabled) return;  // the options panel is open, and the menus with it out of reach
+  if (OptionsAreOpen()) return;  // the menus are out of reach
   Command([=, this] {
     if (AtOnce) m.FormMessage = "RestartGame";
     mnuNewGame_Click();
@@ -72,7 +72,7 @@ void Game::Form_KeyUp(std::int16_t KeyCode, std::int16_t Shift) {
   switch (KeyCode) {
     case Escape:
       Command([this] {
-        if (!t.picGameTray.Enabled) return program.CancelOptions();
+        if (OptionsAreOpen()) return ARCmdCancelOptions_Click();
         program.UnloadOtherForms();
         Form_Unload();
       });

@@ -50,13 +50,16 @@ class Game {
   void CheckSelection();
   void SetStatus(std::string_view Text);
   std::int16_t PointsNeeded() const;
-  /// All dice take their pictures afresh from the dice set of the settings.
-  void RedrawDice();
 
   /// Whether a left click on the die box takes the die, or takes it back from the tray.
   bool CanTake(int Index) const;
   /// Whether a person may touch the dice at all.
   bool PersonMayPlay() const;
+
+  // The options, which stand beside the table.
+  void cmdOptions_Click();
+  void ARCmdSaveOptions_Click();
+  void ARCmdCancelOptions_Click();
 
   // A new game, and the end of the program.
   void mnuNewGame_Click();
@@ -127,6 +130,9 @@ class Game {
   void HideMarkers();
   void ClearDice();
   void GiveUpGame();
+  void CloseOptions(bool Save);
+  void RedrawDice();
+  bool OptionsAreOpen() const { return !t.picGameTray.Enabled; }
   bool IsComputerTurn() const { return m.CurrentPlayer != Absent && m.PlayerIsComputer[m.CurrentPlayer]; }
   template <typename Action>
   void TouchDice(Action Run);

@@ -27,8 +27,11 @@ class Program {
   virtual void ShowCongrats() = 0;
   /// The new game dialog, modal: begins a fresh game, or doesn't.
   virtual void ShowNewGame() = 0;
-  /// The options panel, which is open, takes its preview back and closes.
-  virtual void CancelOptions() = 0;
+  /// The options come to light beside the table, which wears from here on what is chosen there.
+  virtual void ShowOptions() = 0;
+  /// What was chosen is stored, or the table wears again what it did before. The settings are final then.
+  virtual void SettleOptions(bool Save) = 0;
+  virtual void HideOptions() = 0;
   /// Every loaded form but the table is unloaded.
   virtual void UnloadOtherForms() = 0;
   /// Unloads every form and ends the program, once the handlers that wait have returned.
@@ -48,7 +51,9 @@ class QuietProgram : public Program {
   void CheckWhoopin(const std::string&, std::int16_t) override {}
   void ShowCongrats() override {}
   void ShowNewGame() override {}
-  void CancelOptions() override {}
+  void ShowOptions() override {}
+  void SettleOptions(bool) override {}
+  void HideOptions() override {}
   void UnloadOtherForms() override {}
   void ExitProgram() override {}
   void Abort() override {}

@@ -97,14 +97,6 @@ void Game::RollDice(std::uint8_t NumDiceUp) {
   desktop.Refresh();
 }
 
-void Game::RedrawDice() {
-  const auto PictureOf = [this](int Face) { return Face == 0 ? 0 : Settings.DieColour() + Face; };
-  for (int i = 0; i < Dice; ++i) {
-    t.Picture1(i) = PictureOf(m.ShownFace[i]);
-    t.Picture1(10 + i) = PictureOf(m.TrayFace[i]);
-  }
-}
-
 void Game::Bubble(std::int16_t SortHowMany) {
   bool Swapped = true;
   for (int Limit = SortHowMany - 1; Swapped; --Limit) {

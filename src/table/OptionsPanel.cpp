@@ -92,7 +92,7 @@ void OptionsPanel::BuildSwitches() {
   }
   Sound->addLayout(OnOff);
   cmdCustomizeSounds = AddTo(Sound, MakeButton(this, QStringLiteral("cmdCustomizeSounds"), QStringLiteral("Customize"),
-                                               [this] { Run(&OptionsPanel::customizeSoundsAsked); }));
+                                               [this] { form.Command([this] { emit customizeSoundsAsked(); }); }));
   cmdCustomizeSounds->setFixedHeight(CommandHeight);
 }
 
@@ -133,18 +133,13 @@ void OptionsPanel::BuildSwatches() {
 
 void OptionsPanel::BuildCommands() {
   ARCmdSaveOptions = MakeButton(this, QStringLiteral("ARCmdSaveOptions"), QStringLiteral("Save"),
-                                [this] { Run(&OptionsPanel::ARCmdSaveOptions_Click); });
+                                [this] { form.Command([this] { game.ARCmdSaveOptions_Click(); }); });
   ARCmdCancelOptions = MakeButton(this, QStringLiteral("ARCmdCancelOptions"), QStringLiteral("Cancel"),
-                                  [this] { Run(&OptionsPanel::ARCmdCancelOptions_Click); });
+                                  [this] { form.Command([this] { game.ARCmdCancelOptions_Click(); }); });
   for (ButtonPlus* Command : {ARCmdSaveOptions, ARCmdCancelOptions}) {
     Command->setFixedHeight(CommandHeight);
     frames->addWidget(Command);
   }
-}
-
-/// A press of a button, which the gate may keep out.
-void OptionsPanel::Run(void (OptionsPanel::*Command)()) {
-  form.Handle([=, this] { game.Command([=, this] { (this->*Command)(); }); });
 }
 
 void OptionsPanel::ColourControls() {
@@ -174,21 +169,14 @@ void OptionsPanel::ShowWholeRows() {
   lstSkin->scrollToItem(lstSkin->currentItem());
 }
 
-void OptionsPanel::cmdOptions_Click() {
-  if (open || game.m.Quitting) return;
-  open = true;
-  game.m.PauseComputer = true;
-  game.t.picGameTray.Enabled = false;  // and with it everything on the table
+void OptionsPanel::Open() {
   ShowSampleDice();
   LoadOptionControls();
   show();
   ShowWholeRows();
-  game.m.ResizeBlocked = true;
   OpenStrip(form, grab(QRect(0, 0, Pixels(StripWidth), height())));
-  game.m.ResizeBlocked = false;
   form.ShowControls();
   ARCmdSaveOptions->setFocus();
-  game.desktop.PlaySoundFile(game.Settings.GetSound("GameOver"), false);
 }
 
 /// The preview on the table: the six faces of the chosen set, and the text colour.
@@ -197,7 +185,6 @@ void OptionsPanel::ShowSampleDice() {
   lblColor_Click(settings.TextColourIndex());
   form.Wears.Covered = true;
   if (const DiceSet* Set = FindDiceSet(cboDiceColor->currentText())) ShowSet(*Set, Set->Open);
-  game.desktop.PlaySoundFile(game.Settings.GetSound("GameOver"), false);
 }
 
 void OptionsPanel::SnapshotOptions() {
@@ -256,20 +243,16 @@ void OptionsPanel::lblColor_Click(int Index) {
   if (form.Wears.Covered) form.ShowControls();
 }
 
-void OptionsPanel::ARCmdSaveOptions_Click() {
-  if (!open) return;
-  {
-    const WrittenTogether Save = settings.WriteTogether();
+void OptionsPanel::Settle(bool Save) {
+  const WrittenTogether All = settings.WriteTogether();
+  if (Save) {
     StoreOptionControls();
     ApplyOptions();
+  } else {
+    RevertOptions();
   }
-  Close();
-}
-
-void OptionsPanel::ARCmdCancelOptions_Click() {
-  if (!open) return;
-  RevertOptions();
-  Close();
+  form.Wears.SampleSet = 0;
+  form.Wears.Covered = false;
 }
 
 void OptionsPanel::StoreOptionControls() {
@@ -282,7 +265,6 @@ void OptionsPanel::StoreOptionControls() {
 }
 
 void OptionsPanel::ApplyOptions() {
-  if (!settings.MarkScorers()) game.t.picMarker.fill(false);
   if (backgroundChosen)
     settings.setBackground(form.Wears.Background);  // else also one that the list doesn't hold stays
   for (int i = 0; i < 8; ++i) {
@@ -295,26 +277,15 @@ void OptionsPanel::ApplyOptions() {
 }
 
 void OptionsPanel::RevertOptions() {
-  const WrittenTogether Save = settings.WriteTogether();
   form.Wears = before;
   settings.setBackground(before.Background);
   settings.setDieColour(SavedDieColour);
 }
 
-/// The window shrinks again. What the buttons may do now is the game's record, not what they could at the opening.
 void OptionsPanel::Close() {
-  open = false;
-  form.Wears.SampleSet = 0;
-  form.Wears.Covered = false;
-  game.RedrawDice();
-  game.t.picGameTray.Enabled = true;
   form.ShowControls();
-  game.m.ResizeBlocked = true;
   CloseStrip(form);
   hide();
-  game.m.ResizeBlocked = false;
-  game.m.PauseComputer = false;
-  form.ShowControls();
   form.setFocus();
 }
 

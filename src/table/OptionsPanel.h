@@ -34,11 +34,11 @@ class OptionsPanel : public QWidget {
   /// The pictures of all the folders are offered; of two with the same name that in the folder named first.
   OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QStringList BackgroundFolders);
 
-  bool IsOpen() const { return open; }
-  /// Opens the panel; the table window grows to the left.
-  void cmdOptions_Click();
-  void ARCmdSaveOptions_Click();
-  void ARCmdCancelOptions_Click();
+  /// The table window grows to the left, and the panel comes to light there.
+  void Open();
+  /// Stores what was chosen, or takes the preview back.
+  void Settle(bool Save);
+  void Close();
 
   std::array<QRadioButton*, 3> optComputerSpeed;
   QCheckBox* chkSortDice;
@@ -62,9 +62,7 @@ class OptionsPanel : public QWidget {
   void BuildSwatches();
   void BuildCommands();
   void ColourControls();
-  void Run(void (OptionsPanel::*Command)());
   void ShowWholeRows();
-  void Close();
   void ShowSampleDice();
   void SnapshotOptions();
   void LoadOptionControls();
@@ -81,7 +79,6 @@ class OptionsPanel : public QWidget {
   GameSettings& settings;
   Backgrounds backgrounds;
   QVBoxLayout* frames;
-  bool open = false;
   bool backgroundChosen = false;  ///< a picture, or none, has been clicked since the opening
 
   // How things were at the opening.

@@ -8,10 +8,7 @@
 #include <QTimer>
 #include <QWheelEvent>
 
-#include <algorithm>
-#include <functional>
 #include <utility>
-#include <vector>
 
 #include "engine/ScoreDice.h"
 #include "storage/FileAccess.h"
@@ -27,152 +24,15 @@ namespace blunko {
 
 namespace {
 
-// All in twips.
-constexpr int WindowWidth = 5865, WindowHeight = 7695;
-constexpr int TableWidth = 5895;
-constexpr int TrayLeft = 195, TrayWidth = 5470, TrayHeight = 945;
-constexpr int Tray1Top = 435, Tray2Top = 1380;
-constexpr int SampleTop = 1410;
-constexpr int DieTop = 45, DieSide = 816;
-constexpr std::array<int, 6> MarkerLeft{603, 1503, 2388, 3288, 4188, 5073};
-constexpr int MarkerTop = 300, MarkerSide = 75;
-constexpr int DividerTop = 120, DividerWidth = 75, DividerHeight = 870;
-
-/// Draws one of the numbered bitmaps in its top left corner.
-class BitmapBox : public QWidget {
- public:
-  BitmapBox(int Number, Bitmaps& Pictures, QWidget* Parent) : QWidget(Parent), number(Number), bitmaps(Pictures) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-  }
-
- protected:
-  void paintEvent(QPaintEvent*) override { QPainter(this).drawPixmap(0, 0, bitmaps.Get(number, devicePixelRatioF())); }
-
- private:
-  int number;
-  Bitmaps& bitmaps;
-};
-
 QColor OfBgr(std::uint32_t Colour) { return QColor(Colour & 0xFF, (Colour >> 8) & 0xFF, (Colour >> 16) & 0xFF); }
 
 }  // namespace
 
-frmMain::frmMain(Game& Table, Dress Clothes) : QWidget(nullptr, Qt::Window), Wears(std::move(Clothes)), game(Table) {
-  setObjectName(QStringLiteral("frmMain"));
-  setWindowTitle(QStringLiteral(" Tollmoor Blunko"));
-  setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                 Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
-  setFocusPolicy(Qt::ClickFocus);  // keys work without a control; Tab stops on what is seen
-  PlaceTrays();
-  PlaceButtons();
-  PlaceLabels();
-  BuildMenus();
-  ConnectControls();
-  OrderTabStops();
-  setFixedSize(Pixels(WindowWidth), Pixels(WindowHeight));
-  FixButtonColours(*this);
-}
-
-void frmMain::PlaceTrays() {
-  picGameTray = Placed(Make<QWidget>(this, QStringLiteral("picGameTray")), TwipsRect(0, 0, TableWidth, 7725));
-  picGameTray->setAutoFillBackground(true);
-  // A little wider than the window. The shipped pictures have just twice this size, in which they are quickly decoded.
-  Image1 =
-      Placed(Make<StretchedPicture>(picGameTray, QStringLiteral("Image1")), TwipsRect(0, 0, TableWidth, WindowHeight));
+frmMain::frmMain(Game& Table, Dress Clothes) : Wears(std::move(Clothes)), game(Table), focus(*this) {
   ShowBackground(Wears.Background);
-  const auto Tray = [this](const QString& Name, int Top, bool HasTrayAbove) {
-    return Placed(Make<DiceTray>(picGameTray, Name, HasTrayAbove), TwipsRect(TrayLeft, Top, TrayWidth, TrayHeight));
-  };
-  picTray1 = Tray(QStringLiteral("picTray1"), Tray1Top, false);
-  picTray2 = Tray(QStringLiteral("picTray2"), Tray2Top, true);
-  SetName(*picGameTray, QStringLiteral("Table"));
-  SetName(*picTray1, QStringLiteral("Dice on the table"));
-  SetName(*picTray2, QStringLiteral("Dice set aside"));
-  for (int i = 0; i < 6; ++i) {
-    for (const int Index : {i, 10 + i}) {
-      auto* Box = Make<DieBox>(Index < 10 ? picTray1 : picTray2, QStringLiteral("Picture1(%1)").arg(Index), Index,
-                               std::ref(Pictures));
-      Picture1[Index < 10 ? i : 6 + i] = Placed(Box, TwipsRect(DieBoxLeft[i], DieTop, DieSide, DieSide));
-    }
-    auto* Mark = Make<BitmapBox>(picGameTray, QStringLiteral("picMarker(%1)").arg(i), MarkerBitmap, std::ref(Pictures));
-    SetName(*Mark, QStringLiteral("Mark over die %1").arg(i + 1));
-    picMarker[i] = Placed(Mark, TwipsRect(MarkerLeft[i], MarkerTop, MarkerSide, MarkerSide));
-  }
-  pctDivider = Placed(Make<BitmapBox>(picTray2, QStringLiteral("pctDivider"), DividerBitmap, std::ref(Pictures)),
-                      TwipsRect(0, DividerTop, DividerWidth, DividerHeight));
-  SetName(*pctDivider, QStringLiteral("Divider"));
-  picSampleDice = Tray(QStringLiteral("picSampleDice"), SampleTop, false);
-  PlaceCover();
-}
-
-/// The words on the plate that covers the lower tray.
-void frmMain::PlaceCover() {
-  auto* lblSampleDice = MakeText(picSampleDice, QStringLiteral("lblSampleDice"), QStringLiteral("(Sample Dice)"),
-                                 FontOf(Typeface::Verdana, 11.25, true));
-  lblSampleDice->setAutoFillBackground(true);
-  // Dark blue letters need a light ground on every set's colour.
-  SetColours(*lblSampleDice, {{QPalette::Window, QColor(232, 238, 250)}, {QPalette::WindowText, QColor(0, 0, 128)}});
-  Placed(lblSampleDice, QRect(picSampleDice->width() / 2 - 75, picSampleDice->height() / 2 - 13, 150, 26));
-}
-
-void frmMain::PlaceButtons() {
-  const auto Add = [this](const char* Name, const QString& Caption, const QRect& Place) {
-    return Placed(Make<ButtonPlus>(picGameTray, QLatin1String(Name), Caption), Place);
-  };
-  ARCmdNewGame = Add("ARCmdNewGame", QStringLiteral("New Game"), QRect(108, 162, 175, 37));
-  cmdRoll = Add("cmdRoll", QStringLiteral("Roll Dice"), QRect(13, 162, 175, 37));
-  cmdPassDice = Add("cmdPassDice", QStringLiteral("Pass Dice"), QRect(203, 162, 175, 37));
-  for (ButtonPlus* Big : {ARCmdNewGame, cmdRoll, cmdPassDice}) Big->setFont(FontOf(Typeface::Verdana, 11.25, true));
-  cmdOptions = Add("cmdOptions", QStringLiteral("Options"), QRect(13, 464, 115, 36));
-  cmdHighRollers = Add("cmdHighRollers", QStringLiteral("High Rollers"), QRect(138, 464, 115, 36));
-  cmdExit = Add("cmdExit", QStringLiteral("Exit"), QRect(263, 464, 115, 36));
-}
-
-void frmMain::PlaceLabels() {
-  const auto Text = [this](const char* Name, const QString& Caption, QRect Place, double Points, bool Bold,
-                           Qt::Alignment Side) {
-    return Placed(MakeText<FitLabel>(picGameTray, QLatin1String(Name), Caption, FontOf(Typeface::Verdana, Points, Bold),
-                                     Side | Qt::AlignVCenter),
-                  Place);
-  };
-  lblStatus = Text("lblStatus", {}, QRect(5, Pixels(StatusTop), 381, 30), 15.75, false, Qt::AlignHCenter);
-  lblLastRoll = Text("lblLastRoll", {}, QRect(5, 237, 381, 23), 11.25, true, Qt::AlignHCenter);
-  Label1 = Text("Label1", QStringLiteral("Current Player:"), QRect(13, 300, 178, 26), 11.25, true, Qt::AlignRight);
-  lblPlayer = Text("lblPlayer", {}, QRect(200, 300, 180, 26), 11.25, true, Qt::AlignLeft);
-  lblTurnScoreLabel = Text("lblTurnScoreLabel", QStringLiteral("Score This Turn:"), QRect(13, 330, 178, 26), 11.25,
-                           true, Qt::AlignRight);
-  lblTurnScore = Text("lblTurnScore", {}, QRect(200, 330, 180, 26), 11.25, true, Qt::AlignLeft);
-  for (FitLabel* Score : {Label1, lblPlayer, lblTurnScoreLabel, lblTurnScore}) {
-    Score->setAttribute(Qt::WA_TransparentForMouseEvents);
-  }
-  const auto MenuWord = [this](const char* Name, const QString& Caption, const QRect& Place) {
-    auto* Made = Placed(Make<WordButton>(picGameTray, QLatin1String(Name), Caption), Place);
-    Made->setFont(FontOf(Typeface::Verdana, 8.25));
-    return Made;
-  };
-  lblMnuGame = MenuWord("lblMnuGame", QStringLiteral("Game"), QRect(6, 0, 50, 20));
-  lblMnuHelp = MenuWord("lblMnuHelp", QStringLiteral("Help"), QRect(58, 0, 44, 20));
-}
-
-void frmMain::BuildMenus() {
-  const auto Entry = [this](QMenu* Menu, const char* Name, const QString& Caption, auto Run) {
-    QAction* Made = Menu->addAction(Caption);
-    Made->setObjectName(QLatin1String(Name));
-    connect(Made, &QAction::triggered, this, Run);
-  };
-  mnuGame = new QMenu(this);
-  mnuGame->setObjectName(QStringLiteral("mnuGame"));
-  Entry(mnuGame, "mnuNewGame", QStringLiteral("&New Game  (F2)"),
-        [this] { Handle([this] { game.PersonBeginsGame(); }); });
-  Entry(mnuGame, "mnuOptions", QStringLiteral("&Options..."), [this] { Ask(&frmMain::optionsAsked); });
-  mnuGame->addSeparator()->setObjectName(QStringLiteral("mnuSep1"));
-  Entry(mnuGame, "mnuExit", QStringLiteral("&Exit"), [this] { Handle([this] { game.PersonCloses(); }); });
-  mnuHelpMe = new QMenu(this);
-  mnuHelpMe->setObjectName(QStringLiteral("mnuHelpMe"));
-  Entry(mnuHelpMe, "mnuHowToPlay", QStringLiteral("How to Play..."), [this] { Ask(&frmMain::howToPlayAsked); });
-  Entry(mnuHelpMe, "mnuGoHelp", QStringLiteral("&Show Tollmoor Blunko Help..."), [this] { Ask(&frmMain::helpAsked); });
-  mnuHelpMe->addSeparator()->setObjectName(QStringLiteral("mnuSep99"));
-  Entry(mnuHelpMe, "mnuAbout", QStringLiteral("About Tollmoor Blunko..."), [this] { Ask(&frmMain::aboutAsked); });
+  PlaceRest();
+  focus.OrderTabStops();
+  ConnectControls();
 }
 
 void frmMain::ConnectControls() {
@@ -186,26 +46,29 @@ void frmMain::ConnectControls() {
       Handle([=, this] { game.PersonClicksTray(Row, static_cast<std::int16_t>(Button)); });
     });
   }
-  connect(cmdRoll, &QPushButton::clicked, this, [this] { Handle([this] { game.PersonRolls(); }); });
-  connect(cmdPassDice, &QPushButton::clicked, this, [this] { Handle([this] { game.PersonPasses(); }); });
-  connect(ARCmdNewGame, &QPushButton::clicked, this, [this] { Handle([this] { game.ARCmdNewGame_Click(); }); });
-  connect(cmdExit, &QPushButton::clicked, this, [this] { Handle([this] { game.PersonCloses(); }); });
-  connect(cmdOptions, &QPushButton::clicked, this, [this] { Ask(&frmMain::optionsAsked); });
-  connect(cmdHighRollers, &QPushButton::clicked, this, [this] { Ask(&frmMain::highRollersAsked); });
-  for (const auto& [Word, Menu] : {std::pair(lblMnuGame, mnuGame), {lblMnuHelp, mnuHelpMe}}) {
-    connect(Word, &QPushButton::clicked, this,
-            [Word = Word, Menu = Menu] { Menu->popup(Word->mapToGlobal(QPoint(0, Word->height()))); });
-    // What the menu opens may keep the word from hearing that the mouse has left it.
-    connect(Menu, &QMenu::aboutToHide, Word, [Word = Word] {
-      Word->setAttribute(Qt::WA_UnderMouse, Word->rect().contains(Word->mapFromGlobal(QCursor::pos())));
-      Word->update();
-    });
-  }
-}
-
-/// A command that isn't one of the game's own goes through the game's gate as well.
-void frmMain::Ask(void (frmMain::*Signal)()) {
-  Handle([=, this] { game.Command([=, this] { emit(this->*Signal)(); }); });
+  const auto Pressed = [this](QPushButton* Button, auto Run) {
+    connect(Button, &QPushButton::clicked, this, [=, this] { Handle(Run); });
+  };
+  const auto Chosen = [this](QAction* Entry, auto Run) {
+    connect(Entry, &QAction::triggered, this, [=, this] { Handle(Run); });
+  };
+  const auto Ask = [this](void (frmMain::*Signal)()) {
+    return [=, this] { game.Command([=, this] { emit(this->*Signal)(); }); };
+  };
+  const auto OpenOptions = [this] { game.cmdOptions_Click(); };
+  const auto Close = [this] { game.PersonCloses(); };
+  Pressed(cmdRoll, [this] { game.PersonRolls(); });
+  Pressed(cmdPassDice, [this] { game.PersonPasses(); });
+  Pressed(ARCmdNewGame, [this] { game.ARCmdNewGame_Click(); });
+  Pressed(cmdOptions, OpenOptions);
+  Pressed(cmdHighRollers, Ask(&frmMain::highRollersAsked));
+  Pressed(cmdExit, Close);
+  Chosen(mnuNewGame, [this] { game.PersonBeginsGame(); });
+  Chosen(mnuOptions, OpenOptions);
+  Chosen(mnuExit, Close);
+  Chosen(mnuHowToPlay, Ask(&frmMain::howToPlayAsked));
+  Chosen(mnuGoHelp, Ask(&frmMain::helpAsked));
+  Chosen(mnuAbout, Ask(&frmMain::aboutAsked));
 }
 
 void frmMain::ShowControls() {
@@ -241,18 +104,10 @@ void frmMain::ShowControls() {
 }
 
 void frmMain::Show(ButtonPlus* Widget, const Button& Control) {
-  const bool Usable = Control.Enabled && Control.Visible;
-  // A button that goes off hands the focus to the table, not to the button that happens to come next; also while a
-  // dialog is active.
-  if (!Usable && focusWidget() == Widget) {
-    setFocus();
-    rollHadFocus = Widget == cmdRoll;
-  }
+  if (!Control.Enabled || !Control.Visible) focus.Leave(Widget);
   Widget->setEnabled(Control.Enabled);
   Widget->setVisible(Control.Visible);
-  if (Widget == cmdRoll && Widget->isEnabled() && std::exchange(rollHadFocus, false) && focusWidget() == this) {
-    Widget->setFocus();
-  }
+  if (Widget == cmdRoll && Widget->isEnabled()) focus.Return(Widget);
 }
 
 void frmMain::Show(FitLabel* Widget, const std::string& Caption, bool Visible, int Top) {
@@ -283,35 +138,14 @@ void frmMain::DescribeDice() {
   }
 }
 
-/// Dice that go off with their tray hand the focus to the table, not to the button that happens to come next.
 void frmMain::EnableTray(DiceTray* Tray, bool Enabled) {
-  if (!Enabled && Tray->isAncestorOf(focusWidget())) setFocus();
+  if (!Enabled) focus.Leave(Tray);
   Tray->setEnabled(Enabled);
 }
 
-/// A die that goes hands the focus to the table.
 void frmMain::ShowDie(std::size_t Box, int Picture) {
-  if (Picture == 0 && focusWidget() == Picture1[Box]) {
-    setFocus();
-    focusedRow = Box < 6 ? 0 : 6;
-  }
+  if (Picture == 0) focus.Leave(Picture1[Box]);
   Picture1[Box]->setPicture(Picture);
-}
-
-/// When the handler has done with the dice, the focus is again where it was among them: on the first one that is left.
-void frmMain::KeepFocusOnDice() {
-  if (!focusedRow) return;
-  const auto Row = Picture1.begin() + *std::exchange(focusedRow, std::nullopt);
-  const auto First = std::find_if(Row, Row + 6, [](DieBox* Box) { return Box->Picture() != 0 && Box->isEnabled(); });
-  if (First != Row + 6 && focusWidget() == this) (*First)->setFocus();
-}
-
-/// As the eye goes: from the menus over the dice to the buttons.
-void frmMain::OrderTabStops() {
-  std::vector<QWidget*> Order{lblMnuGame, lblMnuHelp};
-  Order.insert(Order.end(), Picture1.begin(), Picture1.end());
-  Order.insert(Order.end(), {ARCmdNewGame, cmdRoll, cmdPassDice, cmdOptions, cmdHighRollers, cmdExit});
-  for (std::size_t i = 1; i < Order.size(); ++i) setTabOrder(Order[i - 1], Order[i]);
 }
 
 /// The picture of a path; none for "(None)", and for a file that is no picture or costs too much.
@@ -353,7 +187,7 @@ void frmMain::mouseReleaseEvent(QMouseEvent* Event) {
   const QRect Scores = Label1->geometry() | lblTurnScore->geometry();
   const bool Counts = Event->button() == Qt::LeftButton && picGameTray->isEnabled();
   if (Counts && Scores.contains(picGameTray->mapFrom(this, Event->position().toPoint()))) {
-    Ask(&frmMain::scorePadAsked);
+    Command([this] { emit scorePadAsked(); });
   }
 }
 
@@ -367,7 +201,7 @@ void frmMain::showEvent(QShowEvent* Event) {
   if (activatedBefore) return;
   activatedBefore = true;
   ARCmdNewGame->setFocus();
-  QTimer::singleShot(0, this, [this] { Ask(&frmMain::firstShown); });
+  QTimer::singleShot(0, this, [this] { Command([this] { emit firstShown(); }); });
 }
 
 void frmMain::closeEvent(QCloseEvent* Event) {

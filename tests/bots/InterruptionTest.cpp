@@ -58,8 +58,7 @@ class Vandal {
     if (Kind == 8 && Pick(4) == 0) game.Form_KeyUp(113, static_cast<std::int16_t>(Pick(3)));
     if (Kind == 9) Pick(2) == 0 ? game.ARCmdNewGame_Click() : game.PersonClicksTray(1 + Pick(2), RightButton);
     if (Kind == 10 && (PanelOpen || game.TakesCommands())) {  // the options panel opens and closes
-      table.t.picGameTray.Enabled = PanelOpen;
-      table.m.PauseComputer = !PanelOpen;
+      PanelOpen ? game.ARCmdSaveOptions_Click() : game.cmdOptions_Click();
     }
     if (Kind == 11 && Pick(30) == 0) {
       screen.Answer = Pick(6) == 0;

@@ -167,7 +167,7 @@ TEST(Commands, NewGameAndTheEndAreAskedForAndClearUp) {
       {"Esc takes the other forms along", Escape, 0, false, false, false, "unload others; exit"},
       {"No: play on", CloseBox, 0, true, false, false, "beep; " + Question},
       {"Yes", Escape, 0, true, false, true, "unload others; beep; " + Question + "; exit"},
-      {"Esc closes the panel first", Escape, 0, true, true, true, "cancel options"},
+      {"Esc closes the panel first", Escape, 0, true, true, true, "cancel options; hide options"},
       {"the close box doesn't", CloseBox, 0, true, true, true, "beep; " + Question + "; exit"},
       {"F2: Yes", F2, 0, true, false, true, "beep; " + Question + "; new game"},
       {"Shift doesn't ask", F2, ShiftAlone, true, false, false, "beep; new game"},

@@ -123,7 +123,8 @@ struct RecordingProgram : QuietProgram, ComputerSeats {
   explicit RecordingProgram(std::vector<std::string>& Lines) : Log(Lines) {}
 
   std::vector<std::string>& Log;
-  std::function<void()> OnCongrats, OnNewGame, OnDialog;
+  std::function<void()> OnCongrats, OnNewGame, OnDialog, OnShowOptions, OnHideOptions;
+  std::function<void(bool)> OnSettleOptions;
   std::function<void(GameEvent)> OnEvent;
   int PadUpdates = 0;
 
@@ -145,7 +146,11 @@ struct RecordingProgram : QuietProgram, ComputerSeats {
   }
   void ShowCongrats() override { Open("congrats", OnCongrats); }
   void ShowNewGame() override { Open("new game", OnNewGame); }
-  void CancelOptions() override { Log.push_back("cancel options"); }
+  void ShowOptions() override { OnShowOptions ? OnShowOptions() : Log.push_back("show options"); }
+  void SettleOptions(bool Save) override {
+    OnSettleOptions ? OnSettleOptions(Save) : Log.push_back(Save ? "save options" : "cancel options");
+  }
+  void HideOptions() override { OnHideOptions ? OnHideOptions() : Log.push_back("hide options"); }
   void UnloadOtherForms() override { Log.push_back("unload others"); }
   void ExitProgram() override { Log.push_back("exit"); }
   void Abort() override { Log.push_back("abort"); }

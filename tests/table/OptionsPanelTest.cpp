@@ -37,6 +37,9 @@ struct DressedTable : Home, TableForm {
 
   explicit DressedTable(const QByteArray& InfoText) : Home(InfoText), TableForm(&*View) {
     Screen.OnEvents = [this] { Form.ShowControls(); };
+    Others.OnShowOptions = [this] { Panel->Open(); };
+    Others.OnSettleOptions = [this](bool Save) { Panel->Settle(Save); };
+    Others.OnHideOptions = [this] { Panel->Close(); };
     Form.Wears.Trays = StartColour(Settings->DieColour());
     Form.Wears.TextColour = Settings->TextColour();
     Form.Wears.Background = Settings->Background();
@@ -60,7 +63,7 @@ TEST(OptionsPanel, SaveKeepsEveryChoiceAndCancelTakesItBack) {
     DressedTable Dressed("TextColor=3\n");
     OptionsPanel& Panel = *Dressed.Panel;
     frmMain& Form = Dressed.Form;
-    Panel.cmdOptions_Click();
+    Form.cmdOptions->click();
     Panel.optComputerSpeed[2]->click();
     Panel.chkSortDice->click();
     Panel.chkMarkScorers->click();
@@ -98,7 +101,7 @@ TEST(OptionsPanel, TrayColoursFollowTheMomentAtWhichASetIsPainted) {
     SCOPED_TRACE(Why);
     DressedTable Dressed("DieColor=" + QByteArray::number(Base) + "\n");
     EXPECT_EQ(Dressed.Form.Wears.Trays, Start);
-    Dressed.Panel->cmdOptions_Click();
+    Dressed.Form.cmdOptions->click();
     EXPECT_EQ(Dressed.Form.Wears.Trays, Open);
     if (Click != nullptr) Dressed.ChooseSet(Click);
     Dressed.Close(Save);
@@ -132,7 +135,7 @@ TEST(OptionsPanel, DiceOfARunningGameComeBackInTheChosenSetWithTheChosenMarks) {
     Dressed.Play(Faces, Taken);
     const TableControls Before = Dressed.t;
     EXPECT_EQ(Form.picMarker[1]->isVisible(), Before.picMarker[1]);
-    Dressed.Panel->cmdOptions_Click();
+    Dressed.Form.cmdOptions->click();
     Dressed.ChooseSet("Blue");
     Dressed.Panel->chkMarkScorers->click();
     EXPECT_EQ(Form.Picture1[0]->Picture(), 101);
@@ -157,7 +160,7 @@ TEST(OptionsPanel, TheTableStandsStill) {
   Form.move(300, 200);
   const QPoint Place = Form.picGameTray->mapToGlobal(QPoint(0, 0));
   Dressed.TakeLog();
-  Dressed.Panel->cmdOptions_Click();
+  Dressed.Form.cmdOptions->click();
   EXPECT_EQ(Form.picGameTray->mapToGlobal(QPoint(0, 0)), Place);
   EXPECT_THAT(Dressed.TakeLog(), testing::ElementsAre("sound /tmp/over.wav", "sound /tmp/over.wav"));
   EXPECT_TRUE(Dressed.m.PauseComputer);
@@ -171,7 +174,7 @@ TEST(OptionsPanel, TheTableStandsStill) {
 TEST(OptionsPanel, APictureThatVanishedIsNotSaved) {
   DressedTable Dressed("");
   OptionsPanel& Panel = *Dressed.Panel;
-  Panel.cmdOptions_Click();
+  Dressed.Form.cmdOptions->click();
   EXPECT_EQ(Panel.lstSkin->currentRow(), 2) << "(None), Forest, Satin";
   QFile::remove(Dressed.Picture("Forest.jpg"));
   Panel.lstSkin->setCurrentRow(1);

@@ -1,0 +1,43 @@
+#include "table/TableFocus.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "table/TableParts.h"
+
+namespace blunko {
+
+void TableFocus::OrderTabStops() {
+  std::vector<QWidget*> Order{form.lblMnuGame, form.lblMnuHelp};
+  Order.insert(Order.end(), form.Picture1.begin(), form.Picture1.end());
+  for (QWidget* Button :
+       {form.ARCmdNewGame, form.cmdRoll, form.cmdPassDice, form.cmdOptions, form.cmdHighRollers, form.cmdExit}) {
+    Order.push_back(Button);
+  }
+  for (std::size_t i = 1; i < Order.size(); ++i) QWidget::setTabOrder(Order[i - 1], Order[i]);
+}
+
+void TableFocus::Leave(const QWidget* Going) {
+  const QWidget* const Focus = form.focusWidget();
+  if (Focus != Going && !Going->isAncestorOf(Focus)) return;
+  form.setFocus();
+  left = Going;
+}
+
+void TableFocus::Return(QWidget* Back) {
+  if (left != Back) return;
+  left = nullptr;
+  if (form.focusWidget() == &form) Back->setFocus();
+}
+
+void TableFocus::HandlerEnded() {
+  const auto All = form.Picture1.begin();
+  const auto Box = std::find(All, form.Picture1.end(), left) - All;
+  if (Box == std::ssize(form.Picture1)) return;
+  left = nullptr;
+  const auto Row = All + Box / 6 * 6;
+  const auto First = std::find_if(Row, Row + 6, [](DieBox* Die) { return Die->Picture() != 0 && Die->isEnabled(); });
+  if (First != Row + 6 && form.focusWidget() == &form) (*First)->setFocus();
+}
+
+}  // namespace blunko

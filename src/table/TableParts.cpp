@@ -1,0 +1,173 @@
+#include "table/TableParts.h"
+
+#include <QMenu>
+#include <QPainter>
+
+#include <functional>
+
+#include "engine/TableControls.h"
+#include "widgets/Fonts.h"
+#include "widgets/FormBuilder.h"
+#include "widgets/Twips.h"
+
+namespace blunko {
+
+namespace {
+
+// All in twips.
+constexpr int WindowWidth = 5865, WindowHeight = 7695;
+constexpr int TableWidth = 5895;
+constexpr int TrayLeft = 195, TrayWidth = 5470, TrayHeight = 945;
+constexpr int Tray1Top = 435, Tray2Top = 1380;
+constexpr int SampleTop = 1410;
+constexpr int DieTop = 45, DieSide = 816;
+constexpr std::array<int, 6> MarkerLeft{603, 1503, 2388, 3288, 4188, 5073};
+constexpr int MarkerTop = 300, MarkerSide = 75;
+constexpr int DividerTop = 120, DividerWidth = 75, DividerHeight = 870;
+
+/// Draws one of the numbered bitmaps in its top left corner.
+class BitmapBox : public QWidget {
+ public:
+  BitmapBox(int Number, Bitmaps& Pictures, QWidget* Parent) : QWidget(Parent), number(Number), bitmaps(Pictures) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override { QPainter(this).drawPixmap(0, 0, bitmaps.Get(number, devicePixelRatioF())); }
+
+ private:
+  int number;
+  Bitmaps& bitmaps;
+};
+
+}  // namespace
+
+TableParts::TableParts() : QWidget(nullptr, Qt::Window) {
+  setObjectName(QStringLiteral("frmMain"));
+  setWindowTitle(QStringLiteral(" Tollmoor Blunko"));
+  setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                 Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
+  setFocusPolicy(Qt::ClickFocus);  // keys work without a control; Tab stops on what is seen
+  setFixedSize(Pixels(WindowWidth), Pixels(WindowHeight));
+  PlaceTrays();
+}
+
+void TableParts::PlaceRest() {
+  PlaceButtons();
+  PlaceLabels();
+  BuildMenus();
+  FixButtonColours(*this);
+}
+
+void TableParts::PlaceTrays() {
+  picGameTray = Placed(Make<QWidget>(this, QStringLiteral("picGameTray")), TwipsRect(0, 0, TableWidth, 7725));
+  picGameTray->setAutoFillBackground(true);
+  // A little wider than the window. The shipped pictures have just twice this size, in which they are quickly decoded.
+  Image1 =
+      Placed(Make<StretchedPicture>(picGameTray, QStringLiteral("Image1")), TwipsRect(0, 0, TableWidth, WindowHeight));
+  const auto Tray = [this](const QString& Name, int Top, bool HasTrayAbove) {
+    return Placed(Make<DiceTray>(picGameTray, Name, HasTrayAbove), TwipsRect(TrayLeft, Top, TrayWidth, TrayHeight));
+  };
+  picTray1 = Tray(QStringLiteral("picTray1"), Tray1Top, false);
+  picTray2 = Tray(QStringLiteral("picTray2"), Tray2Top, true);
+  SetName(*picGameTray, QStringLiteral("Table"));
+  SetName(*picTray1, QStringLiteral("Dice on the table"));
+  SetName(*picTray2, QStringLiteral("Dice set aside"));
+  for (int i = 0; i < 6; ++i) {
+    for (const int Index : {i, 10 + i}) {
+      auto* Box = Make<DieBox>(Index < 10 ? picTray1 : picTray2, QStringLiteral("Picture1(%1)").arg(Index), Index,
+                               std::ref(Pictures));
+      Picture1[Index < 10 ? i : 6 + i] = Placed(Box, TwipsRect(DieBoxLeft[i], DieTop, DieSide, DieSide));
+    }
+    auto* Mark = Make<BitmapBox>(picGameTray, QStringLiteral("picMarker(%1)").arg(i), MarkerBitmap, std::ref(Pictures));
+    SetName(*Mark, QStringLiteral("Mark over die %1").arg(i + 1));
+    picMarker[i] = Placed(Mark, TwipsRect(MarkerLeft[i], MarkerTop, MarkerSide, MarkerSide));
+  }
+  pctDivider = Placed(Make<BitmapBox>(picTray2, QStringLiteral("pctDivider"), DividerBitmap, std::ref(Pictures)),
+                      TwipsRect(0, DividerTop, DividerWidth, DividerHeight));
+  SetName(*pctDivider, QStringLiteral("Divider"));
+  picSampleDice = Tray(QStringLiteral("picSampleDice"), SampleTop, false);
+  PlaceCover();
+}
+
+/// The words on the plate that covers the lower tray.
+void TableParts::PlaceCover() {
+  auto* lblSampleDice = MakeText(picSampleDice, QStringLiteral("lblSampleDice"), QStringLiteral("(Sample Dice)"),
+                                 FontOf(Typeface::Verdana, 11.25, true));
+  lblSampleDice->setAutoFillBackground(true);
+  // Dark blue letters need a light ground on every set's colour.
+  SetColours(*lblSampleDice, {{QPalette::Window, QColor(232, 238, 250)}, {QPalette::WindowText, QColor(0, 0, 128)}});
+  Placed(lblSampleDice, QRect(picSampleDice->width() / 2 - 75, picSampleDice->height() / 2 - 13, 150, 26));
+}
+
+void TableParts::PlaceButtons() {
+  const auto Add = [this](const char* Name, const QString& Caption, const QRect& Place) {
+    return Placed(Make<ButtonPlus>(picGameTray, QLatin1String(Name), Caption), Place);
+  };
+  ARCmdNewGame = Add("ARCmdNewGame", QStringLiteral("New Game"), QRect(108, 162, 175, 37));
+  cmdRoll = Add("cmdRoll", QStringLiteral("Roll Dice"), QRect(13, 162, 175, 37));
+  cmdPassDice = Add("cmdPassDice", QStringLiteral("Pass Dice"), QRect(203, 162, 175, 37));
+  for (ButtonPlus* Big : {ARCmdNewGame, cmdRoll, cmdPassDice}) Big->setFont(FontOf(Typeface::Verdana, 11.25, true));
+  cmdOptions = Add("cmdOptions", QStringLiteral("Options"), QRect(13, 464, 115, 36));
+  cmdHighRollers = Add("cmdHighRollers", QStringLiteral("High Rollers"), QRect(138, 464, 115, 36));
+  cmdExit = Add("cmdExit", QStringLiteral("Exit"), QRect(263, 464, 115, 36));
+}
+
+void TableParts::PlaceLabels() {
+  const auto Text = [this](const char* Name, const QString& Caption, QRect Place, double Points, bool Bold,
+                           Qt::Alignment Side) {
+    return Placed(MakeText<FitLabel>(picGameTray, QLatin1String(Name), Caption, FontOf(Typeface::Verdana, Points, Bold),
+                                     Side | Qt::AlignVCenter),
+                  Place);
+  };
+  lblStatus = Text("lblStatus", {}, QRect(5, Pixels(StatusTop), 381, 30), 15.75, false, Qt::AlignHCenter);
+  lblLastRoll = Text("lblLastRoll", {}, QRect(5, 237, 381, 23), 11.25, true, Qt::AlignHCenter);
+  Label1 = Text("Label1", QStringLiteral("Current Player:"), QRect(13, 300, 178, 26), 11.25, true, Qt::AlignRight);
+  lblPlayer = Text("lblPlayer", {}, QRect(200, 300, 180, 26), 11.25, true, Qt::AlignLeft);
+  lblTurnScoreLabel = Text("lblTurnScoreLabel", QStringLiteral("Score This Turn:"), QRect(13, 330, 178, 26), 11.25,
+                           true, Qt::AlignRight);
+  lblTurnScore = Text("lblTurnScore", {}, QRect(200, 330, 180, 26), 11.25, true, Qt::AlignLeft);
+  for (FitLabel* Score : {Label1, lblPlayer, lblTurnScoreLabel, lblTurnScore}) {
+    Score->setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+  const auto MenuWord = [this](const char* Name, const QString& Caption, const QRect& Place) {
+    auto* Made = Placed(Make<WordButton>(picGameTray, QLatin1String(Name), Caption), Place);
+    Made->setFont(FontOf(Typeface::Verdana, 8.25));
+    return Made;
+  };
+  lblMnuGame = MenuWord("lblMnuGame", QStringLiteral("Game"), QRect(6, 0, 50, 20));
+  lblMnuHelp = MenuWord("lblMnuHelp", QStringLiteral("Help"), QRect(58, 0, 44, 20));
+}
+
+/// A menu that pops up under its word.
+QMenu* TableParts::MenuUnder(WordButton* Word, const char* Name) {
+  auto* Menu = new QMenu(this);
+  Menu->setObjectName(QLatin1String(Name));
+  connect(Word, &QPushButton::clicked, this, [=] { Menu->popup(Word->mapToGlobal(QPoint(0, Word->height()))); });
+  // What the menu opens may keep the word from hearing that the mouse has left it.
+  connect(Menu, &QMenu::aboutToHide, Word, [Word] {
+    Word->setAttribute(Qt::WA_UnderMouse, Word->rect().contains(Word->mapFromGlobal(QCursor::pos())));
+    Word->update();
+  });
+  return Menu;
+}
+
+void TableParts::BuildMenus() {
+  const auto Entry = [](QMenu* Menu, const char* Name, const QString& Caption) {
+    QAction* Made = Menu->addAction(Caption);
+    Made->setObjectName(QLatin1String(Name));
+    return Made;
+  };
+  mnuGame = MenuUnder(lblMnuGame, "mnuGame");
+  mnuNewGame = Entry(mnuGame, "mnuNewGame", QStringLiteral("&New Game  (F2)"));
+  mnuOptions = Entry(mnuGame, "mnuOptions", QStringLiteral("&Options..."));
+  mnuGame->addSeparator()->setObjectName(QStringLiteral("mnuSep1"));
+  mnuExit = Entry(mnuGame, "mnuExit", QStringLiteral("&Exit"));
+  mnuHelpMe = MenuUnder(lblMnuHelp, "mnuHelpMe");
+  mnuHowToPlay = Entry(mnuHelpMe, "mnuHowToPlay", QStringLiteral("How to Play..."));
+  mnuGoHelp = Entry(mnuHelpMe, "mnuGoHelp", QStringLiteral("&Show Tollmoor Blunko Help..."));
+  mnuHelpMe->addSeparator()->setObjectName(QStringLiteral("mnuSep99"));
+  mnuAbout = Entry(mnuHelpMe, "mnuAbout", QStringLiteral("About Tollmoor Blunko..."));
+}
+
+}  // namespace blunko
