@@ -62,7 +62,7 @@ TEST(Congrats, EngravesTheWinnerWhenTheSoundStartsAndItsButtonsLeaveTheirWords) 
     SCOPED_TRACE(Word);
     std::string Message;
     Game.TakeLog();
-    Next.Expect<frmCongrats>([&](frmCongrats& Dialog) {
+    Next.Expect<frmCongrats>([&, Button = Button](frmCongrats& Dialog) {
       Game.Screen.OnSleep = [&] { EXPECT_EQ(Dialog.lblWinner->text(), QLatin1String("Engraving...")); };
       EXPECT_TRUE(QTest::qWaitFor([&] { return Dialog.lblWinner->text() == QLatin1String("* Ann *"); }, 5000));
       EXPECT_EQ(Game.TakeLog(), (Lines{"sleep 500", "sound GameOver"}));

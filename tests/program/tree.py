@@ -39,6 +39,7 @@ def start(program, **environment):
         listeners.append(threading.Thread(target=pyatspi.Registry.start, daemon=True))
         pyatspi.Registry.registerEventListener(on_name, "object:property-change:accessible-name")
         pyatspi.Registry.registerEventListener(on_showing, "object:state-changed:showing")
+        pyatspi.Registry.registerEventListener(lambda event: heard.append(event.any_data), "object:announcement")
         listeners[0].start()
     return subprocess.Popen([program], env={**os.environ, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
                                             "SDL_AUDIODRIVER": "dummy", **environment})
@@ -70,13 +71,13 @@ def showing():
     return [n for window in windows for n in everything(window) if n.getState().contains(pyatspi.STATE_SHOWING)]
 
 
-def find(name, role="push button"):
-    """The first one whose name begins so, or that the name tells."""
+def find(name, role="button"):
+    """The first one whose name begins so, or that the name tells. A button was called a push button once."""
     fits = name if callable(name) else lambda n: n.startswith(name)
-    return next((n for n in showing() if n.getRoleName() == role and fits(n.name or "")), None)
+    return next((n for n in showing() if n.getRoleName().removeprefix("push ") == role and fits(n.name or "")), None)
 
 
-def could_press(name, role="push button"):
+def could_press(name, role="button"):
     """Presses it, if it is there and can be pressed."""
     node = find(name, role)
     actions = node.queryAction() if node else None
@@ -86,7 +87,7 @@ def could_press(name, role="push button"):
     return False
 
 
-def press(name, role="push button"):
+def press(name, role="button"):
     wait_for(lambda: could_press(name, role), name)
 
 

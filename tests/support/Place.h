@@ -12,6 +12,7 @@ namespace blunko::test {
 /// A folder of a test's own that goes away with it.
 class Place {
  public:
+  Place() {}  // by hand: or clang makes no constant member of it
   QString Path(const QString& Name = {}) const { return Name.isEmpty() ? folder.path() : folder.filePath(Name); }
   QString Put(const QString& Name, const QByteArray& Bytes) const {
     QFile File(Path(Name));
