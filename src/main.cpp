@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QImageReader>
 #include <QLoggingCategory>
 
 #include "app/Application.h"
@@ -11,6 +12,7 @@ int main(int argc, char** argv) {
   const bool PrefersX11 = !qEnvironmentVariableIsSet("QT_QPA_PLATFORM") &&
                           qEnvironmentVariableIsSet("WAYLAND_DISPLAY") && qEnvironmentVariableIsSet("DISPLAY");
   if (PrefersX11) qputenv("QT_QPA_PLATFORM", "xcb");
+  QImageReader::setAllocationLimit(64);  // MB of a background, decoded as small as can be, but not yet stretched
   QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*=false"));  // a broken picture is no news
   const blunko::Folders Where = blunko::Folders::OfProgram();
   const blunko::IniInfo Info(Where.InfoPath());

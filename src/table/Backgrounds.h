@@ -5,7 +5,6 @@
 #include <QStringList>
 
 #include <cstdint>
-#include <map>
 
 namespace blunko {
 
@@ -24,25 +23,20 @@ class Backgrounds {
   /// Names of the pictures without their folder, sorted by character code.
   QStringList BackgroundFiles;
   /// Index in the list of text colours that goes with a picture; 0, black, without a colour file.
-  std::int16_t ColourIndexOf(const QString& Name) const;
-  QString PathOf(const QString& Name) const { return PictureFolders.value(Name) + QLatin1Char('/') + Name; }
+  std::int16_t ColourIndexOf(const QString& Name) const { return pictures.value(Name).Colour; }
+  QString PathOf(const QString& Name) const { return pictures.value(Name).Path; }
 
  private:
-  struct IgnoringCase {
-    bool operator()(const QString& Left, const QString& Right) const {
-      return Left.compare(Right, Qt::CaseInsensitive) < 0;
-    }
+  struct Picture {
+    QString Path;
+    std::int16_t Colour = 0;
   };
 
   QStringList folders;
-  QHash<QString, QString> PictureFolders;  ///< of each name
-  std::map<QString, std::int16_t, IgnoringCase> BackgroundColours;
+  QHash<QString, Picture> pictures;  ///< by their names
 };
 
 /// The number that a colour file begins with; 0 without one, and for a file that can't be read.
 std::int16_t ReadColourFile(const QString& Path);
-
-/// The names in ascending order of character code: capital letters stand before small ones.
-QStringList SortNames(const QStringList& Names);
 
 }  // namespace blunko

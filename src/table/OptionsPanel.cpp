@@ -233,6 +233,7 @@ void OptionsPanel::lstSkin_Click(int Entry) {
   backgroundChosen = true;
   const QString Name = Entry == 0 ? QString() : backgrounds.BackgroundFiles[Entry - 1];
   form.Wears.Background = Entry == 0 ? NoBackground : backgrounds.PathOf(Name);
+  form.ShowBackground();
   lblColor_Click(Entry == 0 ? 0 : backgrounds.ColourIndexOf(Name));
 }
 

@@ -22,7 +22,7 @@ constexpr int Tray1Top = 435, Tray2Top = 1380;
 constexpr int SampleTop = 1410;
 constexpr int DieTop = 45, DieSide = 816;
 constexpr std::array<int, 6> MarkerLeft{603, 1503, 2388, 3288, 4188, 5073};
-constexpr int MarkerTop = 300, MarkerSide = 75;
+constexpr int MarkerTop = 300, MarkerSide = 50;  // the first one is 45 wide: three pixels, too
 constexpr int DividerTop = 120, DividerWidth = 75, DividerHeight = 870;
 
 /// Draws one of the numbered bitmaps in its top left corner.
@@ -79,9 +79,11 @@ void TableParts::PlaceTrays() {
                                std::ref(Pictures));
       Picture1[Index < 10 ? i : 6 + i] = Placed(Box, TwipsRect(DieBoxLeft[i], DieTop, DieSide, DieSide));
     }
-    auto* Mark = Make<BitmapBox>(picGameTray, QStringLiteral("picMarker(%1)").arg(i), MarkerBitmap, std::ref(Pictures));
+    auto* Mark = Make<SvgBox>(picGameTray, QStringLiteral("picMarker(%1)").arg(i), QStringLiteral(":/dice/199.svg"));
+    Mark->setAttribute(Qt::WA_TransparentForMouseEvents);
     SetName(*Mark, QStringLiteral("Mark over die %1").arg(i + 1));
-    picMarker[i] = Placed(Mark, TwipsRect(MarkerLeft[i], MarkerTop, MarkerSide, MarkerSide));
+    picMarker[i] =
+        Placed(Mark, QRect(Pixels(MarkerLeft[i]), Pixels(MarkerTop), Pixels(MarkerSide), Pixels(MarkerSide)));
   }
   pctDivider = Placed(Make<BitmapBox>(picTray2, QStringLiteral("pctDivider"), DividerBitmap, std::ref(Pictures)),
                       TwipsRect(0, DividerTop, DividerWidth, DividerHeight));

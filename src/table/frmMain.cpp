@@ -11,9 +11,7 @@
 #include <utility>
 
 #include "engine/ScoreDice.h"
-#include "storage/FileAccess.h"
 #include "storage/GameSettings.h"
-#include "table/JpegCheck.h"
 #include "table/KeyCodes.h"
 #include "widgets/Fonts.h"
 #include "widgets/FormBuilder.h"
@@ -29,7 +27,7 @@ QColor OfBgr(std::uint32_t Colour) { return QColor(Colour & 0xFF, (Colour >> 8) 
 }  // namespace
 
 frmMain::frmMain(Game& Table, Dress Clothes) : Wears(std::move(Clothes)), game(Table), focus(*this) {
-  ShowBackground(Wears.Background);
+  ShowBackground();
   PlaceRest();
   focus.OrderTabStops();
   ConnectControls();
@@ -148,25 +146,14 @@ void frmMain::ShowDie(std::size_t Box, int Picture) {
   Picture1[Box]->setPicture(Picture);
 }
 
-/// The picture of a path; none for "(None)", and for a file that is no picture or costs too much.
-void frmMain::ShowBackground(const QString& Path) {
-  if (std::exchange(background, Path) == Path) return;
-  const bool Shown = Path != NoBackground && IsModestJpeg(ReadWholeFile(Path, LargestJpeg).value_or(QByteArray()));
-  Image1->Load(Shown ? Path : QString());
-  // On the bare table some dice lie where the pictures have their motif.
-  if (!Shown && picLooseDice == nullptr) {
-    picLooseDice = Make<SvgBox>(picGameTray, QStringLiteral("picLooseDice"), QStringLiteral(":/art/welcome.svg"));
-    Placed(picLooseDice, QRect({15, 362}, picLooseDice->sizeHint()));
-  }
-  if (picLooseDice != nullptr) picLooseDice->setVisible(!Shown);
-}
+void frmMain::ShowBackground() { Image1->Load(Wears.Background == NoBackground ? QString() : Wears.Background); }
 
 void frmMain::DrawDress() {
   if (drawn == Wears) return;
   for (DiceTray* Tray : {picTray1, picTray2}) Tray->setBackColor(Wears.Trays);
   picSampleDice->setBackColor(Wears.Cover);
   picSampleDice->setVisible(Wears.Covered);
-  ShowBackground(Wears.Background);
+  ShowBackground();
   for (FitLabel* Label : picGameTray->findChildren<FitLabel*>(Qt::FindDirectChildrenOnly)) {
     Label->setForeColor(OfBgr(Wears.TextColour));
   }

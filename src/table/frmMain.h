@@ -24,6 +24,8 @@ class frmMain : public TableParts {
   Dress Wears;
   /// Draws the records of the controls and of the dress; what has changed is on the screen when it returns.
   void ShowControls();
+  /// Shows the background anew if its file was replaced.
+  void ShowBackground();
 
   /// Runs a handler of the game, and shows what it has changed.
   template <typename Handler>
@@ -39,8 +41,6 @@ class frmMain : public TableParts {
   void Command(Action Run) {
     Handle([&] { game.Command(Run); });
   }
-
-  SvgBox* picLooseDice = nullptr;  ///< made when a table first has no picture
 
  signals:
   /// The window has come up for the first time.
@@ -70,7 +70,6 @@ class frmMain : public TableParts {
   void Show(ButtonPlus* Widget, const Button& Control);
   void Show(FitLabel* Widget, const std::string& Caption, bool Visible, int Top);
   void DrawDress();
-  void ShowBackground(const QString& Path);
   void DescribeDice();
   void EnableTray(DiceTray* Tray, bool Enabled);
   void ShowDie(std::size_t Box, int Picture);
@@ -80,7 +79,6 @@ class frmMain : public TableParts {
   /// Keys pressed in this window, each with its Shift mask then: only their release is a command.
   std::map<int, std::int16_t> keysDown;
   std::optional<Dress> drawn;
-  QString background;  ///< what is shown of it
   /// The dice as they were described last: faces, and what can be taken.
   std::array<std::pair<int, bool>, 12> described{};
   bool activatedBefore = false;

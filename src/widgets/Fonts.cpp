@@ -5,7 +5,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <map>
 
 namespace blunko {
 
@@ -28,18 +27,12 @@ QStringList Families(Typeface Face) {
   return {};
 }
 
-/// The families from the first one on that is installed. Looked up once: for each that isn't, the toolkit would sort
-/// all fonts there are by how well they stand in for it.
+/// The families from the first one on that is installed: for each that isn't, the toolkit would sort all fonts there
+/// are by how well they stand in for it.
 QStringList InstalledFamilies(Typeface Face) {
-  static std::map<Typeface, QStringList> Found;
-  const auto [Entry, New] = Found.try_emplace(Face, Families(Face));
-  if (New) {
-    QStringList& Names = Entry->second;
-    const QStringList Installed = QFontDatabase::families();
-    const auto First = std::find_if(Names.begin(), Names.end(), [&](auto& Name) { return Installed.contains(Name); });
-    if (First != Names.end()) Names.erase(Names.begin(), First);
-  }
-  return Entry->second;
+  const QStringList Names = Families(Face), Installed = QFontDatabase::families();
+  const auto First = std::find_if(Names.begin(), Names.end(), [&](auto& Name) { return Installed.contains(Name); });
+  return First == Names.end() ? Names : QStringList(First, Names.end());
 }
 
 }  // namespace

@@ -1,26 +1,30 @@
 #include "widgets/Pictures.h"
 
-#include <QFileInfo>
+#include <QBuffer>
 #include <QImageReader>
 #include <QPainter>
 #include <QSvgRenderer>
+
+#include <chrono>
+#include <memory>
+
+#include "widgets/JpegCheck.h"
 
 namespace blunko {
 
 namespace {
 
-constexpr int LargestPicture = 64;  // MB, of one that is decoded as small as it can be, but isn't yet stretched
-
-/// Set before any thread reads a picture.
-[[maybe_unused]] const bool IsLimited = (QImageReader::setAllocationLimit(LargestPicture), true);
+constexpr std::chrono::seconds LongestWait{2};  // a disk that hangs doesn't keep the window away
 
 /// The picture is decoded in the size in which it is shown: that is quick, and spares the memory of an enormous one.
-QImage Decode(const QString& Path, const QSize& Wanted) {
-  if (!QFileInfo(Path).isFile()) return {};
-  QImageReader Reader(Path);
+QImage ReadPicture(const QString& Path, const QSize& Size) {
+  QByteArray Bytes = ReadWholeFile(Path, LargestJpeg).value_or(QByteArray());
+  if (!IsModestJpeg(Bytes)) return {};
+  QBuffer Buffer(&Bytes);
+  QImageReader Reader(&Buffer, "jpg");
   Reader.setAutoTransform(true);
   const bool Turned = Reader.transformation() & QImageIOHandler::TransformationRotate90;  // comes after the scaling
-  Reader.setScaledSize(Turned ? Wanted.transposed() : Wanted);
+  Reader.setScaledSize(Turned ? Size.transposed() : Size);
   return Reader.read();
 }
 
@@ -78,29 +82,40 @@ void SvgBox::paintEvent(QPaintEvent*) {
   QPainter(this).drawPixmap(0, 0, drawn);
 }
 
+// Who clicks through the pictures doesn't wait for the one before, nor are they all decoded at once.
+StretchedPicture::StretchedPicture(QWidget* Parent) : QWidget(Parent) { decoders.setMaxThreadCount(2); }
+
 void StretchedPicture::Load(const QString& Path) {
-  path = Path;
-  Draw();
+  const std::pair Wanted(Path, StampOf(Path));
+  if (std::exchange(file, Wanted) != Wanted) Decode();
+}
+
+void StretchedPicture::Decode() {
+  wanted = size() * devicePixelRatioF();
+  const auto Promise = std::make_shared<std::promise<QImage>>();
+  decoding = Promise->get_future();
+  decoders.clear();
+  decoders.start([this, Promise, Path = file.first, Size = wanted] {
+    Promise->set_value(ReadPicture(Path, Size));
+    QMetaObject::invokeMethod(this, &StretchedPicture::Take, Qt::QueuedConnection);
+  });
+}
+
+/// Shows what is wanted now, if it is decoded.
+void StretchedPicture::Take() {
+  if (!decoding.valid() || decoding.wait_for(std::chrono::seconds(0)) != std::future_status::ready) return;
+  drawn = QPixmap::fromImage(decoding.get());
   update();
 }
 
-void StretchedPicture::Draw() {
-  drawn = {};
-  decoding = {};
-  if (!path.isEmpty()) decoding = std::async(&Decode, path, size() * devicePixelRatioF());
-}
-
-const QPixmap& StretchedPicture::Drawn() {
-  if (decoding.valid()) {
-    drawn = QPixmap::fromImage(decoding.get());
-    drawn.setDevicePixelRatio(devicePixelRatioF());
-  }
-  return drawn;
+void StretchedPicture::showEvent(QShowEvent*) {
+  if (decoding.valid()) decoding.wait_for(LongestWait);
+  Take();
 }
 
 void StretchedPicture::paintEvent(QPaintEvent*) {
-  if (!IsEmpty() && drawn.devicePixelRatio() != devicePixelRatioF()) Draw();
-  if (!IsEmpty()) QPainter(this).drawPixmap(rect(), drawn);
+  if (wanted.isValid() && wanted != size() * devicePixelRatioF()) Decode();
+  QPainter(this).drawPixmap(rect(), drawn);
 }
 
 }  // namespace blunko

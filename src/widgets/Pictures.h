@@ -3,17 +3,19 @@
 #include <QImage>
 #include <QPixmap>
 #include <QString>
+#include <QThreadPool>
 #include <QWidget>
 
 #include <future>
 #include <map>
 #include <utility>
 
+#include "storage/FileAccess.h"
+
 namespace blunko {
 
-/// Bitmaps that the table knows by number besides the dice.
+/// The divider among the numbered bitmaps; those before it are the dice.
 inline constexpr int DividerBitmap = 198;
-inline constexpr int MarkerBitmap = 199;
 
 /// Renders an SVG of the program's resources at its own logical size, or at `Size`, for a screen of the given scale.
 /// A null picture when there is no such resource.
@@ -48,28 +50,31 @@ class SvgBox : public QWidget {
   QPixmap drawn;
 };
 
-/// Shows a picture file stretched over the whole widget; transparent without one. It is decoded on a thread of its own
-/// until it is to be painted: at the start of the program that is the time in which the window comes up.
+/// Shows a JPEG file stretched over the whole widget; transparent without one. It is read, checked and decoded on a
+/// thread of its own. Only a widget that comes up waits for it; else what was shown before stays until then.
 class StretchedPicture : public QWidget {
   Q_OBJECT
 
  public:
-  using QWidget::QWidget;
+  explicit StretchedPicture(QWidget* Parent = nullptr);
 
-  /// Shows the file at `Path`; an empty path, or a file that is no picture, shows nothing.
+  /// Shows the file at `Path`, anew if it was replaced since. An empty path shows nothing, and so does a file that is
+  /// no picture or costs too much.
   void Load(const QString& Path);
-  bool IsEmpty() { return Drawn().isNull(); }
 
  protected:
+  void showEvent(QShowEvent* Event) override;
   void paintEvent(QPaintEvent* Event) override;
 
  private:
-  void Draw();
-  const QPixmap& Drawn();
+  void Decode();
+  void Take();
 
-  QString path;
+  std::pair<QString, FileStamp> file;
+  QSize wanted;  ///< physical pixels
   std::future<QImage> decoding;
   QPixmap drawn;
+  QThreadPool decoders;  ///< the last member: the first to go, when it has come to its end
 };
 
 }  // namespace blunko

@@ -1,4 +1,4 @@
-#include "table/JpegCheck.h"
+#include "widgets/JpegCheck.h"
 
 #include <QtEndian>
 
@@ -49,6 +49,7 @@ Work ReadMarkers(const QByteArray& File) {
     } else {
       const int Length = qFromBigEndian<quint16>(File.constData() + At + 2);
       if (IsFrame(Marker)) {
+        if (Found.Pixels != 0) return {};  // a picture has one: which of them is meant?
         ReadFrame(File.mid(At + 4, Length), Found);
         Found.Progressive = (Marker & 3) == 2;
       }
