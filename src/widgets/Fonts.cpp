@@ -12,25 +12,16 @@ namespace {
 
 constexpr int SmallestText = 9;  // px
 
-QStringList Families(Typeface Face) {
-  switch (Face) {
-    case Typeface::Verdana:
-      return {QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans"), QStringLiteral("Bitstream Vera Sans"),
-              QStringLiteral("sans-serif")};
-    case Typeface::ComicSans:
-      return {QStringLiteral("Comic Sans MS"), QStringLiteral("Comic Neue"), QStringLiteral("Comic Relief"),
-              QStringLiteral("DejaVu Sans"), QStringLiteral("sans-serif")};
-    case Typeface::CourierNew:
-      return {QStringLiteral("Courier New"), QStringLiteral("Liberation Mono"), QStringLiteral("DejaVu Sans Mono"),
-              QStringLiteral("monospace")};
-  }
-  return {};
-}
+/// Of each typeface: its family, and those that stand in for it.
+constexpr const char* Families[] = {"Verdana,DejaVu Sans,Bitstream Vera Sans,sans-serif",
+                                    "Comic Sans MS,Comic Neue,Comic Relief,DejaVu Sans,sans-serif",
+                                    "Courier New,Liberation Mono,DejaVu Sans Mono,monospace"};
 
 /// The families from the first one on that is installed: for each that isn't, the toolkit would sort all fonts there
 /// are by how well they stand in for it.
 QStringList InstalledFamilies(Typeface Face) {
-  const QStringList Names = Families(Face), Installed = QFontDatabase::families();
+  const QStringList Names = QString::fromLatin1(Families[static_cast<int>(Face)]).split(QLatin1Char(','));
+  const QStringList Installed = QFontDatabase::families();
   const auto First = std::find_if(Names.begin(), Names.end(), [&](auto& Name) { return Installed.contains(Name); });
   return First == Names.end() ? Names : QStringList(First, Names.end());
 }
