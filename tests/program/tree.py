@@ -4,7 +4,6 @@ import shutil
 import subprocess
 import sys
 import tempfile
-import threading
 import time
 
 last_name, repeated, heard, listeners = {}, [], [], []
@@ -30,36 +29,52 @@ def in_session(run, screen, limit):
 
 if "SESSION" in os.environ:
     import pyatspi  # only now: it looks for the bus at once
+    from gi.repository import GLib
 
 
 def start(program, **environment):
     """The program, listened to."""
     heard.clear()
     if not listeners:
-        listeners.append(threading.Thread(target=pyatspi.Registry.start, daemon=True))
+        listeners.extend([on_name, on_showing])
         pyatspi.Registry.registerEventListener(on_name, "object:property-change:accessible-name")
         pyatspi.Registry.registerEventListener(on_showing, "object:state-changed:showing")
         pyatspi.Registry.registerEventListener(lambda event: heard.append(event.any_data), "object:announcement")
-        listeners[0].start()
     return subprocess.Popen([program], env={**os.environ, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
                                             "SDL_AUDIODRIVER": "dummy", **environment})
+
+
+def hear(seconds=0):
+    """What has come until then, told to those above; on this thread alone: two would take each other's answers."""
+    end = time.time() + seconds
+    while GLib.MainContext.default().iteration(False) or time.time() < end:
+        time.sleep(0.001)
 
 
 def wait_for(find, why, limit=30, fail=sys.exit):
     end = time.time() + limit
     while time.time() < end:
-        found = find()
+        hear()
+        try:
+            found = find()
+        except GLib.GError:  # gone, or busy with a dialog that our press has opened
+            found = None
         if found:
             return found
         time.sleep(0.05)
     fail(f"waited in vain for {why}; heard: {heard}")
 
 
-def everything(node):
-    yield node
-    for child in node:
-        if child is not None:
-            yield from everything(child)
+def everything(node, fits=lambda node: True):
+    """It and all below it, but for what doesn't fit, with all that is below that."""
+    if node is not None and fits(node):
+        yield node
+        for child in node:
+            yield from everything(child, fits)
+
+
+def is_showing(node):  # nothing is looked for below what isn't: a list that nobody has opened has shown rows
+    return node.getState().contains(pyatspi.STATE_SHOWING)
 
 
 def showing():
@@ -67,8 +82,7 @@ def showing():
     there = [a for a in pyatspi.Registry.getDesktop(0) if a is not None and "Tollmoor" in (a.name or "")]
     for program in there:  # states are asked anew: the toolkit calls each widget shown, also one that says it isn't
         program.set_cache_mask(pyatspi.Atspi.Cache.ALL ^ pyatspi.Atspi.Cache.STATES)
-    windows = reversed(list(there[-1])) if there else []
-    return [n for window in windows for n in everything(window) if n.getState().contains(pyatspi.STATE_SHOWING)]
+    return [n for window in (reversed(list(there[-1])) if there else []) for n in everything(window, is_showing)]
 
 
 def find(name, role="button"):
