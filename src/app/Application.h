@@ -33,7 +33,7 @@ class Application : public Program, private HighRollersScreen {
       : Application(Where, IniInfo(Where.InfoPath()), std::move(Numbers)) {}
   /// Shares what `Info` has read of the info file.
   Application(const Folders& Where, const IniInfo& Info,
-              std::unique_ptr<NumberSource> Numbers = std::make_unique<FairDice>());
+              std::unique_ptr<NumberSource> Dice = std::make_unique<FairDice>());
   ~Application() override;
 
   /// The start, up to the shown table. False: the program ends without having shown it.
