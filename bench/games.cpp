@@ -187,7 +187,7 @@ class Match : public QuietProgram {
   UniformGenerator uniform;
   Module1 state;
   TableControls controls;
-  PlainOptions options;
+  GameOptions options{.ComputerSpeed = SpeedRidiculous};
   QuietDesktop screen;
   Game table{state, controls, options, screen, *this, numbers};
   ComputerPlayers players{table, uniform};

@@ -16,7 +16,7 @@ struct NoNumbers : NumberSource {
 void ClassifyAllRolls(benchmark::State& Run) {
   Module1 State;
   TableControls Controls;
-  PlainOptions Options;
+  GameOptions Options;
   QuietDesktop Screen;
   QuietProgram Others;
   NoNumbers Numbers;

@@ -16,7 +16,7 @@ constexpr int DieColour = 112;
 void TumbleStep(benchmark::State& Run) {
   Module1 State;
   TableControls Controls;
-  PlainOptions Options;
+  GameOptions Options;
   QuietDesktop Screen;
   QuietProgram Others;
   FairDice Numbers;

@@ -58,7 +58,7 @@ Application::Application(const Folders& Where, const IniInfo& Info, std::unique_
       Settings(Where, InfoFile),
       Numbers(std::move(Dice)),
       Uniform(0),
-      Table(State, Controls, View, Screen, *this, *Numbers),
+      Table(State, Controls, Settings.Options(), Screen, *this, *Numbers),
       Players(Table, Uniform),
       Util(VersionAddress),
       Rollers(Where.ListsPath(), Util),
@@ -75,7 +75,7 @@ bool Application::Main() {
   State.BreakInScore = static_cast<std::int16_t>(Settings.ReadBreakInScore());
   Util.UtilSetFolder(QFileInfo(folders.ListsPath()).path());
   StartQuestions Questions(Settings, Screen, Util);
-  const bool FirstStart = !Settings.Scanned();
+  const bool FirstStart = !Settings.Scanned;
   const bool Asks = FirstStart || Numbers->UtilRandom(LaterStartsPerVersionCheck) == 1;
   if (Asks) {
     ShowIcon();
@@ -97,8 +97,8 @@ bool Application::Main() {
 /// Makes the table's window, dresses it as the settings say, and connects it with the rest.
 void Application::LoadForm() {
   Dress Clothes;
-  Clothes.Trays = StartColour(Settings.DieColour());
-  Clothes.Background = Settings.Background();
+  Clothes.Trays = StartColour(Settings.DieColour);
+  Clothes.Background = Settings.Background;
   Clothes.TextColour = Settings.TextColour();
   Form = std::make_unique<frmMain>(Table, Clothes);
   speaker = new Announcer(Form.get());
@@ -121,7 +121,7 @@ void Application::LoadForm() {
 
 /// The table has come up: a newcomer is greeted.
 void Application::Form_Activate() {
-  if (!Settings.ShowWelcome() || !State.FirstActivate) return;
+  if (!Settings.ShowWelcome || !State.FirstActivate) return;
   State.FirstActivate = false;
   frmWelcome Welcome(InfoFile, Screen, Form.get());
   QObject::connect(&Welcome, &frmWelcome::helpAsked, &Welcome, [this](const QString& Topic) { ShowHelpTopic(Topic); });
@@ -209,7 +209,7 @@ QString Application::Today() const { return DayNumber(QDate::currentDate()); }
 
 void Application::ShowCongrats() {
   const QString Winner = QString::fromStdString(State.PlayerName[State.Winner]);
-  frmCongrats(Winner, State.FormMessage, Screen, View, *Form).exec();
+  frmCongrats(Winner, State.FormMessage, Screen, Settings.Options(), *Form).exec();
 }
 
 void Application::ShowNewGame() {

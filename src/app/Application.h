@@ -14,7 +14,6 @@
 #include "storage/HighRollers.h"
 #include "storage/IniInfo.h"
 #include "table/OptionsPanel.h"
-#include "table/SettingsView.h"
 #include "table/frmMain.h"
 #include "table/frmScorePad.h"
 #include "util/TbkUtil.h"
@@ -62,11 +61,10 @@ class Application : public Program, private HighRollersScreen {
   Folders folders;
   IniInfo InfoFile;
   GameSettings Settings;
-  SettingsView View{Settings};
   Module1 State;
   TableControls Controls;
   Sounds Player;
-  QtDesktop Screen{Player, View};
+  QtDesktop Screen{Player, Settings.Options()};
   std::unique_ptr<NumberSource> Numbers;
   UniformGenerator Uniform;
   Game Table;

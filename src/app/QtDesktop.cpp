@@ -36,7 +36,7 @@ void QtDesktop::WaitForEvents() {
 void QtDesktop::Beep() { QApplication::beep(); }
 
 void QtDesktop::PlaySoundFile(const std::string& File, bool Always) {
-  if (Always || !options.SoundDisabled()) player.Play(QFile::decodeName(QByteArray::fromStdString(File)));
+  if (Always || !options.SoundDisabled) player.Play(QFile::decodeName(QByteArray::fromStdString(File)));
 }
 
 void QtDesktop::MessageBox(const std::string& Text) { ShowMessage(form, QString::fromStdString(Text)); }

@@ -10,7 +10,7 @@
 namespace blunko {
 
 void StartQuestions::SurveyHardware() {
-  if (settings.Scanned()) return;
+  if (settings.Scanned) return;
   if (desktop.AskYesNo("To better serve our customers we would like to record the hardware configuration of your "
                        "computer.  This information is reported anonymously and contains no personally identifying "
                        "information.\nMay we do this?",
@@ -18,7 +18,7 @@ void StartQuestions::SurveyHardware() {
     util.UtilSurveyHardware();
     desktop.MessageBox("Thank You");
   }
-  settings.setScanned(true);
+  settings.Scanned = true;
 }
 
 bool StartQuestions::CheckForUpdate() {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "engine/Desktop.h"
+#include "sound/SoundEvents.h"
 #include "storage/GameSettings.h"
 #include "widgets/ButtonPlus.h"
 #include "widgets/PlacedDialog.h"

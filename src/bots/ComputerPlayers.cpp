@@ -62,7 +62,7 @@ void ComputerPlayers::BotPass() {
 void ComputerPlayers::Roll() {
   if (!MayGoOn()) return;
   game.cmdRoll_Click();
-  if (Settings.ComputerSpeed() == SpeedNormal) desktop.Sleep(PauseAfterRoll);
+  if (Settings.ComputerSpeed == SpeedNormal) desktop.Sleep(PauseAfterRoll);
 }
 
 void ComputerPlayers::Pass() {
@@ -83,7 +83,7 @@ void ComputerPlayers::MarkAndClick(int Position) {
 }
 
 void ComputerPlayers::PauseAfterClick() {
-  const int Speed = Settings.ComputerSpeed();
+  const int Speed = Settings.ComputerSpeed;
   if (Speed < SpeedRidiculous) desktop.Sleep(Speed == SpeedNormal ? 200 : 100);
 }
 

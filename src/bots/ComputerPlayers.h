@@ -88,7 +88,7 @@ void ComputerPlayers::PlayTurn(bool WaitsWhilePaused, Action Act) {
   while (MayGoOn()) {
     while (WaitsWhilePaused && m.PauseComputer && MayGoOn()) game.WaitForEvents();
     if (!MayGoOn()) break;
-    if (Settings.ComputerSpeed() < SpeedRidiculous) desktop.Sleep(PauseBeforeAction);
+    if (Settings.ComputerSpeed < SpeedRidiculous) desktop.Sleep(PauseBeforeAction);
     Act();
     if (MayGoOn()) game.PumpEvents();
   }

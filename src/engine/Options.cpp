@@ -22,10 +22,9 @@ void Game::ARCmdCancelOptions_Click() { CloseOptions(false); }
 
 /// In the set of the settings.
 void Game::RedrawDice() {
-  const auto PictureOf = [this](int Face) { return Face == 0 ? 0 : Settings.DieColour() + Face; };
   for (int i = 0; i < Dice; ++i) {
-    t.Picture1(i) = PictureOf(m.ShownFace[i]);
-    t.Picture1(10 + i) = PictureOf(m.TrayFace[i]);
+    t.Picture1(i) = Settings.PictureOf(m.ShownFace[i]);
+    t.Picture1(10 + i) = Settings.PictureOf(m.TrayFace[i]);
   }
 }
 
@@ -33,7 +32,7 @@ void Game::RedrawDice() {
 void Game::CloseOptions(bool Save) {
   if (!OptionsAreOpen()) return;
   program.SettleOptions(Save);
-  if (!Settings.MarkScorers()) HideMarkers();
+  if (!Settings.MarkScorers) HideMarkers();
   RedrawDice();
   t.picGameTray.Enabled = true;
   m.ResizeBlocked = true;

@@ -20,11 +20,11 @@ void Game::cmdPassDice_Click() {
   const ThisGame Played(m);
   m.ActionSet = "r";
   t.pctDivider.Visible = false;
-  if (Settings.MarkScorers()) HideMarkers();
+  if (Settings.MarkScorers) HideMarkers();
   t.cmdRoll.Enabled = t.cmdPassDice.Enabled = false;
 
   desktop.PlaySoundFile(Settings.GetSound(m.RollIsBust ? "Passem2" : "Passem1"), false);
-  if (Settings.ComputerSpeed() < SpeedRidiculous) desktop.Sleep(PauseAfterPass);
+  if (Settings.ComputerSpeed < SpeedRidiculous) desktop.Sleep(PauseAfterPass);
   if (!m.RollIsBust) BankTurn();
 
   ClearDice();
@@ -52,7 +52,7 @@ void Game::cmdPassDice_Click() {
   program.Announce(GameEvent::Turn);
 
   if (IsComputerTurn()) {
-    if (Settings.ComputerSpeed() == SpeedNormal) desktop.Sleep(PauseBeforeComputerTurn);
+    if (Settings.ComputerSpeed == SpeedNormal) desktop.Sleep(PauseBeforeComputerTurn);
     if (!m.GameOver) computers->RunComputerTurn();
   }
 }
@@ -98,7 +98,7 @@ void Game::FlashLastRoll() {
   };
   t.lblStatus.Caption.clear();
   for (int Blink = 1;; ++Blink) {
-    if (!Settings.SoundDisabled()) desktop.Beep();
+    if (!Settings.SoundDisabled) desktop.Beep();
     if (!Show(Caption) || Blink == 3) return;
     desktop.Sleep(BlinkTime);
     if (!Show("")) return;

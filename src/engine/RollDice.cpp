@@ -30,7 +30,7 @@ constexpr int DividerGap = 84;
 
 void Game::cmdRoll_Click() {
   t.pctDivider.Visible = false;
-  if (Settings.MarkScorers()) HideMarkers();
+  if (Settings.MarkScorers) HideMarkers();
   SetStatus("Rolling...");
 
   std::uint8_t InTray = 0;
@@ -54,7 +54,7 @@ void Game::cmdRoll_Click() {
   RollDice(NumDiceUp);
   ScoreDice(NumDiceUp);
   t.Rolling = false;
-  if (Settings.MarkScorers()) {
+  if (Settings.MarkScorers) {
     for (int i = 0; i < NumDiceUp; ++i) {
       if (m.DieScoreCode[i] != NoScore) t.picMarker[i] = true;
     }
@@ -71,12 +71,11 @@ void Game::RollDice(std::uint8_t NumDiceUp) {
   for (int i = 0; i < Dice; ++i) t.Picture1(i) = 0;
   m.DieFace.fill(Absent);
 
-  const int DieColour = Settings.DieColour();
   const auto Draw = [&](int i) {
     m.DieFace[i] = static_cast<std::int16_t>(RandomNumber(6));
-    t.Picture1(i) = DieColour + m.DieFace[i];
+    t.Picture1(i) = Settings.PictureOf(m.DieFace[i]);
   };
-  if (!(IsComputerTurn() && Settings.ComputerSpeed() >= SpeedRidiculous)) {
+  if (!(IsComputerTurn() && Settings.ComputerSpeed >= SpeedRidiculous)) {
     const Tumble& Show = Tumbles[NumDiceUp];
     desktop.PlaySoundFile(Settings.GetSound(Show.Sound), false);
     for (int Cycle = 0; Cycle < Show.Cycles; ++Cycle) {
@@ -88,9 +87,9 @@ void Game::RollDice(std::uint8_t NumDiceUp) {
   }
   for (int j = 0; j < NumDiceUp; ++j) Draw(j);
 
-  if (Settings.SortDice()) Bubble(NumDiceUp);
+  if (Settings.SortDice) Bubble(NumDiceUp);
   for (int i = 0; i < NumDiceUp; ++i) {
-    t.Picture1(i) = DieColour + m.DieFace[i];
+    t.Picture1(i) = Settings.PictureOf(m.DieFace[i]);
     m.ShownFace[i] = m.DieFace[i];
   }
   for (int i = NumDiceUp; i < Dice; ++i) m.ShownFace[i] = 0;

@@ -51,7 +51,7 @@ void Game::TakeClickedDice(int Index) {
   const bool Computer = IsComputerTurn();
   const auto TakeFromGroup = [&](int i) {
     TakeDie(i);
-    if (!(Computer && Settings.ComputerSpeed() >= SpeedRidiculous)) desktop.Sleep(PauseAfterDieOfGroup);
+    if (!(Computer && Settings.ComputerSpeed >= SpeedRidiculous)) desktop.Sleep(PauseAfterDieOfGroup);
   };
   if (Code == "1" || Code == "5") {
     TakeDie(Index);
@@ -68,7 +68,7 @@ void Game::TakeClickedDice(int Index) {
   }
   m.TurnScore = AddScore(m.TurnScore, PointsOf(Code));
   t.lblTurnScore.Caption = std::to_string(m.TurnScore);
-  if (Computer && Settings.ComputerSpeed() < SpeedRidiculous) desktop.Sleep(PauseAfterTaking);
+  if (Computer && Settings.ComputerSpeed < SpeedRidiculous) desktop.Sleep(PauseAfterTaking);
   CheckSelection();
   program.Announce(GameEvent::Taking);
 }
@@ -79,7 +79,7 @@ void Game::TakeDie(int Position) {
 }
 
 void Game::MoveDieToTray(std::uint8_t Index) {
-  if (Settings.MarkScorers()) t.picMarker[Index] = false;
+  if (Settings.MarkScorers) t.picMarker[Index] = false;
   desktop.PlaySoundFile(Settings.GetSound("MoveDie"), false);
   t.Picture1(Index) = 0;
   m.ShownFace[Index] = 0;
@@ -87,7 +87,7 @@ void Game::MoveDieToTray(std::uint8_t Index) {
   // The die enters at the far right and runs left over the free slots. One that finds no free slot stays in the last,
   // which is never marked as used.
   int Slot = 15;
-  const int Picture = Settings.DieColour() + m.DieFace[Index];
+  const int Picture = Settings.PictureOf(m.DieFace[Index]);
   t.Picture1(Slot) = Picture;
   for (int k = 4; k >= 0; --k) {
     if (m.TrayUsed[k]) continue;
@@ -118,9 +118,9 @@ void Game::UndoSelection(int Index) {
     if (i == Dice) continue;
 
     t.Picture1(Slot) = 0;
-    t.Picture1(i) = Settings.DieColour() + m.DieFace[i];
+    t.Picture1(i) = Settings.PictureOf(m.DieFace[i]);
     m.ShownFace[i] = m.DieFace[i];
-    if (Settings.MarkScorers()) t.picMarker[i] = true;
+    if (Settings.MarkScorers) t.picMarker[i] = true;
     m.TrayUsed[Slot - 10] = false;
     m.TrayFace[Slot - 10] = 0;
     m.DieUp[i] = true;

@@ -4,7 +4,7 @@ namespace blunko {
 
 void Game::ShowBust() {
   const bool Computer = IsComputerTurn();
-  const bool Hurried = Computer && Settings.ComputerSpeed() != SpeedNormal;
+  const bool Hurried = Computer && Settings.ComputerSpeed != SpeedNormal;
   const auto Pause = [&](int Milliseconds) {
     if (!Hurried) desktop.Sleep(Milliseconds);
   };

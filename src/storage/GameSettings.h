@@ -2,12 +2,11 @@
 
 #include <QString>
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-#include "sound/SoundEvents.h"
+#include "engine/GameOptions.h"
 #include "storage/Folders.h"
 #include "storage/IniInfo.h"
 
@@ -17,7 +16,7 @@ namespace blunko {
 std::uint32_t ColourOfIndex(int Index);
 
 /// Info file key of `ShowWelcome`; the welcome dialog writes it for the next start.
-inline const QString ShowWelcomeMessageKey = QStringLiteral("ShowWelcomeMessage");
+inline constexpr char ShowWelcomeMessageKey[] = "ShowWelcomeMessage";
 
 /// "No picture", as the info file writes it.
 inline const QString NoBackground = QStringLiteral("(None)");
@@ -25,44 +24,64 @@ inline const QString NoBackground = QStringLiteral("(None)");
 /// Size on the screen in per cent, 100 to 400; to be asked before the toolkit starts.
 int ReadScale(const IniInfo& Info);
 
-/// The settings, each with its default. They are read once; a setter stores its value and writes that one key at once.
+/// A setting: read from the info file when it is made, and kept; a new value is written under its key at once.
+template <typename T>
+class Setting {
+ public:
+  Setting(const IniInfo& Info, const char* Key, T Default);
+  /// Kept in `Place`, which holds the default.
+  Setting(const IniInfo& Info, const char* Key, T* Place);
+  Q_DISABLE_COPY_MOVE(Setting)
+  operator const T&() const { return *value; }
+  Setting& operator=(const T& New);
+
+ private:
+  const IniInfo& info;
+  const char* const key;
+  T own{};
+  T* const value;
+};
+
+/// The settings, each with its default.
 class GameSettings {
+  const Folders folders;
+  const IniInfo OwnInfo;
+  GameOptions options;
+  std::uint32_t textColour = 0;
+
  public:
   explicit GameSettings(const Folders& Where) : GameSettings(Where, IniInfo(Where.InfoPath())) {}
   /// Shares what `Info` has read.
   GameSettings(const Folders& Where, const IniInfo& Info);
 
-  bool Scanned() const { return scanned; }
-  void setScanned(bool Value);
-  bool ShowWelcome() const { return showWelcome; }
-  void setShowWelcome(bool Value);
-  std::int16_t DieColour() const { return dieColour; }
-  void setDieColour(std::int16_t Base);
-  int TextColourIndex() const;
-  void setTextColourIndex(int Index);
+  /// What of them the rules read.
+  const GameOptions& Options() const { return options; }
+
+  Setting<bool> Scanned{OwnInfo, "Scanned", false};
+  Setting<bool> ShowWelcome{OwnInfo, ShowWelcomeMessageKey, true};
+  Setting<std::int16_t> DieColour{OwnInfo, "DieColor", &options.DieColour};
+  Setting<QString> Background{OwnInfo, "Background", DefaultBackground()};
+  Setting<bool> SoundDisabled{OwnInfo, "SoundFXOFF", &options.SoundDisabled};
+  Setting<std::int32_t> ComputerSpeed{OwnInfo, "ComputerFast", &options.ComputerSpeed};
+  Setting<bool> SortDice{OwnInfo, "SortDice", &options.SortDice};
+  Setting<bool> MarkScorers{OwnInfo, "MarkScorers", &options.MarkScorers};
+
+  /// The colour of the text is kept in the file by its index in the list, 0 for one that isn't there.
   std::uint32_t TextColour() const { return textColour; }
   void setTextColour(std::uint32_t Colour);
-  const QString& Background() const { return background; }
-  void setBackground(const QString& Path);
-  bool SoundDisabled() const { return soundDisabled; }
-  void setSoundDisabled(bool Value);
-  /// While the result lives, setters gather what they write; it goes into the file at once.
-  WrittenTogether WriteTogether() const { return WrittenTogether(OwnInfo); }
+  int TextColourIndex() const;
+  void setTextColourIndex(int Index);
   /// 5000 or 10000; read from the file at every call, like the next.
   int ReadPlayToScore() const;
   void WritePlayToScore(int Value) const;
   /// 500 or 1000.
   int ReadBreakInScore() const;
   void WriteBreakInScore(int Value) const;
-  int ComputerSpeed() const { return computerSpeed; }
-  void setComputerSpeed(int Speed);
-  bool SortDice() const { return sortDice; }
-  void setSortDice(bool Value);
-  bool MarkScorers() const { return markScorers; }
-  void setMarkScorers(bool Value);
   /// Path of the wave file of an event, in the file system's bytes; empty for an unknown name.
-  const std::string& GetSound(std::string_view p_sound_name) const;
+  const std::string& GetSound(std::string_view p_sound_name) const { return options.GetSound(p_sound_name); }
   void SetSound(std::string_view p_sound_name, const std::string& p_sound_file);
+  /// While the result lives, what is set is gathered; it goes into the file at once.
+  WrittenTogether WriteTogether() const { return WrittenTogether(OwnInfo); }
 
   /// The default background: the picture "Satin.jpg" of the shipped ones.
   QString DefaultBackground() const;
@@ -70,28 +89,8 @@ class GameSettings {
   std::string DefaultSound(std::string_view p_sound_name) const;
 
  private:
-  void LoadSettings();
   void LoadSounds();
   void LoadAppearance();
-  void LoadGameOptions();
-  static int IndexOfColour(std::uint32_t Colour);
-
-  bool ReadFlag(const QString& Key, bool Default) const;
-  void WriteFlag(const QString& Key, bool Value) const;
-  int ReadNumber(const QString& Key, int Default) const;
-
-  Folders folders;
-  IniInfo OwnInfo;
-  bool scanned = false;
-  bool showWelcome = true;
-  std::int16_t dieColour = 0;
-  QString background;
-  std::uint32_t textColour = 0;
-  int computerSpeed = 0;
-  bool sortDice = true;
-  bool markScorers = true;
-  std::array<std::string, SoundEvents.size()> SoundFile;
-  bool soundDisabled = false;
 };
 
 }  // namespace blunko

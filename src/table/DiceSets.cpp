@@ -29,6 +29,8 @@ constexpr DiceSet Sets[] = {
     Same("Roman", 190, qRgb(0, 0, 0)),
 };
 
+static_assert(std::ranges::all_of(Sets, [](const DiceSet& Set) { return IsDiceSet(Set.Base); }));
+
 constexpr const char* Offered[] = {"Blue",  "Red",    "Clouds",  "Antique",  "Marbles", "Patriot",
                                    "Pablo", "Clocks", "Bubbles", "Computer", "Digital"};
 
@@ -49,8 +51,6 @@ const DiceSet* FindDiceSet(int Base) {
 const DiceSet* FindDiceSet(const QString& Name) {
   return Find([&Name](const DiceSet& Set) { return Name == QLatin1String(Set.Name); });
 }
-
-int DrawableSet(int Base) { return FindDiceSet(Base) == nullptr ? DefaultDiceSet : Base; }
 
 QColor StartColour(int Base) {
   const DiceSet* Set = FindDiceSet(Base);

@@ -24,10 +24,6 @@ std::span<const char* const> OfferedDiceSets();
 const DiceSet* FindDiceSet(int Base);
 const DiceSet* FindDiceSet(const QString& Name);
 
-/// The base itself, or the default set's where there is no such set: so that a die never shows another value than it
-/// has.
-int DrawableSet(int Base);
-
 /// Tray colour at program start; black for a base that is no set's.
 QColor StartColour(int Base);
 

@@ -189,7 +189,7 @@ void OptionsPanel::ShowSampleDice() {
 
 void OptionsPanel::SnapshotOptions() {
   backgrounds.ScanBackgrounds();
-  const QString Background = settings.Background();
+  const QString Background = settings.Background;
   const QSignalBlocker Filling(lstSkin);
   lstSkin->clear();
   lstSkin->addItem(NoBackground);
@@ -204,16 +204,20 @@ void OptionsPanel::SnapshotOptions() {
   backgroundChosen = false;
 
   before = form.Wears;
-  SavedDieColour = settings.DieColour();
+  SavedDieColour = settings.DieColour;
   const DiceSet* Set = FindDiceSet(SavedDieColour);
   cboDiceColor->setCurrentIndex(Set == nullptr ? -1 : cboDiceColor->findText(QLatin1String(Set->Name)));
 }
 
 void OptionsPanel::LoadOptionControls() {
-  optComputerSpeed[static_cast<std::size_t>(settings.ComputerSpeed())]->setChecked(true);
-  optSound[settings.SoundDisabled() ? 0 : 1]->setChecked(true);
-  chkSortDice->setChecked(settings.SortDice());
-  chkMarkScorers->setChecked(settings.MarkScorers());
+  for (int i = 0; i < 3; ++i) {
+    optComputerSpeed[i]->setAutoExclusive(false);  // a speed that is none of the three ticks none
+    optComputerSpeed[i]->setChecked(i == settings.ComputerSpeed);
+    optComputerSpeed[i]->setAutoExclusive(true);
+  }
+  optSound[settings.SoundDisabled ? 0 : 1]->setChecked(true);
+  chkSortDice->setChecked(settings.SortDice);
+  chkMarkScorers->setChecked(settings.MarkScorers);
 }
 
 void OptionsPanel::cboDiceColor_Click() {
@@ -223,7 +227,7 @@ void OptionsPanel::cboDiceColor_Click() {
 
 /// The set is stored at once; Cancel takes it back out of the settings.
 void OptionsPanel::ShowSet(const DiceSet& Set, QRgb Colour) {
-  settings.setDieColour(static_cast<std::int16_t>(Set.Base));
+  settings.DieColour = static_cast<std::int16_t>(Set.Base);
   form.Wears.Trays = form.Wears.Cover = Colour;
   form.Wears.SampleSet = Set.Base;
 }
@@ -258,29 +262,28 @@ void OptionsPanel::Settle(bool Save) {
 
 void OptionsPanel::StoreOptionControls() {
   for (int i = 0; i < 3; ++i) {
-    if (optComputerSpeed[i]->isChecked()) settings.setComputerSpeed(i);
+    if (optComputerSpeed[i]->isChecked()) settings.ComputerSpeed = i;
   }
-  settings.setSoundDisabled(optSound[0]->isChecked());
-  settings.setSortDice(chkSortDice->isChecked());
-  settings.setMarkScorers(chkMarkScorers->isChecked());
+  settings.SoundDisabled = optSound[0]->isChecked();
+  settings.SortDice = chkSortDice->isChecked();
+  settings.MarkScorers = chkMarkScorers->isChecked();
 }
 
 void OptionsPanel::ApplyOptions() {
-  if (backgroundChosen)
-    settings.setBackground(form.Wears.Background);  // else also one that the list doesn't hold stays
+  if (backgroundChosen) settings.Background = form.Wears.Background;  // else also one that the list doesn't hold stays
   for (int i = 0; i < 8; ++i) {
     if (lblColor[i]->isChecked()) settings.setTextColourIndex(i);
   }
   form.Wears.TextColour = settings.TextColour();
   if (const DiceSet* Set = FindDiceSet(cboDiceColor->currentText())) {
-    settings.setDieColour(static_cast<std::int16_t>(Set->Base));
+    settings.DieColour = static_cast<std::int16_t>(Set->Base);
   }
 }
 
 void OptionsPanel::RevertOptions() {
   form.Wears = before;
-  settings.setBackground(before.Background);
-  settings.setDieColour(SavedDieColour);
+  settings.Background = before.Background;
+  settings.DieColour = SavedDieColour;
 }
 
 void OptionsPanel::Close() {

@@ -118,7 +118,7 @@ TEST(CustomizeSounds, EveryEntryOfTheListIsItsEventAndOKAloneWritesAll) {
 TEST_F(TheProgram, HasItsSoundsAndSwitchedOffOnlyATestIsHeard) {
   Start();
   for (const SoundEvent& Sound : SoundEvents) EXPECT_TRUE(Folder.Get("temp/" + QString(Sound.File)).startsWith("RIFF"));
-  Run->Settings.setSoundDisabled(true);
+  Run->Settings.SoundDisabled = true;
   for (const bool IsTest : {false, true}) {
     Run->Screen.PlaySoundFile(Run->State.TempFolder + "undo.wav", IsTest);
     EXPECT_EQ(Run->Player.IsPlaying(), IsTest);

@@ -30,7 +30,7 @@ struct PlayingTable : Table {
     Seat(Style, Banked);
     m.PlayerScore[1] = static_cast<std::int16_t>(OpponentBanked);
     m.OutPlayer = static_cast<std::uint8_t>(Out);
-    Options.Sort = false;
+    Options.SortDice = false;
     const auto Script = Digits(Faces);
     Numbers.Faces.assign(Script.begin(), Script.end());
     Players.RunComputerTurn();
@@ -90,7 +90,7 @@ TEST(Styles, PauseAsTheSpeedSays) {
       {"Normal", "333146", 2, ""}};
   for (const auto& [Style, Faces, Speed, Sleeps] : Rows) {
     PlayingTable table;
-    table.Options.Speed = Speed;
+    table.Options.ComputerSpeed = Speed;
     table.PlayTurn(Style, std::string(Speed < 2 ? 30 : 0, '6') + Faces, 500);
     EXPECT_EQ(table.Told("sleep"), Sleeps) << Style << " at speed " << Speed;
   }

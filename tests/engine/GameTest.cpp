@@ -38,7 +38,7 @@ TEST(PassDice, BanksOrNotAndHandsOn) {
   };
   for (const auto& Row : Rows) {
     Table table;
-    table.Options.Speed = Row.Speed;
+    table.Options.ComputerSpeed = Row.Speed;
     table.m.TempFolder = "/tmp/";
     table.Begin({Row.Seat, Row.Next});
     table.m.PlayerScore[0] = static_cast<std::int16_t>(Row.Before);
@@ -71,7 +71,7 @@ TEST(PassDice, ABustIsShown) {
       {"Ann", 0, Person}, {"Ann", 2, Person}, {"Normal", 0, Computer}, {"Normal", 1, Hurried}, {"Normal", 2, Hurried}};
   for (const auto& [Seat, Speed, Shown] : Rows) {
     Table table;
-    table.Options.Speed = Speed;
+    table.Options.ComputerSpeed = Speed;
     table.Begin({Seat, "Bob"});
     table.Screen.TellsAll = true;
     table.Play("123446 @0 23346");
@@ -87,7 +87,7 @@ TEST(PassDice, TheLastRollFlashesAndBeepsUnlessSilent) {
   for (const std::string Beep : {"", "beep; "}) {
     Table table;
     table.Screen.TellsAll = true;
-    table.Options.Silent = Beep.empty();
+    table.Options.SoundDisabled = Beep.empty();
     table.Begin({"Ann", "Bob"});
     table.Bank(5000);
     const std::string On = "last roll (Last Roll - Need 5050 To Win)^3105; ", Told = table.Told();

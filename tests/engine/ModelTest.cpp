@@ -49,10 +49,10 @@ class Masher : NumberSource {
     Compare("may pass", sheet.Allows('p'), t.CanPress(t.cmdPassDice));
     if (!sheet.Rolled.empty()) Compare("action set", sheet.May, std::string_view(m.ActionSet));
     for (std::size_t i = 0; i < Dice; ++i) {
-      const int Box = static_cast<int>(i), Base = table.Options.Colour;
+      const int Box = static_cast<int>(i), Base = table.Options.DieColour;
       const bool Up = sheet.IsUp(i), InTray = i < sheet.Tray.size();
       Compare("die on the table", Up ? Base + sheet.Rolled[i] : 0, t.Picture1(Box));
-      Compare("mark", Up && table.Options.Mark && sheet.IsScorer(sheet.Rolled[i]), t.picMarker[i]);
+      Compare("mark", Up && table.Options.MarkScorers && sheet.IsScorer(sheet.Rolled[i]), t.picMarker[i]);
       Compare("die in the tray", InTray ? Base + sheet.Tray[i] : 0, t.Picture1(10 + Box));
     }
     Compare("divider", sheet.Frozen > 0 ? DieBoxLeft[sheet.Frozen] - 84 : 0,
@@ -88,9 +88,9 @@ class Masher : NumberSource {
     static const std::vector<const char*> Names{"A", "B", "C", "D", "E", "F", "G", "H"};
     const std::vector<const char*> Seats(Names.begin(), Names.begin() + 2 + Any(7) * Any(2));
     const int PlayTo = std::array{1000, 3000, 32600}[static_cast<std::size_t>(Any(3))], BreakIn = 500 + 500 * Any(2);
-    table.Options.Sort = Any(2) == 0, table.Options.Mark = Any(2) == 0;
+    table.Options.SortDice = Any(2) == 0, table.Options.MarkScorers = Any(2) == 0;
     table.Begin(Seats, PlayTo, BreakIn);
-    sheet.Begin({Seats.begin(), Seats.end()}, PlayTo, BreakIn, table.Options.Sort);
+    sheet.Begin({Seats.begin(), Seats.end()}, PlayTo, BreakIn, table.Options.SortDice);
     if (PlayTo < 30000) return;
     for (std::size_t i = 0; i < Seats.size(); ++i) sheet.Scores[i] = table.m.PlayerScore[i] = NearLimit();
     sheet.Turn = table.m.TurnScore = NearLimit();

@@ -7,7 +7,7 @@ namespace blunko::test {
 TEST(Turn, OfAPersonTakesItsTime) {
   Table table;
   table.Screen.TellsAll = true;
-  table.Options.Speed = SpeedNormal;
+  table.Options.ComputerSpeed = SpeedNormal;
   table.Begin({"Ann", "Bob"});
   EXPECT_EQ(table.Told(), "status Roll the dice.; score 0; buttons roll");
   table.Play("434214");
@@ -32,7 +32,7 @@ TEST(Turn, TumblesAsTheNumberOfDiceTells) {
   for (const auto& [Before, Faces, Tumbles, Sleep] : Rows) {
     for (const int Speed : {-1, 0, 1, 2}) {  // of a computer, -1 for a person
       Table table;
-      table.Options.Speed = std::abs(Speed);
+      table.Options.ComputerSpeed = std::abs(Speed);
       table.Begin({Speed < 0 ? "Ann" : "Normal", "Bob"});
       table.Play(Before);
       table.TakeLog();

@@ -23,11 +23,11 @@ struct GameSettingsTest : testing::Test {
   /// What a run holds, by the keys.
   std::string Held(const GameSettings& s) const {
     std::ostringstream Out;
-    Out << " Scanned=" << s.Scanned() << " ShowWelcomeMessage=" << s.ShowWelcome() << " DieColor=" << s.DieColour()
-        << " TextColor=" << s.TextColour() << " Background=" << FileNameOnly(s.Background()).toStdString()
-        << " SoundFXOFF=" << s.SoundDisabled() << " UndoSound=" << s.GetSound("Undo") << s.GetSound("Nose")
+    Out << " Scanned=" << s.Scanned << " ShowWelcomeMessage=" << s.ShowWelcome << " DieColor=" << s.DieColour
+        << " TextColor=" << s.TextColour() << " Background=" << FileNameOnly(s.Background).toStdString()
+        << " SoundFXOFF=" << s.SoundDisabled << " UndoSound=" << s.GetSound("Undo") << s.GetSound("Nose")
         << " defPlayToScore=" << s.ReadPlayToScore() << " defBreakInScore=" << s.ReadBreakInScore()
-        << " ComputerFast=" << s.ComputerSpeed() << " SortDice=" << s.SortDice() << " MarkScorers=" << s.MarkScorers()
+        << " ComputerFast=" << s.ComputerSpeed << " SortDice=" << s.SortDice << " MarkScorers=" << s.MarkScorers
         << " Scale=" << ReadScale(Info()) << ' ';
     return Out.str();
   }
@@ -39,14 +39,16 @@ TEST_F(GameSettingsTest, TakesWhateverStandsInTheFile) {
   const std::pair<const char*, QByteArrayList> Rows[] = {
       {"0 ",
        {"Scanned=", "SoundFXOFF=", "Scanned=perhaps", "ShowWelcomeMessage=0", "SortDice=fALSE", "MarkScorers=False",
-        "ComputerFast=", "ComputerFast=7", "TextColor=", "TextColor=12345", "TextColor=-1", "TextColor=99999999999"}},
+        "ComputerFast=", "TextColor=", "TextColor=12345", "TextColor=-1", "TextColor=99999999999"}},
       {"1 ", {"ShowWelcomeMessage=", "SortDice=", "MarkScorers=", "Scanned=-1", "SoundFXOFF=True"}},
       {"16711680 ", {"TextColor=4", "TextColor=16711680"}},
-      {"112 ", {"DieColor=", "DieColor=blue 240", "DieColor=0", "DieColor=-5", "DieColor=32768", "DieColor=nan"}},
+      {"112 ", {"DieColor=", "DieColor=blue 240", "DieColor=0", "DieColor=32768", "DieColor=nan"}},
       {"240 ", {"DieColor=240 blue", "DieColor=+240"}},
       {"114 ", {"DieColor=113.5", "DieColor=114.5"}},
       {"5000 ", {"defPlayToScore=", "defPlayToScore=7500"}},
       {"500 ", {"defBreakInScore=", "defBreakInScore=501"}},
+      {"7 ", {"ComputerFast=7"}},
+      {"-5 ", {"DieColor=-5"}},
       {"100 ", {"Scale=", "Scale=401", "Scale=99"}},
       {"101 ", {"Scale= 101 "}},
       {"Satin.jpg ", {"Background="}},
@@ -62,7 +64,7 @@ TEST_F(GameSettingsTest, TakesWhateverStandsInTheFile) {
 TEST_F(GameSettingsTest, EachSetterWritesItsOwnKeyAtOnce) {
   GameSettings s = Load();
   EXPECT_EQ(place.Names(), QStringList("Background")) << "a first run writes nothing";
-  s.setShowWelcome(false);
+  s.ShowWelcome = false;
   s.setTextColour(0xFFFF80);
   s.SetSound("Undo", "/t\xC3\xB6ne/u.wav");
   s.SetSound("Nose", "/no/event.wav");
@@ -75,10 +77,10 @@ TEST_F(GameSettingsTest, EachSetterWritesItsOwnKeyAtOnce) {
 TEST_F(GameSettingsTest, ReplacesALostBackground) {
   const QByteArray Lost = "TextColor=3\nBackground=/gone/Old.jpg\n";
   const QString Satin = place.Path("Background/Satin.jpg");
-  EXPECT_EQ(Load(Lost).Background(), Satin);
+  EXPECT_EQ(Load(Lost).Background, Satin);
   EXPECT_EQ(Keys(), "TextColor=7\nBackground=" + QFile::encodeName(Satin) + '\n');
   QFile::remove(Satin);
-  EXPECT_EQ(Load(Lost).Background(), NoBackground);
+  EXPECT_EQ(Load(Lost).Background, NoBackground);
   EXPECT_EQ(Keys(), "TextColor=0\nBackground=(None)\n");
 }
 

@@ -11,6 +11,7 @@
 
 #include "engine/Game.h"
 #include "engine/KeyCodes.h"
+#include "sound/SoundEvents.h"
 
 namespace blunko::test {
 
@@ -156,20 +157,12 @@ struct RecordingProgram : QuietProgram, ComputerSeats {
   void Abort() override { Log.push_back("abort"); }
 };
 
-/// The name of the event serves as the path of its sound.
-struct NamedSounds : PlainOptions {
-  mutable std::string Name;
-  const std::string& GetSound(std::string_view Event) const override {
-    Name = Event;
-    return Name;
-  }
-};
-
-/// A table with scripted dice on a recorded desktop, at the speed Ridiculous unless the test says otherwise.
+/// A table with scripted dice on a recorded desktop, at the speed Ridiculous unless the test says otherwise; the name
+/// of an event serves as the path of its sound.
 struct Table {
   Module1 m;
   TableControls t;
-  NamedSounds Options;
+  GameOptions Options{.ComputerSpeed = SpeedRidiculous};
   RecordingDesktop Screen{t};
   RecordingProgram Others{Screen.Log};
   ScriptedDice Numbers;
@@ -179,6 +172,7 @@ struct Table {
       : game{m,      t,      OtherOptions != nullptr ? *OtherOptions : Options,
              Screen, Others, OtherDice != nullptr ? *OtherDice : Numbers} {
     game.SeatComputers(Others);
+    for (const SoundEvent& Event : SoundEvents) Options.Sounds[Event.Name] = Event.Name;
   }
 
   /// Begins a game; a seat with a style's word as its name is a computer.
@@ -197,7 +191,7 @@ struct Table {
   /// The next roll brings the given faces up; tumbling dice are fed as well.
   void Script(const std::vector<int>& Faces) {
     static constexpr std::size_t Cycles[] = {0, 20, 15, 10, 8, 7, 5};
-    const bool Tumbles = !(m.PlayerIsComputer[m.CurrentPlayer] && Options.Speed >= SpeedRidiculous);
+    const bool Tumbles = !(m.PlayerIsComputer[m.CurrentPlayer] && Options.ComputerSpeed >= SpeedRidiculous);
     if (Tumbles) Numbers.Faces.assign(Faces.size() * Cycles[Faces.size()], 6);
     Numbers.Faces.insert(Numbers.Faces.end(), Faces.begin(), Faces.end());
   }

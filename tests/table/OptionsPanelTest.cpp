@@ -7,7 +7,6 @@
 
 #include "table/DiceSets.h"
 #include "table/OptionsPanel.h"
-#include "table/SettingsView.h"
 #include "tests/support/Place.h"
 #include "tests/table/TableForm.h"
 
@@ -18,7 +17,6 @@ struct Home {
   Place Folder;
   Folders Where{Folder.Path(), "Game", Folder.Path(), {}};
   std::optional<GameSettings> Settings;
-  std::optional<SettingsView> View;
 
   explicit Home(const QByteArray& InfoText) {
     Folder.Put("Background/Forest.clr", "7");
@@ -26,7 +24,7 @@ struct Home {
     Green.fill(Qt::darkGreen);
     for (const char* Name : {"Satin.jpg", "Forest.jpg"}) Green.save(Picture(Name));
     Folder.Put("Game.ini", "[Info]\n" + InfoText);
-    View.emplace(Settings.emplace(Where));
+    Settings.emplace(Where);
   }
   QString Picture(const QString& Name) const { return Folder.Path("Background/" + Name); }
 };
@@ -35,14 +33,14 @@ struct Home {
 struct DressedTable : Home, TableForm {
   OptionsPanel* Panel = new OptionsPanel(Form, game, *Settings, {Folder.Path("Background")});
 
-  explicit DressedTable(const QByteArray& InfoText) : Home(InfoText), TableForm(&*View) {
+  explicit DressedTable(const QByteArray& InfoText) : Home(InfoText), TableForm(&Settings->Options()) {
     Screen.OnEvents = [this] { Form.ShowControls(); };
     Others.OnShowOptions = [this] { Panel->Open(); };
     Others.OnSettleOptions = [this](bool Save) { Panel->Settle(Save); };
     Others.OnHideOptions = [this] { Panel->Close(); };
-    Form.Wears.Trays = StartColour(Settings->DieColour());
+    Form.Wears.Trays = StartColour(Settings->DieColour);
     Form.Wears.TextColour = Settings->TextColour();
-    Form.Wears.Background = Settings->Background();
+    Form.Wears.Background = Settings->Background;
   }
   /// With the given dice on the table; the first `Taken` of them lie in the tray.
   void Play(const char* Faces, int Taken) {
@@ -95,11 +93,11 @@ TEST(OptionsPanel, TrayColoursFollowTheMomentAtWhichASetIsPainted) {
       {"Clocks, cancelled", 124, nullptr, false, {192, 0, 0}, {28, 246, 164}, {192, 0, 0}},
       {"Pablo, clicked and saved", 118, "Pablo", true, {0, 0, 128}, {236, 238, 228}, {0, 0, 128}},
       {"a set that isn't offered", 166, nullptr, true, {0, 128, 0}, {0, 128, 0}, {0, 128, 0}},
-      {"no set at all", 101, nullptr, true, {0, 0, 0}, {0, 0, 0}, {0, 0, 0}},
+      {"no set at all", -5, nullptr, true, {0, 0, 0}, {0, 0, 0}, {0, 0, 0}},
   };
   for (const auto& [Why, Base, Click, Save, Start, Open, End] : Rows) {
     SCOPED_TRACE(Why);
-    DressedTable Dressed("DieColor=" + QByteArray::number(Base) + "\n");
+    DressedTable Dressed("ComputerFast=7\nDieColor=" + QByteArray::number(Base) + "\n");
     EXPECT_EQ(Dressed.Form.Wears.Trays, Start);
     Dressed.Form.cmdOptions->click();
     EXPECT_EQ(Dressed.Form.Wears.Trays, Open);
@@ -108,7 +106,9 @@ TEST(OptionsPanel, TrayColoursFollowTheMomentAtWhichASetIsPainted) {
     Dressed.Play("123446", 0);
     EXPECT_NE(FindDiceSet(Dressed.Box(1)->Picture() - 2), nullptr) << "a two doesn't look like another face";
     EXPECT_EQ(Dressed.Form.Wears.Trays, End);
-    EXPECT_EQ(GameSettings(Dressed.Where).DieColour(), Base) << "a set off the list stays in the settings";
+    const GameSettings Kept(Dressed.Where);
+    EXPECT_EQ(Kept.DieColour, Base) << "a set off the list stays in the settings";
+    EXPECT_EQ(Kept.ComputerSpeed, 7) << "and so does a speed that no choice stands for";
   }
 }
 
@@ -183,7 +183,7 @@ TEST(OptionsPanel, APictureThatVanishedIsNotSaved) {
     return Table.grab().toImage().pixelColor(0, 0) == Table.palette().color(QPalette::Window);
   })) << "plain";
   Dressed.Close(true);
-  EXPECT_EQ(GameSettings(Dressed.Where).Background(), Dressed.Picture("Satin.jpg")) << "the next start finds one";
+  EXPECT_EQ(GameSettings(Dressed.Where).Background, Dressed.Picture("Satin.jpg")) << "the next start finds one";
 }
 
 }  // namespace blunko::test
