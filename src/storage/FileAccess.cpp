@@ -5,32 +5,48 @@
 #include <QFileInfo>
 #include <QThread>
 
-#include <cstdio>
-
-#ifdef Q_OS_LINUX
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#else
-#include <QDateTime>
-#include <QLockFile>
-#include <QSaveFile>
-#endif
+#include <utility>
 
 namespace blunko {
 
 namespace {
 
-constexpr int LongestWait = 5000;  // ms for the lock
-constexpr int TryEvery = 2;        // ms
+constexpr int LongestWait = 100;  // ms for the lock
+constexpr int TryEvery = 200;     // us: who saves without a pause lets go for some microseconds at a time
 constexpr int MostSetAside = 1000;
 
 /// Where a link leads to; the path itself where there is no file yet.
 QString RealPath(const QString& Path) {
   const QString Real = QFileInfo(Path).canonicalFilePath();
   return Real.isEmpty() ? Path : Real;
+}
+
+bool LeadsNowhere(const QString& Path) { return QFileInfo(Path).isSymLink() && !QFileInfo::exists(Path); }
+
+/// Some file systems can't be told to write at once.
+bool SyncFile(int Handle) {
+  return TEMP_FAILURE_RETRY(fsync(Handle)) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
+}
+
+/// A file written by the administrator stays its owner's. The new one gets of its mode what is in `Mask`.
+void KeepOwnerAndMode(const QString& Old, int New, mode_t Mask) {
+  struct stat Found {};
+  if (stat(QFile::encodeName(Old).constData(), &Found) != 0) return;
+  fchmod(New, Found.st_mode & Mask);
+  static_cast<void>(fchown(New, Found.st_uid, Found.st_gid) == 0 || fchown(New, -1, Found.st_gid) == 0);
+}
+
+/// Whether the name is still that of the open file.
+bool Bears(const QByteArray& Name, int Handle) {
+  struct stat Named {}, Held {};
+  return stat(Name.constData(), &Named) == 0 && fstat(Handle, &Held) == 0 && Named.st_ino == Held.st_ino &&
+         Named.st_dev == Held.st_dev;
 }
 
 }  // namespace
@@ -47,50 +63,25 @@ bool SetAside(const QString& Path, const char* Wanted) {
   return false;
 }
 
-FileLock::~FileLock() {
-  if (!held) return;
-  lock.reset();
-  QThread::msleep(TryEvery + 1);  // who writes without a pause would keep all others out: they look in between
-}
-
-#ifdef Q_OS_LINUX
-
-namespace {
-
-/// Some file systems can't be told to write at once.
-bool SyncFile(int Handle) { return fsync(Handle) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP; }
-
-/// A file written by the administrator stays its owner's.
-void KeepOwnerAndMode(const QString& Old, int New) {
-  struct stat Found {};
-  if (stat(QFile::encodeName(Old).constData(), &Found) != 0) return;
-  fchmod(New, Found.st_mode & 0777);
-  static_cast<void>(fchown(New, Found.st_uid, Found.st_gid) == 0 || fchown(New, -1, Found.st_gid) == 0);
-}
-
-int OpenFolderOf(const QString& Path) {
-  return open(QFile::encodeName(QFileInfo(Path).absolutePath()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-}
-
-}  // namespace
-
 std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit, FileState* State) {
   const auto Failed = [State](FileState Found) {
     if (State != nullptr) *State = Found;
     return std::nullopt;
   };
   // A pipe is opened, too, and then looked at: whoever looks first may open something else.
-  const int Handle = open(QFile::encodeName(Path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+  const QByteArray Name = QFile::encodeName(Path);
+  const int Handle = TEMP_FAILURE_RETRY(open(Name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
   if (Handle < 0) {
-    if (errno == ENOENT || errno == ENOTDIR) return Failed(FileState::Missing);
+    if ((errno == ENOENT || errno == ENOTDIR) && !LeadsNowhere(Path)) return Failed(FileState::Missing);
     return Failed(errno == ENXIO || errno == ENODEV ? FileState::Foreign : FileState::Unreadable);
   }
   QFile File;
   struct stat Info {};
-  const bool Plain = fstat(Handle, &Info) == 0 && S_ISREG(Info.st_mode) && Info.st_size <= Limit;
-  if (!Plain || !File.open(Handle, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+  const bool Known = fstat(Handle, &Info) == 0;
+  const bool Plain = S_ISREG(Info.st_mode) && Info.st_size <= Limit;
+  if (!Known || !Plain || !File.open(Handle, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
     close(Handle);
-    return Failed(Plain ? FileState::Unreadable : FileState::Foreign);
+    return Failed(Known && !Plain ? FileState::Foreign : FileState::Unreadable);
   }
   QByteArray Bytes = File.read(Limit + 1);
   if (File.error() != QFileDevice::NoError) return Failed(FileState::Unreadable);
@@ -107,11 +98,11 @@ FileStamp StampOf(const QString& Path) {
 
 bool ReplaceFile(const QString& Path, const QByteArray& Bytes) {
   const QString Target = RealPath(Path);
-  if (QFileInfo::exists(Target) && !QFileInfo(Target).isWritable()) return false;
+  if (LeadsNowhere(Path) || (QFileInfo::exists(Target) && !QFileInfo(Target).isWritable())) return false;
   QFile New(Target + QStringLiteral(".saving"));
-  New.remove();  // of a copy that was killed
+  if (!New.remove() && New.exists()) SetAside(New.fileName(), "file in the making");  // else a killed copy's
   if (!New.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return false;
-  KeepOwnerAndMode(Target, New.handle());
+  KeepOwnerAndMode(Target, New.handle(), 0777);
   // The bytes must be on the disk before the name is: after a power cut an empty file may stand there otherwise.
   const bool Whole = New.write(Bytes) == Bytes.size() && New.flush() && SyncFile(New.handle());
   New.close();
@@ -119,9 +110,10 @@ bool ReplaceFile(const QString& Path, const QByteArray& Bytes) {
     New.remove();
     return false;
   }
-  const int Folder = OpenFolderOf(Target);
+  const QByteArray FolderName = QFile::encodeName(QFileInfo(Target).absolutePath());
+  const int Folder = TEMP_FAILURE_RETRY(open(FolderName.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (Folder >= 0) {
-    fsync(Folder);
+    SyncFile(Folder);
     close(Folder);
   }
   return true;
@@ -133,69 +125,32 @@ bool IsPrivate(const QString& Folder) {
          Found.st_uid == geteuid() && (Found.st_mode & 0777) == 0700;
 }
 
-/// The folder itself is what is locked: it stays, is there before the file, and can be locked by all who can write in
-/// it.
-struct FileLock::OfSystem {
-  explicit OfSystem(const QString& Path) : folder(OpenFolderOf(RealPath(Path))) {}
-  ~OfSystem() { close(folder); }
-  Q_DISABLE_COPY_MOVE(OfSystem)
-  /// A system without such locks does without.
-  bool Take() const { return flock(folder, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK; }
-
- private:
-  const int folder;
-};
-
-FileLock::FileLock(const QString& Path) : lock(std::make_unique<OfSystem>(Path)) {
+FileLock::FileLock(const QString& Path) : name(QFile::encodeName(RealPath(Path) + QStringLiteral(".lock"))) {
   const QDeadlineTimer End(LongestWait);
-  while (!(held = lock->Take()) && !End.hasExpired()) QThread::msleep(TryEvery);
+  do {
+    // Nobody can open it for reading, and for writing only who may write the file.
+    handle = TEMP_FAILURE_RETRY(open(name.constData(), O_WRONLY | O_CREAT | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC, 0222));
+    if (handle < 0) {
+      if (errno == EISDIR && SetAside(QFile::decodeName(name), "lock")) continue;
+      return;
+    }
+    KeepOwnerAndMode(Path, handle, 0222);
+    // Who held it before has taken it away with its name.
+    if (TEMP_FAILURE_RETRY(flock(handle, LOCK_EX | LOCK_NB)) == 0 && Bears(name, handle)) return;
+    close(std::exchange(handle, -1));
+    QThread::usleep(TryEvery);
+  } while (!End.hasExpired());
 }
 
-#else
-
-std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit, FileState* State) {
-  const QFileInfo Info(Path);
-  QFile File(Path);
-  std::optional<QByteArray> Bytes;
-  FileState Found = FileState::Whole;
-  if (!Info.exists())
-    Found = FileState::Missing;
-  else if (!Info.isFile() || Info.size() > Limit)
-    Found = FileState::Foreign;
-  else if (!File.open(QIODevice::ReadOnly))
-    Found = FileState::Unreadable;
-  else
-    Bytes = File.read(Limit);
-  if (State != nullptr) *State = Found;
-  return Bytes;
+FileLock::~FileLock() {
+  if (!IsHeld()) return;
+  unlink(name.constData());
+  close(handle);
 }
 
-FileStamp StampOf(const QString& Path) {
-  const QFileInfo Info(Path);
-  if (!Info.exists()) return {};
-  return {0, 1, Info.size(), Info.lastModified().toMSecsSinceEpoch() * 1'000'000};
+void SaveTrouble::Tell(const QString& Path) {
+  if (std::exchange(told, true)) return;
+  std::fprintf(stderr, "%s can't be saved: what is new is kept, and saved as soon as it can be\n", qPrintable(Path));
 }
-
-bool ReplaceFile(const QString& Path, const QByteArray& Bytes) {
-  QSaveFile File(Path);
-  if (!File.open(QIODevice::WriteOnly)) return false;
-  if (File.write(Bytes) != Bytes.size()) File.cancelWriting();
-  return File.commit();
-}
-
-bool IsPrivate(const QString& Folder) {
-  const QFileInfo Info(Folder);
-  return Info.isDir() && !Info.isSymLink() && Info.isWritable();
-}
-
-struct FileLock::OfSystem : QLockFile {
-  explicit OfSystem(const QString& Path) : QLockFile(RealPath(Path) + QStringLiteral(".lock")) {}
-};
-
-FileLock::FileLock(const QString& Path) : lock(std::make_unique<OfSystem>(Path)) {
-  held = lock->tryLock(LongestWait) || lock->error() == QLockFile::PermissionError;
-}
-
-#endif
 
 }  // namespace blunko

@@ -3,15 +3,14 @@
 #include <QByteArray>
 #include <QString>
 
-#include <memory>
 #include <optional>
 
 namespace blunko {
 
-// Everything here that one operating system does in another way than the next is done in the .cpp, and nowhere else.
+// What the files of the program need of the operating system is here, and nowhere else.
 
 /// What stands under a path. `Foreign`: nothing of ours, such as a folder, a pipe or a file too large. `Unreadable`: it
-/// may well be good, but the system didn't hand it out.
+/// may well be good, but the system didn't hand it out; so is a link that leads to nothing.
 enum class FileState { Whole, Missing, Foreign, Unreadable };
 
 /// All bytes of a plain file of at most `Limit` bytes; nothing in every state but `Whole`. Waits for nobody, whatever
@@ -38,21 +37,30 @@ bool SetAside(const QString& Path, const char* Wanted);
 /// A folder, no link, that belongs to the user and is closed to everybody else.
 bool IsPrivate(const QString& Folder);
 
-/// Keeps other copies of the program away from the files of a folder while one of them is read, changed and written.
-/// The system itself frees what a killed copy held. It can't be taken twice at a time, not even by the same copy.
+/// Keeps other copies of the program away from a file while it is read, changed and written: a file beside it that is
+/// there for as long, and that nobody can hold who may not write. The system itself frees what a killed copy held. It
+/// can't be taken twice at a time, not even by the same copy.
 class FileLock {
  public:
-  /// Waits for another copy as long as a slow disk may take; one that holds it for longer has come to a stop.
+  /// Waits no longer than a window may stand still, for a copy that is just saving.
   explicit FileLock(const QString& Path);
   ~FileLock();
   Q_DISABLE_COPY_MOVE(FileLock)
   /// False: the file must be left alone.
-  bool IsHeld() const { return held; }
+  bool IsHeld() const { return handle >= 0; }
 
  private:
-  struct OfSystem;
-  std::unique_ptr<OfSystem> lock;
-  bool held = false;
+  const QByteArray name;
+  int handle = -1;
+};
+
+/// Tells on standard error, once in the life of the object, that a file can't be saved.
+class SaveTrouble {
+ public:
+  void Tell(const QString& Path);
+
+ private:
+  bool told = false;
 };
 
 }  // namespace blunko

@@ -112,9 +112,8 @@ struct Written {
 };
 
 QByteArray WithAll(QByteArray Text, const QList<Written>& Values) {
-  for (const Written& Value : Values) {
-    const QByteArray Letters = IsUtf8(Text) ? Value.Letters.toUtf8() : Value.Letters.toLatin1();
-    Text = WithBytes(Text, Value.Key, Value.Path.value_or(Letters));
+  for (const auto& [Key, Letters, Path] : Values) {
+    Text = Path ? WithBytes(Text, Key, *Path) : IniInfo::WithValue(Text, Key, Letters);
   }
   return Text;
 }
@@ -125,6 +124,10 @@ QByteArray WithAll(QByteArray Text, const QList<Written>& Values) {
 class IniInfo::File {
  public:
   explicit File(const QString& Path) : path(Path) {}
+  ~File() {
+    if (!unsaved.isEmpty()) Save();
+  }
+  Q_DISABLE_COPY_MOVE(File)
 
   const QByteArray& Text();
   void Write(const Written& Value);
@@ -141,6 +144,7 @@ class IniInfo::File {
   bool known = false;      ///< the text is still right while the stamp is the same
   QList<Written> unsaved;  ///< values that the file hasn't taken yet
   int gathering = 0;
+  SaveTrouble trouble;
 };
 
 QString IniInfo::FindValue(const QByteArray& Text, const QString& Key) {
@@ -149,7 +153,8 @@ QString IniInfo::FindValue(const QByteArray& Text, const QString& Key) {
 }
 
 QByteArray IniInfo::WithValue(const QByteArray& Text, const QString& Key, const QString& Value) {
-  return WithAll(Text, {{Key, Value.left(LongestValue)}});
+  const QString Short = Value.left(LongestValue);
+  return WithBytes(Text, Key, IsUtf8(Text) ? Short.toUtf8() : Short.toLatin1());
 }
 
 IniInfo::IniInfo(const QString& Path) : InfoPath(Path), file(std::make_shared<File>(Path)) {}
@@ -160,7 +165,7 @@ QString IniInfo::ReadInfoValue(const QString& Key, const QString& Default) const
 }
 
 void IniInfo::WriteInfoValue(const QString& Key, const QString& Value) const {
-  file->Write({Key, Value.left(LongestValue)});
+  file->Write({Key, Value});
 }
 
 QByteArray IniInfo::ReadInfoPath(const QString& Key, const QByteArray& Default) const {
@@ -198,10 +203,11 @@ void IniInfo::File::Release() {
 
 void IniInfo::File::Save() {
   const FileLock Lock(path);
-  const auto Old = Lock.IsHeld() ? Load(true) : std::nullopt;
-  if (!Old) return;
-  const QByteArray New = WithAll(*Old, unsaved);
-  if (New == *Old || (New.size() <= LargestFile && ReplaceFile(path, New))) unsaved.clear();
+  if (const auto Old = Lock.IsHeld() ? Load(true) : std::nullopt) {
+    const QByteArray New = WithAll(*Old, unsaved);
+    if (New == *Old || (New.size() <= LargestFile && ReplaceFile(path, New))) return unsaved.clear();
+  }
+  trouble.Tell(path);
 }
 
 /// What the file holds: an empty text without one, nothing when it may be good but can't be had. What can't be an info

@@ -19,8 +19,8 @@ class IniInfo {
 
   /// Value of the key, without regard to case; `Default` when the key is missing or empty.
   QString ReadInfoValue(const QString& Key, const QString& Default = {}) const;
-  /// Creates or replaces the key at once; everything else in the file stays as it is. Failure is silent: the value
-  /// holds for the run, and goes into the file with the next write.
+  /// Creates or replaces the key at once; everything else in the file stays as it is. What can't be saved holds
+  /// for the run, and is saved with the next write or at the end.
   void WriteInfoValue(const QString& Key, const QString& Value) const;
   /// The same for paths: the bytes of the file system stand for themselves, whatever the coding of the text. One that
   /// is too long to be read back isn't written.

@@ -46,10 +46,12 @@ struct IniInfoTest : testing::Test {
 TEST_F(IniInfoTest, WritesAtOnceOrTogetherAndLeavesNothingBeside) {
   EXPECT_EQ(Info.ReadInfoValue("Names", "none"), "none");
   EXPECT_TRUE(place.Names().isEmpty()) << "reading makes no file";
+  const Unprivileged Nobody(place);
   place.Put("real.ini", "");
   place.Chmod("real.ini", 0600);
   ASSERT_TRUE(QFile::link("real.ini", path));
-  place.Put("real.ini.saving", "what a killed copy left");
+  for (const char* InTheWay : {"real.ini.lock/a", "real.ini.saving/a"}) place.Put(InTheWay, "");
+  place.Chmod("", 0300);
   Info.WriteInfoValue("Names", "A");
   {
     const IniInfo Copy = Info;
@@ -63,7 +65,8 @@ TEST_F(IniInfoTest, WritesAtOnceOrTogetherAndLeavesNothingBeside) {
   EXPECT_EQ(place.Get("real.ini"), "[Info]\nNames=B\nEmpty=\n");
   EXPECT_FALSE(QFile::permissions(path) & QFile::ReadOther);
   EXPECT_EQ(Info.ReadInfoValue("Empty", "default"), "default");
-  EXPECT_EQ(place.Names(), (QStringList{"real.ini", "x.ini"}));
+  place.Chmod("", 0700);
+  EXPECT_EQ(place.Names(), (QStringList{"real.ini", "real.ini.lock.damaged1", "real.ini.saving.damaged1", "x.ini"}));
   QThread::msleep(50);
   EXPECT_EQ(Info.ReadInfoValue("Names"), "B");
   ReplaceFile(path, "[Info]\nNames=C\nEmpty=\n");
@@ -94,34 +97,54 @@ static void LimitFiles(rlim_t Bytes) {
   setrlimit(RLIMIT_FSIZE, &Limit);
 }
 
-TEST_F(IniInfoTest, WhatCannotBeSavedHoldsForTheRunAndGoesWithTheNextWrite) {
-  const QByteArray Text = "[Info]\nKey=old\n";
-  const std::tuple<int, int, rlim_t> Rows[] = {
-      {0555, 0644, RLIM_INFINITY}, {0755, 0444, RLIM_INFINITY}, {0755, 0, RLIM_INFINITY}, {0755, 0644, 9}};
-  for (const auto& [FolderMode, FileMode, Limit] : Rows) {
-    place.Put("x.ini", Text);
-    place.Chmod("x.ini", FileMode);
-    place.Chmod("", FolderMode);
+TEST_F(IniInfoTest, WhatCannotBeSavedIsToldOnceHoldsForTheRunAndGoesWithTheNextWrite) {
+  const QString Real = place.Path("real.ini");
+  const QByteArray Begin = ';' + QByteArray(500, 'x') + "\n[Info]\n", Text = Begin + "Key=old\n";
+  std::optional<FileLock> OfAnotherCopy;
+  // What is in the way, and how it goes away.
+  const std::tuple<const char*, std::function<void()>, std::function<void()>> Rows[] = {
+      {"a folder to read", [&] { place.Chmod("", 0555); }, [&] { place.Chmod("", 0755); }},
+      {"a file to read", [&] { place.Chmod("real.ini", 0444); }, [&] { place.Chmod("real.ini", 0644); }},
+      {"an unreadable file", [&] { place.Chmod("real.ini", 0); }, [&] { place.Chmod("real.ini", 0644); }},
+      {"a full disk", [&] { LimitFiles(Text.size() - 1); }, [] { LimitFiles(RLIM_INFINITY); }},
+      {"a lock that isn't let go", [&] { OfAnotherCopy.emplace(path); }, [&] { OfAnotherCopy.reset(); }},
+      {"a disk that isn't there", [&] { QFile::rename(Real, Real + '~'); }, [&] { QFile::rename(Real + '~', Real); }}};
+  const Unprivileged Nobody(place);
+  ASSERT_TRUE(QFile::link("real.ini", path));
+  for (const auto& [Why, Spoil, Mend] : Rows) {
+    SCOPED_TRACE(Why);
+    place.Put("real.ini", Text);
     {
-      const Unprivileged Nobody(place);
-      LimitFiles(Limit);
-      Info.WriteInfoValue("Key", "new");
-      EXPECT_EQ(Info.ReadInfoValue("Key"), "new");
+      const IniInfo Run(path);
+      Spoil();
+      testing::internal::CaptureStderr();
+      for (const char* Key : {"Key", "Key2"}) Run.WriteInfoValue(Key, "new");
+      EXPECT_EQ(QString::fromStdString(testing::internal::GetCapturedStderr()).count('\n'), 1);
+      EXPECT_EQ(Run.ReadInfoValue("Key"), "new");
+      Mend();
+      EXPECT_EQ(place.Get("x.ini"), Text);
+      EXPECT_EQ(place.Names(), (QStringList{"real.ini", "x.ini"}));
+      Run.WriteInfoValue("Other", "1");
+      EXPECT_EQ(place.Get("real.ini"), Begin + "Key=new\nKey2=new\nOther=1\n");
+      Spoil();
+      testing::internal::CaptureStderr();
+      Run.WriteInfoValue("Last", "1");
+      EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+      Mend();
     }
-    LimitFiles(RLIM_INFINITY);
-    place.Chmod("", 0755);
-    place.Chmod("x.ini", 0644);
-    EXPECT_EQ(place.Get("x.ini"), Text);
-    EXPECT_EQ(place.Names(), QStringList("x.ini"));
-    Info.WriteInfoValue("Other", "1");
-    EXPECT_EQ(IniInfo::FindValue(place.Get("x.ini"), "Key"), "new");
+    EXPECT_EQ(place.Get("real.ini"), Begin + "Key=new\nKey2=new\nOther=1\nLast=1\n") << "at the end";
   }
 }
 
-/// Two copies write without a pause, and one of them is killed at any moment: no write that had returned is lost, and
+/// Two copies write without a pause, and one of them is killed at any moment: nothing that was saved is lost, and
 /// neither a lock nor litter is left.
 TEST_F(IniInfoTest, CopiesLoseNothingOfEachOtherEvenWhenKilled) {
   std::mt19937_64 Random(7);
+  const auto Save = [&] {
+    const QString Key = QString::number(Random());
+    do Info.WriteInfoValue(Key, "1");
+    while (!place.Get("x.ini").contains(Key.toLatin1()));  // the other copy may have held the lock for too long
+  };
   qsizetype Written = 0;
   for (int Kills = 0; Kills < 30; ++Kills) {
     int Pipe[2];
@@ -131,21 +154,20 @@ TEST_F(IniInfoTest, CopiesLoseNothingOfEachOtherEvenWhenKilled) {
     if (Child == 0) {
       alarm(60);
       Random.seed(static_cast<unsigned>(getpid()));
-      while (write(Pipe[1], "", 1) == 1) Info.WriteInfoValue(QString::number(Random()), "1");
+      while (write(Pipe[1], "", 1) == 1) Save();
       _exit(1);
     }
     close(Pipe[1]);
     char Byte;
     ASSERT_EQ(read(Pipe[0], &Byte, 1), 1);  // only says that the child lives
-    for (const QDeadlineTimer End(Random() % 30); !End.hasExpired(); ++Written)
-      Info.WriteInfoValue(QString::number(Random()), "1");
+    for (const QDeadlineTimer End(Random() % 30); !End.hasExpired(); ++Written) Save();
     usleep(Random() % 5000);
     kill(Child, SIGKILL);
     waitpid(Child, nullptr, 0);
     while (read(Pipe[0], &Byte, 1) == 1) ++Written;
     close(Pipe[0]);
     const qsizetype Found = place.Get("x.ini").count("=1\n");
-    ASSERT_TRUE(Found == Written || Found == Written + 1) << Found << " found, " << Written << " returned";
+    ASSERT_TRUE(Found == Written || Found == Written + 1) << Found << " found, " << Written << " saved";
     Written = Found;
   }
   EXPECT_GT(Written, 30);
