@@ -22,7 +22,6 @@
 #include "app/frmViewHRListYN.h"
 #include "app/frmWelcome.h"
 #include "sound/SoundFiles.h"
-#include "storage/DayNumber.h"
 #include "table/DiceSets.h"
 #include "table/Strip.h"
 #include "widgets/Boxes.h"
@@ -61,8 +60,9 @@ Application::Application(const Folders& Where, const IniInfo& Info, std::unique_
       Table(State, Controls, Settings.Options(), Screen, *this, *Numbers),
       Players(Table, Uniform),
       Util(VersionAddress),
-      Rollers(Where.ListsPath(), Util),
-      RollersCheck(State, InfoFile, Rollers, *this) {}
+      Rollers(State, InfoFile, Util, *this) {
+  Table.OfferScores(Rollers);
+}
 
 Application::~Application() = default;
 
@@ -187,14 +187,6 @@ void Application::ShowScorePad() {
 
 void Application::FocusTable() { Form->activateWindow(); }
 
-void Application::CheckHighTurn(const std::string& Name, std::int16_t Score) {
-  RollersCheck.CheckHighTurn(Name, Score);
-}
-
-void Application::CheckWhoopin(const std::string& Name, std::int16_t Margin) {
-  RollersCheck.CheckWhoopin(Name, Margin);
-}
-
 QString Application::AskName(const QString& Prompt, const QString& Title, const QString& Preset) {
   return AskText(Form.get(), Prompt, Title, Preset);
 }
@@ -204,8 +196,6 @@ void Application::AskToView() { frmViewHRListYN(State.FormMessage, Screen, InfoF
 void Application::ViewLists() {
   if (!State.Quitting) frmHighRollers(Rollers, Screen, Form.get()).exec();
 }
-
-QString Application::Today() const { return DayNumber(QDate::currentDate()); }
 
 void Application::ShowCongrats() {
   const QString Winner = QString::fromStdString(State.PlayerName[State.Winner]);

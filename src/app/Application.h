@@ -3,7 +3,6 @@
 #include <memory>
 
 #include "app/HelpWindow.h"
-#include "app/HighRollersCheck.h"
 #include "app/QtDesktop.h"
 #include "app/frmNewGame.h"
 #include "bots/ComputerPlayers.h"
@@ -11,11 +10,11 @@
 #include "sound/Sounds.h"
 #include "storage/Folders.h"
 #include "storage/GameSettings.h"
-#include "storage/HighRollers.h"
 #include "storage/IniInfo.h"
 #include "table/OptionsPanel.h"
 #include "table/frmMain.h"
 #include "table/frmScorePad.h"
+#include "util/HighRollers.h"
 #include "util/TbkUtil.h"
 #include "util/UtilRandom.h"
 
@@ -45,8 +44,6 @@ class Application : public Program, private HighRollersScreen {
   void UpdateActivePlayer() override;
   void ShowScorePad() override;
   void FocusTable() override;
-  void CheckHighTurn(const std::string& Name, std::int16_t Score) override;
-  void CheckWhoopin(const std::string& Name, std::int16_t Margin) override;
   void ShowCongrats() override;
   void ShowNewGame() override;
   void ShowOptions() override;
@@ -71,7 +68,6 @@ class Application : public Program, private HighRollersScreen {
   ComputerPlayers Players;
   TbkUtil Util;
   HighRollers Rollers;
-  HighRollersCheck RollersCheck;
   std::unique_ptr<frmMain> Form;
 
  private:
@@ -84,7 +80,6 @@ class Application : public Program, private HighRollersScreen {
   QString AskName(const QString& Prompt, const QString& Title, const QString& Preset) override;
   void AskToView() override;
   void ViewLists() override;
-  QString Today() const override;
 
   Announcer* speaker = nullptr;
   OptionsPanel* options = nullptr;

@@ -110,8 +110,9 @@ QString frmHighRollers::DotString(int Count) { return QString(qMax(Count, 0), QL
 
 void frmHighRollers::lblReset_Click() {
   if (!desktop.AskYesNo("Are you sure you want to reset the high score lists?", "Reset Lists?")) return;
-  rollers.ResetHighRollers();
+  const bool Reset = rollers.ResetHighRollers();
   ShowHighRollerLists();
+  if (!Reset) desktop.MessageBox("The lists couldn't be reset: their file can't be written at the moment.");
 }
 
 }  // namespace blunko

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/Desktop.h"
-#include "storage/HighRollers.h"
+#include "util/HighRollers.h"
 #include "widgets/ButtonPlus.h"
 #include "widgets/LinkLabel.h"
 #include "widgets/Pictures.h"

@@ -104,7 +104,7 @@ void frmNewGame::BuildSeat(int Index) {
   const QString Number = QString::number(Index);
   QLineEdit* Name = TxtPlayerName[Index] = Make<QLineEdit>(this, "TxtPlayerName" + Number);
   Name->setMaxLength(LongestName);
-  Name->setValidator(new NameValidator(Name));
+  Name->setValidator(new NameValidator(Name, LongestName));
   Name->installEventFilter(this);
   chkComputer[Index] = Make<QCheckBox>(this, "chkComputer" + Number);
   cboStyle[Index] = Make<QComboBox>(this, "cboStyle" + Number);

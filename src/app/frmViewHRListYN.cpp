@@ -2,9 +2,9 @@
 
 #include <QVBoxLayout>
 
-#include "app/HighRollersCheck.h"
 #include "storage/DayNumber.h"
 #include "storage/NameRule.h"
+#include "util/HighRollers.h"
 #include "widgets/Colours.h"
 #include "widgets/FormBuilder.h"
 

@@ -14,7 +14,7 @@ void Game::EndGame() {
   }
   program.Announce(GameEvent::Win);
   desktop.Sleep(500);
-  if (!m.PlayerIsComputer[m.Winner]) program.CheckWhoopin(m.PlayerName[m.Winner], WinMargin());
+  if (!m.PlayerIsComputer[m.Winner]) rollers->CheckWhoopin(m.PlayerName[m.Winner], WinMargin());
   program.ShowCongrats();
 
   t.cmdRoll.Enabled = false;

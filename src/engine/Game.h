@@ -9,6 +9,7 @@
 #include "engine/GameOptions.h"
 #include "engine/GameSetup.h"
 #include "engine/Gate.h"
+#include "engine/HighRollersCheck.h"
 #include "engine/Module1.h"
 #include "engine/Program.h"
 #include "engine/RandomSources.h"
@@ -31,6 +32,8 @@ class Game {
 
   /// Hands the computer seats to whoever plays them.
   void SeatComputers(ComputerSeats& Players) { computers = &Players; }
+  /// Hands the scores of persons to whoever keeps the lists.
+  void OfferScores(HighRollersCheck& Lists) { rollers = &Lists; }
 
   // A fresh game and the end of one.
   void ClearAtStart();
@@ -140,6 +143,8 @@ class Game {
 
   ComputerSeats nobody;
   ComputerSeats* computers = &nobody;
+  HighRollersCheck noLists;
+  HighRollersCheck* rollers = &noLists;
   Gate gate = Gate::Open;
 };
 

@@ -62,7 +62,7 @@ void Game::BankTurn() {
   Score = AddScore(Score, m.TurnScore);
   program.UpdateActivePlayer();
   program.Announce(GameEvent::Pass);
-  if (!IsComputerTurn()) program.CheckHighTurn(m.PlayerName[m.CurrentPlayer], m.TurnScore);
+  if (!IsComputerTurn()) rollers->CheckHighTurn(m.PlayerName[m.CurrentPlayer], m.TurnScore);
   if (m.OutPlayer == Absent && Score >= m.PlayToScore) GoOut();
 }
 

@@ -20,9 +20,6 @@ class Program {
   virtual void ShowScorePad() = 0;
   /// The table's window takes the focus.
   virtual void FocusTable() = 0;
-  /// A person's banked turn, and a person's margin of victory, are offered to the high rollers lists. Modal.
-  virtual void CheckHighTurn(const std::string& Name, std::int16_t Score) = 0;
-  virtual void CheckWhoopin(const std::string& Name, std::int16_t Margin) = 0;
   /// The game-over dialog, modal: leaves "SameGame", "DifferentGame", "Quit" or nothing in `FormMessage`.
   virtual void ShowCongrats() = 0;
   /// The new game dialog, modal: begins a fresh game, or doesn't.
@@ -47,8 +44,6 @@ class QuietProgram : public Program {
   void UpdateActivePlayer() override {}
   void ShowScorePad() override {}
   void FocusTable() override {}
-  void CheckHighTurn(const std::string&, std::int16_t) override {}
-  void CheckWhoopin(const std::string&, std::int16_t) override {}
   void ShowCongrats() override {}
   void ShowNewGame() override {}
   void ShowOptions() override {}

@@ -44,7 +44,8 @@ void KeepOwnerAndMode(const QString& Old, int New, mode_t Mask) {
 
 /// Whether the name is still that of the open file.
 bool Bears(const QByteArray& Name, int Handle) {
-  struct stat Named {}, Held {};
+  struct stat Named {
+  }, Held{};
   return stat(Name.constData(), &Named) == 0 && fstat(Handle, &Held) == 0 && Named.st_ino == Held.st_ino &&
          Named.st_dev == Held.st_dev;
 }

@@ -164,9 +164,7 @@ QString IniInfo::ReadInfoValue(const QString& Key, const QString& Default) const
   return Value.isEmpty() ? Default : Value;
 }
 
-void IniInfo::WriteInfoValue(const QString& Key, const QString& Value) const {
-  file->Write({Key, Value});
-}
+void IniInfo::WriteInfoValue(const QString& Key, const QString& Value) const { file->Write({Key, Value}); }
 
 QByteArray IniInfo::ReadInfoPath(const QString& Key, const QByteArray& Default) const {
   const QByteArray Path = FindBytes(file->Text(), Key).left(LongestValue);

@@ -6,6 +6,8 @@ namespace blunko {
 
 /// Longest name of a seat, in letters.
 inline constexpr int LongestName = 14;
+/// Longest name that can be typed for the high rollers lists.
+inline constexpr int LongestListName = 30;
 
 /// Parts the fields of the texts that hold several names.
 inline constexpr QChar FieldSeparator(0xA4);

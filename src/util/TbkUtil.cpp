@@ -15,14 +15,17 @@
 #include <QVersionNumber>
 
 #include <cstdlib>
+#include <memory>
 #include <optional>
 
 #include "storage/FileAccess.h"
-#include "storage/Folders.h"
 
 namespace blunko {
 
 namespace {
+
+constexpr qint64 LongestAnswer = 64;  // bytes
+constexpr int LongestEnd = 200;       // ms that a killed program may take
 
 /// Value of the first line of a system file that begins with `Name`, as "model name : ...".
 QString ValueFrom(const QString& Path, const QByteArray& Name) {
@@ -54,8 +57,8 @@ QString VersionAsker() {
 
 }  // namespace
 
-TbkUtil::TbkUtil(QString VersionAddress, int TimeLimit)
-    : versionAddress(std::move(VersionAddress)), timeLimit(TimeLimit) {}
+TbkUtil::TbkUtil(QString VersionAddress, int TimeLimit, QString Asker)
+    : versionAddress(std::move(VersionAddress)), timeLimit(TimeLimit), asker(std::move(Asker)) {}
 
 void TbkUtil::UtilSurveyHardware() const {
   QByteArray Text;
@@ -78,20 +81,25 @@ void TbkUtil::UtilSurveyHardware() const {
 TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revision) const {
   const QUrl Address(versionAddress);
   if (Address.scheme() != QLatin1String("http") && Address.scheme() != QLatin1String("https")) return VersionError;
-  QProcess Asker;
+  auto Asker = std::make_unique<QProcess>();
+  Asker->setStandardErrorFile(QProcess::nullDevice());
   QEventLoop Loop;
-  QObject::connect(&Asker, &QProcess::stateChanged, &Loop, [&Loop](QProcess::ProcessState State) {
-    if (State == QProcess::NotRunning) Loop.quit();
-  });
+  const auto Look = [&] {
+    if (Asker->state() == QProcess::NotRunning || Asker->bytesAvailable() > LongestAnswer) Loop.quit();
+  };
+  QObject::connect(Asker.get(), &QProcess::stateChanged, &Loop, Look);
+  QObject::connect(Asker.get(), &QProcess::readyRead, &Loop, Look);
   QTimer::singleShot(timeLimit, Qt::PreciseTimer, &Loop, &QEventLoop::quit);
-  Asker.start(VersionAsker(), {versionAddress});
-  if (Asker.state() != QProcess::NotRunning) Loop.exec(QEventLoop::ExcludeUserInputEvents);
+  Asker->start(asker.isEmpty() ? VersionAsker() : asker, {versionAddress});
+  if (Asker->state() != QProcess::NotRunning) Loop.exec(QEventLoop::ExcludeUserInputEvents);
 
-  const bool Answered = Asker.state() == QProcess::NotRunning && Asker.exitStatus() == QProcess::NormalExit &&
-                        Asker.error() == QProcess::UnknownError && Asker.exitCode() == EXIT_SUCCESS;
-  Asker.kill();
-  Asker.waitForFinished();
-  const auto Newest = Answered ? ParseVersion(Asker.readAllStandardOutput()) : std::nullopt;
+  const bool Answered = Asker->state() == QProcess::NotRunning && Asker->exitStatus() == QProcess::NormalExit &&
+                        Asker->error() == QProcess::UnknownError && Asker->exitCode() == EXIT_SUCCESS &&
+                        Asker->bytesAvailable() <= LongestAnswer;
+  const auto Newest = Answered ? ParseVersion(Asker->readAll()) : std::nullopt;
+  Asker->kill();
+  // One that the system doesn't let go at once is left to itself: its object would wait for it.
+  if (Asker->state() != QProcess::NotRunning && !Asker->waitForFinished(LongestEnd)) static_cast<void>(Asker.release());
   if (!Newest) return VersionError;
   return *Newest > QVersionNumber(Major, Minor, Revision) ? NewerExists : UpToDate;
 }

@@ -69,8 +69,8 @@ QLineEdit* GameBox::MakeInput() {
   txtAnswer = Make<QLineEdit>(this, "txtAnswer");
   txtAnswer->setFont(lblText->font());
   txtAnswer->setMinimumWidth(LeastInput);
-  txtAnswer->setMaxLength(LongestName);
-  txtAnswer->setValidator(new NameValidator(txtAnswer));
+  txtAnswer->setMaxLength(LongestListName);
+  txtAnswer->setValidator(new NameValidator(txtAnswer, LongestListName));
   lblText->setBuddy(txtAnswer);
   return txtAnswer;
 }

@@ -10,14 +10,17 @@ namespace blunko {
 /// out.
 class NameValidator : public QValidator {
  public:
-  using QValidator::QValidator;
+  NameValidator(QObject* Owner, int LongestText) : QValidator(Owner), longest(LongestText) {}
 
   State validate(QString& Text, int& Cursor) const override {
-    const QString Before = HeldToNameRule(Text.left(Cursor)).left(LongestName);
-    Text = HeldToNameRule(Text).left(LongestName);
+    const QString Before = HeldToNameRule(Text.left(Cursor)).left(longest);
+    Text = HeldToNameRule(Text).left(longest);
     Cursor = static_cast<int>(Before.size());
     return Acceptable;
   }
+
+ private:
+  const int longest;
 };
 
 }  // namespace blunko

@@ -8,8 +8,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "storage/HighRollers.h"
 #include "storage/IniInfo.h"
+#include "storage/RollerLists.h"
 
 using blunko::IniInfo, blunko::RollerLists, blunko::ScrambleText, blunko::UnscrambleText;
 

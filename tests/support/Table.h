@@ -120,7 +120,7 @@ class RecordingDesktop : public Desktop {
 
 /// Writes the calls into the log of the desktop, and that a computer's turn has begun; a dialog does what the test
 /// gives it to do.
-struct RecordingProgram : QuietProgram, ComputerSeats {
+struct RecordingProgram : QuietProgram, ComputerSeats, HighRollersCheck {
   explicit RecordingProgram(std::vector<std::string>& Lines) : Log(Lines) {}
 
   std::vector<std::string>& Log;
@@ -172,6 +172,7 @@ struct Table {
       : game{m,      t,      OtherOptions != nullptr ? *OtherOptions : Options,
              Screen, Others, OtherDice != nullptr ? *OtherDice : Numbers} {
     game.SeatComputers(Others);
+    game.OfferScores(Others);
     for (const SoundEvent& Event : SoundEvents) Options.Sounds[Event.Name] = Event.Name;
   }
 

@@ -50,6 +50,8 @@ TEST(UtilCheckVersion, ASlowServerHasUntilTheLimit) {
     EXPECT_EQ(Ask(Target.Address, TimeLimit), TbkUtil::VersionError) << Begin.constData();
     EXPECT_FALSE(Late.hasExpired()) << Begin.constData();
   }
+  // Nor does it take in more than an answer from whatever stands in the asker's place.
+  EXPECT_EQ(TbkUtil("http://x/", 10 * Patience, "/usr/bin/yes").UtilCheckVersion(1, 9, 3), TbkUtil::VersionError);
 }
 
 TEST(TbkUtil, PutsAReadableSurveyThatNamesNobodyAndTheListsIntoItsFolder) {

@@ -1,4 +1,4 @@
-#include "storage/HighRollers.h"
+#include "storage/RollerLists.h"
 
 #include <QStringList>
 
@@ -10,8 +10,7 @@ namespace blunko {
 
 namespace {
 
-constexpr qint64 LargestFile = 1 << 16;  // bytes; the lists have some hundreds
-constexpr int LongestScore = 5;          // digits
+constexpr int LongestScore = 5;  // digits
 const QString LineEnd = QStringLiteral("\r\n");
 
 const char DefaultEntries[] =
@@ -33,13 +32,6 @@ std::optional<HighRoller> EntryOf(const QString& Line) {
   return HighRoller{Fields[0], Score};
 }
 
-void Insert(RollerList& List, const HighRoller& Entry) {
-  const auto Place = PlaceFor(List, Entry.Score);
-  if (!Place) return;
-  std::rotate(List.begin() + *Place, List.end() - 1, List.end());
-  List[static_cast<std::size_t>(*Place)] = Entry;
-}
-
 }  // namespace
 
 std::optional<int> PlaceFor(const RollerList& List, std::int16_t Score) {
@@ -47,6 +39,13 @@ std::optional<int> PlaceFor(const RollerList& List, std::int16_t Score) {
       std::find_if(List.begin(), List.end(), [Score](const HighRoller& Entry) { return Score > Entry.Score; });
   if (Beaten == List.end()) return std::nullopt;
   return static_cast<int>(Beaten - List.begin());
+}
+
+void Insert(RollerList& List, const HighRoller& Entry) {
+  const auto Place = PlaceFor(List, Entry.Score);
+  if (!Place) return;
+  std::rotate(List.begin() + *Place, List.end() - 1, List.end());
+  List[static_cast<std::size_t>(*Place)] = Entry;
 }
 
 RollerLists RollerLists::Default() {
@@ -92,54 +91,6 @@ QByteArray UnscrambleText(QByteArray Text) {
     Byte = static_cast<char>(Moved < 0 ? Moved + 255 : Moved);
   }
   return Text;
-}
-
-void HighRollers::LoadHighRollers() {
-  if (CatchUp() == FileState::Whole) return;
-  const FileLock Lock(path);
-  if (!Lock.IsHeld()) return;
-  const FileState State = CatchUp();  // another copy may have been faster
-  if (State == FileState::Whole || State == FileState::Unreadable) return;
-  Take(RollerLists::Default());
-  if (MakeRoom(State)) SaveHighRollers();
-}
-
-void HighRollers::ResetHighRollers() {
-  const FileLock Lock(path);
-  if (Lock.IsHeld() && MakeRoom(CatchUp()) && store.UtilStoreLists(ScrambleText(RollerLists::Default().Text())))
-    unsaved.clear();
-}
-
-FileState HighRollers::CatchUp() {
-  FileState State = FileState::Whole;
-  const auto Scrambled = ReadWholeFile(path, LargestFile, &State);
-  if (!Scrambled) return State;
-  const auto Found = RollerLists::OfText(UnscrambleText(*Scrambled));
-  if (!Found) return FileState::Foreign;
-  Take(*Found);
-  return FileState::Whole;
-}
-
-void HighRollers::Add(WhichList List, const HighRoller& Entry) {
-  const FileLock Lock(path);
-  const FileState State = CatchUp();
-  Insert(lists.*List, Entry);
-  unsaved.emplace_back(List, Entry);
-  if (Lock.IsHeld() && MakeRoom(State)) SaveHighRollers();
-}
-
-void HighRollers::Take(const RollerLists& Saved) {
-  lists = Saved;
-  for (const auto& [List, Entry] : unsaved) Insert(lists.*List, Entry);
-}
-
-/// Whether a save may take the file's place.
-bool HighRollers::MakeRoom(FileState State) const {
-  return State == FileState::Foreign ? SetAside(path, "high rollers lists") : State != FileState::Unreadable;
-}
-
-void HighRollers::SaveHighRollers() {
-  if (store.UtilStoreLists(ScrambleText(lists.Text()))) unsaved.clear();
 }
 
 }  // namespace blunko
