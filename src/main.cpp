@@ -3,6 +3,7 @@
 #include <QLoggingCategory>
 
 #include "app/Application.h"
+#include "app/OpenInShell.h"
 #include "app/Scale.h"
 #include "widgets/FocusRing.h"
 #include "widgets/X11.h"
@@ -21,8 +22,10 @@ int main(int argc, char** argv) {
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication app(argc, argv);
   // A browser that the game opens chooses for itself.
-  if (PrefersX11) qunsetenv("QT_QPA_PLATFORM");
-  if (Scale != 100) qunsetenv("QT_SCALE_FACTOR");
+  QStringList Kept;
+  if (PrefersX11) Kept << QStringLiteral("QT_QPA_PLATFORM");
+  if (Scale != 100) Kept << QStringLiteral("QT_SCALE_FACTOR");
+  const blunko::KeptVariables Shell(Kept);
   blunko::HearKeysReleasedOnce();
   blunko::RingStandardControls();
   QApplication::setApplicationName(QStringLiteral("TollmoorBlunko"));

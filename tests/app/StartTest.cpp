@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/OpenInShell.h"
 #include "app/Scale.h"
 #include "tests/app/Run.h"
 #include "tests/support/Server.h"
@@ -147,6 +148,19 @@ TEST(Scale, MakesNoWindowLargerThanTheScreenNorSmallerThanItIs) {
   const std::tuple<int, QSize, double> Rows[] = {
       {150, {1920, 1080}, 1.5}, {400, {5300, 1120}, 2}, {400, {1590, 5600}, 3}, {200, {800, 480}, 1}};
   for (const auto& [PerCent, Screen, Scale] : Rows) EXPECT_DOUBLE_EQ(FittingScale(PerCent, Screen), Scale) << PerCent;
+}
+
+TEST(OpenInShell, HandsOnTheEnvironmentWithoutWhatTheGameSetForItself) {
+  const Place At;
+  At.Put("xdg-open", "#!/bin/sh\necho \"$1 $KEPT $OTHER\" >\"$0.told\"\n");
+  At.Chmod("xdg-open", 0755);
+  const QByteArray Path = qgetenv("PATH");
+  for (const char* Name : {"KEPT", "OTHER", "PATH"}) qputenv(Name, QFile::encodeName(At.Path()) + ':' + Path);
+  const KeptVariables Kept({"KEPT"});
+  OpenInShell("mailto:a%20b");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return At.Get("xdg-open.told").endsWith('\n'); }, 5000));
+  EXPECT_EQ(At.Get("xdg-open.told"), "mailto:a%20b  " + qgetenv("PATH") + '\n');
+  qputenv("PATH", Path);
 }
 
 TEST_F(TheProgram, AsksItsQuestionsAtTheFirstStartAndForTheVersionNowAndThen) {
