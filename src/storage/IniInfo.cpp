@@ -31,34 +31,31 @@ bool HoldsKey(const QByteArray& Line, const QByteArray& Key) {
   return Equals > 0 && Line.left(Equals).trimmed().compare(Key, Qt::CaseInsensitive) == 0;
 }
 
-/// Position of the first line of our section that holds the key; -1 when there is none. `End` becomes the place where a
-/// new key belongs: behind the last written line of the section; -1 without a section.
-qsizetype FindLine(const QList<QByteArray>& Lines, const QByteArray& Key, qsizetype* End = nullptr) {
+/// Where a key's value stands in the text; or, with a negative length, where a line for the key belongs: behind the
+/// last written line of our section, or nowhere (-1) without one.
+struct Spot {
+  qsizetype At = -1;
+  qsizetype Length = -1;
+};
+
+Spot FindSpot(const QByteArray& Text, const QByteArray& Key) {
+  Spot New;
   bool Inside = false;
-  qsizetype Place = -1;
-  for (qsizetype i = 0; i < Lines.size(); ++i) {
-    if (IsSection(Lines[i])) {
-      Inside = IsOurSection(Lines[i]) && Place < 0;
-      if (Inside) Place = i + 1;
-    } else if (Inside && HoldsKey(Lines[i], Key)) {
-      return i;
-    } else if (Inside && !Lines[i].trimmed().isEmpty()) {
-      Place = i + 1;
+  for (qsizetype From = IsUtf8(Text) ? ByteOrderMark.size() : 0, End = 0; From < Text.size(); From = End) {
+    const qsizetype LineEnd = Text.indexOf('\n', From);
+    End = LineEnd < 0 ? Text.size() : LineEnd + 1;
+    const QByteArray Line = Text.mid(From, End - From);
+    if (IsSection(Line)) {
+      Inside = IsOurSection(Line) && New.At < 0;
+      if (Inside) New.At = End;
+    } else if (Inside && HoldsKey(Line, Key)) {
+      const qsizetype At = From + Line.indexOf('=') + 1, Past = LineEnd < 0 ? End : LineEnd;
+      return {At, Past - At - (LineEnd > At && Text[LineEnd - 1] == '\r' ? 1 : 0)};
+    } else if (Inside && !Line.trimmed().isEmpty()) {
+      New.At = End;
     }
   }
-  if (End != nullptr) *End = Place;
-  return -1;
-}
-
-/// The lines with their ends. A byte order mark is no part of the first one.
-QList<QByteArray> LinesOf(const QByteArray& Text) {
-  QList<QByteArray> Lines;
-  for (qsizetype From = IsUtf8(Text) ? ByteOrderMark.size() : 0; From < Text.size();) {
-    const qsizetype Length = Text.indexOf('\n', From) + 1 - From;
-    Lines << (Length > 0 ? Text.mid(From, Length) : Text.mid(From));
-    From += Lines.back().size();
-  }
-  return Lines;
+  return New;
 }
 
 bool IsQuoted(const QByteArray& Value) {
@@ -74,34 +71,23 @@ QByteArray Coded(QByteArray Bytes) {
 }
 
 QByteArray FindBytes(const QByteArray& Text, const QString& Key) {
-  const QList<QByteArray> Lines = LinesOf(Text);
-  const qsizetype Found = FindLine(Lines, Key.toLatin1());
-  if (Found < 0) return {};
-  QByteArray Value = Lines[Found].mid(Lines[Found].indexOf('=') + 1).trimmed();
-  if (IsQuoted(Value)) Value = Value.mid(1, Value.size() - 2);
-  return Value;
+  const Spot Found = FindSpot(Text, Key.toLatin1());
+  if (Found.Length < 0) return {};
+  const QByteArray Value = Text.mid(Found.At, Found.Length).trimmed();
+  return IsQuoted(Value) ? Value.mid(1, Value.size() - 2) : Value;
 }
 
-QByteArray WithBytes(const QByteArray& Text, const QString& Key, const QByteArray& Value) {
-  QList<QByteArray> Lines = LinesOf(Text);
-  const QByteArray Mark = IsUtf8(Text) ? ByteOrderMark : QByteArray();
+QByteArray WithBytes(QByteArray Text, const QString& Key, const QByteArray& Value) {
   const QByteArray LineEnd = Text.contains("\r\n") ? "\r\n" : "\n";
-  const QByteArray Name = Key.toLatin1();
-  qsizetype End = -1;
-  const qsizetype Found = FindLine(Lines, Name, &End);
-  if (Found >= 0) {
-    const QByteArray& Old = Lines[Found];
-    const QByteArray OldEnd = Old.endsWith("\r\n") ? "\r\n" : Old.endsWith('\n') ? "\n" : "";
-    Lines[Found] = Old.left(Old.indexOf('=') + 1) + Coded(Value) + OldEnd;
-    return Mark + Lines.join();
+  auto [At, Length] = FindSpot(Text, Key.toLatin1());
+  if (Length >= 0) return Text.replace(At, Length, Coded(Value));
+  QByteArray Line = Key.toLatin1() + '=' + Coded(Value) + LineEnd;
+  if (At < 0) {
+    At = Text.size();
+    Line.prepend('[' + Section + ']' + LineEnd);
   }
-  if (!Lines.isEmpty() && !Lines.back().endsWith('\n')) Lines.back() += LineEnd;
-  if (End < 0) {
-    Lines << '[' + Section + ']' + LineEnd;
-    End = Lines.size();
-  }
-  Lines.insert(End, Name + '=' + Coded(Value) + LineEnd);
-  return Mark + Lines.join();
+  const bool Open = At > 0 && Text[At - 1] != '\n' && Text != ByteOrderMark;
+  return Text.insert(At, Open ? LineEnd + Line : Line);
 }
 
 /// A value as it came: letters or the bytes of a path.

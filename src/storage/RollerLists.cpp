@@ -1,5 +1,6 @@
 #include "storage/RollerLists.h"
 
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -19,17 +20,12 @@ const char DefaultEntries[] =
     "Irene¤1500|Tam¤1450|Marlo¤1400|Vivianne¤1350|Otis¤1300|"
     "Philipa¤1250|Hugo¤1200|Rosa¤1150|Bea¤1100|Georgiana¤1050|";
 
-bool IsDigit(QChar Letter) { return Letter >= QLatin1Char('0') && Letter <= QLatin1Char('9'); }
-
 std::optional<HighRoller> EntryOf(const QString& Line) {
-  const QStringList Fields = Line.split(FieldSeparator);
-  if (Fields.size() != 2) return std::nullopt;
-  const QString& Digits = Fields[1];
-  if (Digits.size() > LongestScore || !std::all_of(Digits.begin(), Digits.end(), IsDigit)) return std::nullopt;
-  bool IsNumber = false;
-  const short Score = Digits.toShort(&IsNumber);
-  if (!IsNumber) return std::nullopt;
-  return HighRoller{Fields[0], Score};
+  static const QRegularExpression Form(QStringLiteral("\\A([^%1]*)%1([0-9]{1,5})\\z").arg(FieldSeparator));
+  const QRegularExpressionMatch Found = Form.match(Line);
+  bool Fits = false;
+  const short Score = Found.captured(2).toShort(&Fits);
+  return Fits ? std::optional<HighRoller>({Found.captured(1), Score}) : std::nullopt;
 }
 
 }  // namespace

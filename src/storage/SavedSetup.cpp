@@ -14,20 +14,12 @@ const QString ComputersKey = QStringLiteral("defPlayerIsCompString");
 const QString StylesKey = QStringLiteral("defPlayerStyleString");
 const QString UnusedSeat = QStringLiteral("~");
 
-QString DefaultOf(const QString& Key) {
-  const QString Fields = Key == NamesKey
-                             ? QStringLiteral("Player1|Player2|Player3|Player4|Player5|Player6|Player7|Player8")
-                         : Key == ComputersKey ? QStringLiteral("False|True|True|True|True|True|True|True|")
-                                               : QStringLiteral("00|0|22|33|44|55|66|77|");
-  return QString(Fields).replace(QLatin1Char('|'), FieldSeparator);
-}
-
 /// The fields of a key, each with a separator behind it that the last one can lack. A key that isn't there yet is
-/// written with its default.
-QStringList FieldsOf(const IniInfo& Info, const QString& Key) {
+/// written with its default, which has bars for separators.
+QStringList FieldsOf(const IniInfo& Info, const QString& Key, const char* Default) {
   QString Text = Info.ReadInfoValue(Key);
   if (Text.isEmpty()) {
-    Text = DefaultOf(Key);
+    Text = QString::fromLatin1(Default).replace(QLatin1Char('|'), FieldSeparator);
     Info.WriteInfoValue(Key, Text);
   }
   if (Text.endsWith(FieldSeparator)) Text.chop(1);
@@ -60,9 +52,9 @@ GameSetup ReadSetup(const IniInfo& Info, const GameSettings& Settings) {
   Setup.PlayToScore = static_cast<std::int16_t>(Settings.ReadPlayToScore());
   Setup.BreakInScore = static_cast<std::int16_t>(Settings.ReadBreakInScore());
 
-  const QStringList Names = FieldsOf(Info, NamesKey);
-  const QStringList Computers = FieldsOf(Info, ComputersKey);
-  const QStringList Styles = FieldsOf(Info, StylesKey);
+  const QStringList Names = FieldsOf(Info, NamesKey, "Player1|Player2|Player3|Player4|Player5|Player6|Player7|Player8");
+  const QStringList Computers = FieldsOf(Info, ComputersKey, "False|True|True|True|True|True|True|True|");
+  const QStringList Styles = FieldsOf(Info, StylesKey, "00|0|22|33|44|55|66|77|");
   for (int i = 0; i < Setup.NumPlayers; ++i) {
     if (i < Computers.size() && Computers[i] == UnusedSeat) continue;  // the number of players was raised by hand
     GameSetup::Seat& Player = Setup.Seats[i];

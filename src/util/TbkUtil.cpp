@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QSysInfo>
@@ -37,15 +38,11 @@ QString ValueFrom(const QString& Path, const QByteArray& Name) {
   return {};
 }
 
-/// Three numbers with dots between, and nothing else but blanks around.
+/// Three numbers with dots between, and nothing else but blanks around: Qt's own reader lets more pass.
 std::optional<QVersionNumber> ParseVersion(const QByteArray& Text) {
-  const QByteArray Trimmed = Text.trimmed();
-  // Qt's own reader lets blanks and signs pass.
-  if (Trimmed.toStdString().find_first_not_of("0123456789.") != std::string::npos) return std::nullopt;
-  qsizetype Rest = 0;
-  const QVersionNumber Version = QVersionNumber::fromString(QString::fromLatin1(Trimmed), &Rest);
-  if (Rest != Trimmed.size() || Version.segmentCount() != 3) return std::nullopt;
-  return Version;
+  const QRegularExpression Form(QStringLiteral("\\A\\s*([0-9]{1,9}(\\.[0-9]{1,9}){2})\\s*\\z"));
+  const QRegularExpressionMatch Found = Form.match(QString::fromLatin1(Text));
+  return Found.hasMatch() ? std::optional(QVersionNumber::fromString(Found.captured(1))) : std::nullopt;
 }
 
 /// The program that asks for the newest version: beside the game, or where an installation has it. Empty without it.

@@ -65,7 +65,7 @@ TEST_F(GameSettingsTest, EachSetterWritesItsOwnKeyAtOnce) {
   GameSettings s = Load();
   EXPECT_EQ(place.Names(), QStringList("Background")) << "a first run writes nothing";
   s.ShowWelcome = false;
-  s.setTextColour(0xFFFF80);
+  s.setTextColourIndex(6);
   s.SetSound("Undo", "/t\xC3\xB6ne/u.wav");
   s.SetSound("Nose", "/no/event.wav");
   EXPECT_EQ(Keys(), "ShowWelcomeMessage=False\nTextColor=6\nUndoSound=/t\xC3\xB6ne/u.wav\nNoseSound=/no/event.wav\n");

@@ -11,9 +11,6 @@ namespace blunko::test {
 
 constexpr WhichList Turns = &RollerLists::lstHSTS, Whoops = &RollerLists::lstBMoV;
 
-/// Text with a bar for each separator.
-static QByteArray Plain(QByteArray Text) { return Text.replace('|', '\xA4'); }
-
 /// A running copy of the program, with a person who answers with `Typed` and `Word`; "Close" ends the program instead.
 /// What is asked is written down.
 struct Copy : HighRollersScreen {
@@ -22,8 +19,7 @@ struct Copy : HighRollersScreen {
     Rollers.LoadHighRollers();
   }
   void Turn(const char* Name, std::int16_t Score) { Rollers.CheckHighTurn(Name, Score); }
-  QString AskName(const QString& Prompt, const QString&, const QString& Preset) override {
-    EXPECT_TRUE(Prompt.startsWith("Congratulations!  You just made number ")) << Prompt.toStdString();
+  QString AskName(const QString&, const QString&, const QString& Preset) override {
     Asked += " ask:" + Preset.toStdString();
     return Typed;
   }
@@ -57,12 +53,14 @@ struct HighRollersTest : testing::Test {
 TEST(DayNumber, CountsFromItsFirstDay) { EXPECT_EQ(DayNumber(QDate(2006, 1, 1)), "38718"); }
 
 TEST(RollerLists, AreReadFromAWholeTextOnly) {
-  const QByteArray Whole = RollerLists::Default().Text(), Last = Plain("Georgiana|1050\r\n");
+  const auto With = [](QByteArray Line) {
+    return RollerLists::Default().Text().replace("Georgiana\xA4\x31050\r\n", Line.replace('|', '\xA4'));
+  };
   for (const char* Bad : {"", "Tam|1\r\nTam|1\r\n", "Georgiana|10", "Bea1300\r\n", "B|ea|1300\r\n", "Bea|-130\r\n",
                           "Bea|+130\r\n", "Bea|13:0\r\n", "Bea|000130\r\n", "Bea|32768\r\n", "Bea|1050\n"}) {
-    EXPECT_FALSE(RollerLists::OfText(QByteArray(Whole).replace(Last, Plain(Bad)))) << Bad;
+    EXPECT_FALSE(RollerLists::OfText(With(Bad))) << Bad;
   }
-  EXPECT_TRUE(RollerLists::OfText(QByteArray(Whole).replace(Last, Plain("|00009\r\n"))));
+  EXPECT_TRUE(RollerLists::OfText(With("|00009\r\n")));
   // 127 is the last byte that isn't wrapped.
   EXPECT_EQ(ScrambleText("\x01\x7F\x80\xFE"), QByteArray("\x81\xFF\x01\x7F"));
   EXPECT_EQ(UnscrambleText(QByteArray("\x81\xFF\x01\x7F\0", 5)), QByteArray("\x01\x7F\x80\xFE\x7F"));
