@@ -44,8 +44,8 @@ void KeepOwnerAndMode(const QString& Old, int New, mode_t Mask) {
 
 /// Whether the name is still that of the open file.
 bool Bears(const QByteArray& Name, int Handle) {
-  struct stat Named {
-  }, Held{};
+  struct stat Named {};
+  struct stat Held {};
   return stat(Name.constData(), &Named) == 0 && fstat(Handle, &Held) == 0 && Named.st_ino == Held.st_ino &&
          Named.st_dev == Held.st_dev;
 }
@@ -127,18 +127,25 @@ bool IsPrivate(const QString& Folder) {
 }
 
 FileLock::FileLock(const QString& Path) : name(QFile::encodeName(RealPath(Path) + QStringLiteral(".lock"))) {
+  // Nobody can open it for reading, and for writing only who may write the file.
+  const auto Open = [this](int Flags) {
+    return TEMP_FAILURE_RETRY(open(name.constData(), O_WRONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC | Flags, 0222));
+  };
   const QDeadlineTimer End(LongestWait);
   do {
-    // Nobody can open it for reading, and for writing only who may write the file.
-    handle = TEMP_FAILURE_RETRY(open(name.constData(), O_WRONLY | O_CREAT | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC, 0222));
-    if (handle < 0) {
-      if (errno == EISDIR && SetAside(QFile::decodeName(name), "lock")) continue;
-      return;
+    handle = Open(O_CREAT | O_EXCL);
+    if (handle >= 0) {
+      KeepOwnerAndMode(Path, handle, 0222);
+    } else {
+      if (errno != EEXIST) return;
+      handle = Open(0);
+      const bool Gone =
+          handle < 0 && (errno == ENOENT || (errno == EISDIR && SetAside(QFile::decodeName(name), "lock")));
+      if (handle < 0 && !Gone) return;
     }
-    KeepOwnerAndMode(Path, handle, 0222);
     // Who held it before has taken it away with its name.
-    if (TEMP_FAILURE_RETRY(flock(handle, LOCK_EX | LOCK_NB)) == 0 && Bears(name, handle)) return;
-    close(std::exchange(handle, -1));
+    if (handle >= 0 && TEMP_FAILURE_RETRY(flock(handle, LOCK_EX | LOCK_NB)) == 0 && Bears(name, handle)) return;
+    if (handle >= 0) close(std::exchange(handle, -1));
     QThread::usleep(TryEvery);
   } while (!End.hasExpired());
 }

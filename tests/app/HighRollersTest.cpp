@@ -43,6 +43,13 @@ TEST_F(TheProgram, ABankedTurnGoesThroughTheRealDialogs) {
     Next.Press(&GameBox::cmdNo);
     Click(Form.lblReset);
     EXPECT_EQ(Shown(), Entered);
+    {
+      const FileLock OfAnotherCopy(Run->Util.ListsPath());
+      Next.Press(&GameBox::cmdYes);
+      Next.Press(&GameBox::cmdOK);  // it couldn't be done
+      Click(Form.lblReset);
+      EXPECT_EQ(Shown(), Entered);
+    }
     Next.Press(&GameBox::cmdYes);
     QTest::keyClick(Form.lblReset, Qt::Key_Return);
     EXPECT_EQ(Run->Rollers.Lists(), RollerLists::Default()) << "the next score is tested against the default lists";

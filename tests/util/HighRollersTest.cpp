@@ -54,7 +54,7 @@ TEST(DayNumber, CountsFromItsFirstDay) { EXPECT_EQ(DayNumber(QDate(2006, 1, 1)),
 
 TEST(RollerLists, AreReadFromAWholeTextOnly) {
   const auto With = [](QByteArray Line) {
-    return RollerLists::Default().Text().replace("Georgiana\xA4\x31050\r\n", Line.replace('|', '\xA4'));
+    return RollerLists::Default().Text().replace("Georgiana\244\061050\r\n", Line.replace('|', '\xA4'));
   };
   for (const char* Bad : {"", "Tam|1\r\nTam|1\r\n", "Georgiana|10", "Bea1300\r\n", "B|ea|1300\r\n", "Bea|-130\r\n",
                           "Bea|+130\r\n", "Bea|13:0\r\n", "Bea|000130\r\n", "Bea|32768\r\n", "Bea|1050\n"}) {
