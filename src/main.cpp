@@ -6,6 +6,7 @@
 #include "app/OpenInShell.h"
 #include "app/Scale.h"
 #include "widgets/FocusRing.h"
+#include "widgets/HeldKeys.h"
 #include "widgets/X11.h"
 
 int main(int argc, char** argv) {
@@ -26,7 +27,7 @@ int main(int argc, char** argv) {
   if (PrefersX11) Kept << QStringLiteral("QT_QPA_PLATFORM");
   if (Scale != 100) Kept << QStringLiteral("QT_SCALE_FACTOR");
   const blunko::KeptVariables Shell(Kept);
-  blunko::HearKeysReleasedOnce();
+  const blunko::HeldKeys Keys(!blunko::HearKeysReleasedOnce());
   blunko::RingStandardControls();
   QApplication::setApplicationName(QStringLiteral("TollmoorBlunko"));
   QApplication::setDesktopFileName(QStringLiteral("tollmoor-blunko"));

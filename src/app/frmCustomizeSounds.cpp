@@ -9,7 +9,7 @@
 #include <QListWidget>
 #include <QStandardPaths>
 
-#include "table/KeyCodes.h"
+#include "table/KeyEvents.h"
 #include "widgets/FormBuilder.h"
 
 namespace blunko {

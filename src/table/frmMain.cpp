@@ -12,9 +12,10 @@
 
 #include "engine/ScoreDice.h"
 #include "storage/GameSettings.h"
-#include "table/KeyCodes.h"
+#include "table/KeyEvents.h"
 #include "widgets/Fonts.h"
 #include "widgets/FormBuilder.h"
+#include "widgets/HeldKeys.h"
 #include "widgets/PlacedDialog.h"
 #include "widgets/Twips.h"
 
@@ -203,25 +204,17 @@ void frmMain::changeEvent(QEvent* Event) {
     const bool Before = static_cast<QWindowStateChangeEvent*>(Event)->oldState().testFlag(Qt::WindowMinimized);
     if (Before != isMinimized()) emit minimised();
   }
-  if (Event->type() == QEvent::ActivationChange) keysDown.clear();
 }
 
 void frmMain::keyPressEvent(QKeyEvent* Event) {
-  if (!Event->isAutoRepeat()) keysDown[Event->key()] = ShiftMaskOf(*Event);
+  if (!Event->isAutoRepeat()) keysDown.insert(HeldKeys::PlaceOf(*Event));
   QWidget::keyPressEvent(Event);
 }
 
+/// A key that wasn't pressed here, but in a menu or for a button, is no command.
 void frmMain::keyReleaseEvent(QKeyEvent* Event) {
-  // A key that was pressed in a dialog, now closed, is no command here; nor is a key held down.
-  const auto Pressed = keysDown.find(Event->key());
-  if (Event->isAutoRepeat() || Pressed == keysDown.end()) {
-    QWidget::keyReleaseEvent(Event);
-    return;
-  }
-  const std::int16_t Code = KeyCodeOf(*Event);
-  const std::int16_t Shift = Pressed->second;  // also when Shift was let go first
-  keysDown.erase(Pressed);
-  Handle([=, this] { game.Form_KeyUp(Code, Shift); });
+  if (Event->isAutoRepeat() || keysDown.erase(HeldKeys::PlaceOf(*Event)) == 0) return QWidget::keyReleaseEvent(Event);
+  Handle([this, Code = KeyCodeOf(*Event), Shift = ShiftMaskOf(*Event)] { game.Form_KeyUp(Code, Shift); });
 }
 
 }  // namespace blunko

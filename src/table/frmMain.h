@@ -1,8 +1,8 @@
 #pragma once
 
 #include <array>
-#include <map>
 #include <optional>
+#include <set>
 
 #include "engine/Game.h"
 #include "table/Dress.h"
@@ -76,8 +76,7 @@ class frmMain : public TableParts {
 
   Game& game;
   TableFocus focus;
-  /// Keys pressed in this window, each with its Shift mask then: only their release is a command.
-  std::map<int, std::int16_t> keysDown;
+  std::set<quint32> keysDown;  ///< keys pressed at the table, by their places: only their release is a command
   std::optional<Dress> drawn;
   /// The dice as they were described last: faces, and what can be taken.
   std::array<std::pair<int, bool>, 12> described{};

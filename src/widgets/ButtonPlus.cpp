@@ -1,6 +1,7 @@
 #include "widgets/ButtonPlus.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
 
@@ -43,6 +44,11 @@ void ButtonPlus::setBackColor(const QColor& Colour) {
 QSize ButtonPlus::sizeHint() const {
   const QSize Text = fontMetrics().size(Qt::TextShowMnemonic, text());
   return {Text.width() + 4 * CaptionSpace, Text.height() + 16};
+}
+
+/// Enter that is held presses once.
+void ButtonPlus::keyPressEvent(QKeyEvent* Event) {
+  if (!Event->isAutoRepeat()) QPushButton::keyPressEvent(Event);
 }
 
 void ButtonPlus::paintEvent(QPaintEvent*) {

@@ -20,6 +20,7 @@ class ButtonPlus : public QPushButton {
 
  protected:
   void paintEvent(QPaintEvent* Event) override;
+  void keyPressEvent(QKeyEvent* Event) override;
 
  private:
   void DrawFace(QPainter& Painter, const QRectF& Face) const;

@@ -70,8 +70,21 @@ std::optional<QMargins> FrameToCome(QWidget& Window) {
   return {};
 }
 
-void HearKeysReleasedOnce() {
-  if (Display* const To = Server()) XkbSetDetectableAutoRepeat(To, True, nullptr);
+bool HearKeysReleasedOnce() {
+  Display* const To = Server();
+  return To != nullptr && XkbSetDetectableAutoRepeat(To, True, nullptr) == True;
+}
+
+std::optional<std::set<quint32>> KeysDown() {
+  Display* const To = Server();
+  if (To == nullptr) return {};
+  char Bits[32];
+  XQueryKeymap(To, Bits);
+  std::set<quint32> Down;
+  for (quint32 Place = 0; Place < 256; ++Place) {
+    if ((Bits[Place / 8] >> Place % 8 & 1) != 0) Down.insert(Place);
+  }
+  return Down;
 }
 
 void HoldRightEdge(QWidget& Window, const QImage& Whole) {
@@ -122,7 +135,8 @@ void AwaitSize(const QWidget& Window) {
 #else
 
 std::optional<QMargins> FrameToCome(QWidget&) { return {}; }
-void HearKeysReleasedOnce() {}
+bool HearKeysReleasedOnce() { return false; }
+std::optional<std::set<quint32>> KeysDown() { return {}; }
 void HoldRightEdge(QWidget&, const QImage&) {}
 void AwaitSize(const QWidget&) {}
 

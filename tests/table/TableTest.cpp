@@ -1,9 +1,12 @@
 #include <QAction>
 #include <QBitmap>
 #include <QMenu>
+#include <QScreen>
+#include <QWheelEvent>
 
-#include "table/KeyCodes.h"
+#include "table/KeyEvents.h"
 #include "tests/table/TableForm.h"
+#include "widgets/HeldKeys.h"
 
 namespace blunko::test {
 
@@ -52,22 +55,59 @@ TEST_F(TheTable, ClicksAndKeysReachTheGame) {
   }
 }
 
-TEST_F(TheTable, AKeyIsACommandOnceAtItsReleaseAfterAPressHere) {
-  Begin({"Ann", "Bob"});
-  PressRoll({1, 1, 5, 2, 3, 4});
-  QTest::keyRelease(&Form, Qt::Key_1);  // pressed in a dialog that has closed since
-  QTest::keyPress(&Form, Qt::Key_1);
-  QKeyEvent Repeat(QEvent::KeyRelease, Qt::Key_1, {}, "1", true);
-  QApplication::sendEvent(&Form, &Repeat);
-  EXPECT_EQ(m.TurnScore, 0);
-  for (int i = 0; i < 2; ++i) QTest::keyRelease(&Form, Qt::Key_1);
-  EXPECT_EQ(m.TurnScore, 100);
-  QTest::keyPress(&Form, Qt::Key_1);
-  QWidget Other;
-  Activate(Other);
-  Activate(Form);
-  QTest::keyRelease(&Form, Qt::Key_1);
-  EXPECT_EQ(m.TurnScore, 100) << "another window was active in between";
+TEST_F(TheTable, AKeyIsACommandOnceAtItsReleaseInTheWindowOfItsPress) {
+  // E is Esc, 1 the digit, S Shift, F F2 and R Return; T brings the table up, D a dialog and M a menu. Then what comes
+  // of it: 1 for a die taken, Q for the question, N for a new game, K for the dialog's button.
+  const std::tuple<const char*, const char*, const char*> Rows[] = {
+      {"repeats are none", "+1 +1 -1", "1"},
+      {"a release alone neither", "-1", ""},
+      {"Shift may be let go first", "+S +1 -S -1", "1"},
+      {"another window was active in between", "+1 D T +1 -1", ""},
+      {"it ended a dialog", "D +E T +E +E -E", ""},
+      {"and counts the next time", "D +E T +E -E +E -E", "Q"},
+      {"it ended a menu", "M +E +E -E +E -E", "Q"},
+      {"Shift counts at the release", "+S +F -F -S", "N"},
+      {"let go before, it doesn't", "+S +F -S -F", "Q"},
+      {"a button takes no press of before", "+R D +R -R", ""},
+      {"nor one press twice", "D +R +R -R", "K"},
+      {"but each", "+R D -R +R -R +R -R", "KK"},
+  };
+  const std::map<char, std::pair<quint32, int>> Keys{{'E', {9, Qt::Key_Escape}},
+                                                     {'1', {10, Qt::Key_1}},
+                                                     {'S', {50, Qt::Key_Shift}},
+                                                     {'F', {68, Qt::Key_F2}},
+                                                     {'R', {36, Qt::Key_Return}}};
+  const HeldKeys Held(false);
+  Screen.Answer = false;
+  for (const auto& [Rule, Strokes, Outcome] : Rows) {
+    QWidget Dialog;
+    ButtonPlus OK("OK", &Dialog);
+    QObject::connect(&OK, &QPushButton::clicked, [this] { Screen.Log.push_back("OK"); });
+    Begin({"Ann", "Bob"});
+    PressRoll({1, 1, 5, 2, 3, 4});
+    TakeLog(), m.FormMessage.clear();
+    bool Shift = false;
+    QWidget* Active = &Form;
+    for (const QString& Stroke : QString(Strokes).split(' ')) {
+      const char What = Stroke.front().toLatin1();
+      if (What == 'M') QTest::mouseClick(Form.lblMnuGame, Qt::LeftButton);
+      if (What == 'T' || What == 'D') Activate(*(Active = What == 'T' ? &Form : &Dialog));
+      if (Stroke.size() == 1) continue;
+      const auto& [Place, Key] = Keys.at(Stroke.back().toLatin1());
+      if (Key == Qt::Key_Shift) Shift = What == '+';
+      QKeyEvent Event(What == '+' ? QEvent::KeyPress : QEvent::KeyRelease,
+                      Shift && Key == Qt::Key_1 ? Qt::Key_Exclam : Key, Shift ? Qt::ShiftModifier : Qt::NoModifier,
+                      Place, 0, 0);
+      QApplication::sendEvent(Active->windowHandle(), &Event);
+    }
+    Dialog.hide();
+    Activate(Form);
+    std::string Came = m.TurnScore == 100 ? "1" : "";
+    for (const std::string& Line : TakeLog()) {
+      Came += Line == Question ? "Q" : Line == "new game" ? "N" : Line == "OK" ? "K" : "";
+    }
+    EXPECT_EQ(Came, Outcome) << Rule;
+  }
 }
 
 TEST_F(TheTable, MenusAndButtonsCallTheProgram) {
@@ -141,6 +181,35 @@ TEST(KeyCodes, CountByThePlaceOnlyWhereThePlacesAreKnown) {
     const QKeyEvent Event(QEvent::KeyRelease, Key, NumPad ? Qt::KeypadModifier : Qt::NoModifier, ScanCode, 0, 0);
     EXPECT_EQ(KeyCodeOf(Event, Platform), Code) << Platform << ' ' << Key;
   }
+}
+
+TEST_F(TheTable, LostDiceArePaleAndSamplesAreNot) {
+  Begin({"Ann", "Bob"});
+  PressRoll({1, 2, 3, 4, 6, 6});
+  const QImage Found = Box(0)->grab().toImage();
+  t.Busted = true;
+  for (const bool Sample : {false, true}) {
+    Form.Wears.Covered = Sample;
+    Form.ShowControls();
+    EXPECT_EQ(Box(0)->grab().toImage() == Found, Sample);
+  }
+}
+
+TEST_F(TheTable, AllOfItIsReachedOnALowScreen) {
+  const QRect Screen = Form.screen()->availableGeometry();
+  Form.setFixedSize(Form.width(), Screen.height() + 100);
+  Form.cmdExit->move(0, Form.height() - 80);
+  const auto Turn = [this](int Wheel) {
+    QWheelEvent Event({}, {}, {}, {0, Wheel}, {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&Form, &Event);
+    return Form.frameGeometry();
+  };
+  EXPECT_EQ(Turn(-9000).bottom(), Screen.bottom());
+  EXPECT_EQ(Turn(9000).top(), Screen.top());
+  EXPECT_EQ(Turn(-60).top(), Screen.top() - 30);
+  Form.cmdHighRollers->setFocus();
+  QTest::keyClick(Form.cmdHighRollers, Qt::Key_Tab);
+  EXPECT_EQ(Form.cmdExit->mapToGlobal(Form.cmdExit->rect().bottomLeft()).y() + 12, Screen.bottom());
 }
 
 TEST_F(TheTable, NoTextIsCut) {

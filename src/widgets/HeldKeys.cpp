@@ -1,0 +1,60 @@
+#include "widgets/HeldKeys.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QWindow>
+
+#include <utility>
+
+#include "widgets/X11.h"
+
+namespace blunko {
+
+HeldKeys::HeldKeys(bool RepeatsAreMarked) : marked(RepeatsAreMarked) {
+  qGuiApp->installEventFilter(this);
+  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this] { BecomeStale(); });
+  connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState State) {
+    // What another program has seen pressed is no command here.
+    if (State == Qt::ApplicationActive) stale.merge(KeysDown().value_or(std::set<quint32>()));
+  });
+}
+
+quint32 HeldKeys::PlaceOf(const QKeyEvent& Key) {
+  constexpr quint32 ByItsName = 1U << 31;
+  return Key.nativeScanCode() != 0 ? Key.nativeScanCode() : ByItsName | static_cast<quint32>(Key.key());
+}
+
+void HeldKeys::BecomeStale() {
+  stale.merge(pressed);
+  pressed.clear();
+  // A key that was let go between two windows was let go unseen.
+  if (const auto Down = KeysDown()) std::erase_if(stale, [&](quint32 Key) { return !Down->contains(Key); });
+}
+
+bool HeldKeys::eventFilter(QObject* Receiver, QEvent* Event) {
+  const bool IsOffer = Event->type() == QEvent::ShortcutOverride, IsRelease = Event->type() == QEvent::KeyRelease;
+  if (!Receiver->isWindowType() || (!IsOffer && !IsRelease && Event->type() != QEvent::KeyPress)) return false;
+  auto& Key = static_cast<QKeyEvent&>(*Event);
+  const quint32 Place = PlaceOf(Key);
+  if (IsRelease) {
+    if (Key.isAutoRepeat()) return !pressed.contains(Place);
+    stale.erase(Place);
+    return pressed.erase(Place) == 0;
+  }
+  if (marked && !Key.isAutoRepeat()) stale.erase(Place), pressed.erase(Place);
+  if (stale.contains(Place) || (Key.isAutoRepeat() && !pressed.contains(Place))) {
+    Key.accept();  // nor is it a shortcut
+    return true;
+  }
+  const bool IsNew = pressed.insert(Place).second;
+  if (IsOffer) {
+    offered = IsNew ? std::optional(Key.timestamp()) : std::nullopt;
+    return false;
+  }
+  if (IsNew || std::exchange(offered, {}) == Key.timestamp() || Key.isAutoRepeat()) return false;
+  QKeyEvent Repeat(QEvent::KeyPress, Key.key(), Key.modifiers(), Key.nativeScanCode(), Key.nativeVirtualKey(),
+                   Key.nativeModifiers(), Key.text(), true, static_cast<ushort>(Key.count()));
+  return QCoreApplication::sendEvent(Receiver, &Repeat);
+}
+
+}  // namespace blunko
