@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
+#include <QSessionManager>
 #include <QTime>
 
 #include <algorithm>
@@ -106,7 +107,12 @@ void Application::LoadForm() {
   CentreOnScreen(*Form);
   Rollers.LoadHighRollers();
 
-  const auto On = [this](auto Signal, auto Run) { QObject::connect(Form.get(), Signal, Form.get(), Run); };
+  // The end of the session can be stopped only when it is asked for; later the program is told to end.
+  qApp->installEventFilter(this);
+  connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& Session) {
+    if (Session.allowsInteraction()) Table.MayEnd() ? Session.release() : Session.cancel();
+  });
+  const auto On = [this](auto Signal, auto Run) { connect(Form.get(), Signal, this, Run); };
   On(&frmMain::firstShown, [this] { Form_Activate(); });
   On(&frmMain::minimised, [this] { Form_Resize(); });
   On(&frmMain::scorePadAsked, [this] {
@@ -119,12 +125,18 @@ void Application::LoadForm() {
   Screen.ShowOn(*Form);
 }
 
+bool Application::eventFilter(QObject*, QEvent* Event) {
+  if (Event->type() != QEvent::Quit || !Event->spontaneous()) return false;
+  Table.End();
+  return true;
+}
+
 /// The table has come up: a newcomer is greeted.
 void Application::Form_Activate() {
   if (!Settings.ShowWelcome || !State.FirstActivate) return;
   State.FirstActivate = false;
   frmWelcome Welcome(InfoFile, Screen, Form.get());
-  QObject::connect(&Welcome, &frmWelcome::helpAsked, &Welcome, [this](const QString& Topic) { ShowHelpTopic(Topic); });
+  connect(&Welcome, &frmWelcome::helpAsked, &Welcome, [this](const QString& Topic) { ShowHelpTopic(Topic); });
   Welcome.exec();
 }
 
@@ -160,7 +172,7 @@ OptionsPanel& Application::Options() {
       Pictures.prepend(Own);
     }
     options = new OptionsPanel(*Form, Table, Settings, Pictures);
-    QObject::connect(options, &OptionsPanel::customizeSoundsAsked, options, [this] { CustomizeSounds(); });
+    connect(options, &OptionsPanel::customizeSoundsAsked, options, [this] { CustomizeSounds(); });
   }
   return *options;
 }

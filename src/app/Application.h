@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QObject>
+
 #include <memory>
 
 #include "app/HelpWindow.h"
@@ -24,7 +26,7 @@ class Announcer;
 
 /// The program: owns the objects of a run, puts its start-up questions, shows the table, and answers what the rules ask
 /// of the dialogs.
-class Application : public Program, private HighRollersScreen {
+class Application : public QObject, public Program, private HighRollersScreen {
  public:
   /// `Numbers` replaces the dice and `Where` the folders, for tests.
   explicit Application(const Folders& Where, std::unique_ptr<NumberSource> Numbers = std::make_unique<FairDice>())
@@ -69,6 +71,8 @@ class Application : public Program, private HighRollersScreen {
   TbkUtil Util;
   HighRollers Rollers;
   std::unique_ptr<frmMain> Form;
+
+  bool eventFilter(QObject* Receiver, QEvent* Event) override;
 
  private:
   void LoadForm();

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "engine/Game.h"
 #include "engine/KeyCodes.h"
 
@@ -32,16 +34,16 @@ void Game::PersonPasses() {
 }
 
 void Game::ARCmdNewGame_Click() {
-  if (!t.CanPress(t.ARCmdNewGame)) return;
   Command([this] {
-    desktop.PumpEvents();
+    if (!t.CanPress(t.ARCmdNewGame)) return;
+    HoldCommands();
     program.ShowNewGame();
   });
 }
 
 void Game::PersonBeginsGame(bool AtOnce) {
-  if (OptionsAreOpen()) return;  // the menus are out of reach
   Command([=, this] {
+    if (OptionsAreOpen()) return;  // the menus are out of reach
     if (AtOnce) m.FormMessage = "RestartGame";
     mnuNewGame_Click();
   });
@@ -89,17 +91,31 @@ void Game::Form_KeyUp(std::int16_t KeyCode, std::int16_t Shift) {
   }
 }
 
+void Game::CarryOutHeld() {
+  while (TakesCommands() && !held.empty()) {
+    const auto Next = std::move(held.front());
+    held.pop_front();
+    Next();
+  }
+}
+
 bool Game::MayQuitGame() {
   desktop.Beep();
   return desktop.AskYesNo("Are you sure you want to quit the current game?", "Quit?");
 }
 
 bool Game::Form_Unload() {
-  if (m.Quitting) return true;
-  if (m.CurrentPlayer != Absent && !MayQuitGame()) return false;
-  m.Quitting = true;
-  program.ExitProgram();
-  return true;
+  if (MayEnd()) End();
+  return m.Quitting;
+}
+
+bool Game::MayEnd() {
+  const GateHeld Asking(gate, Gate::Closed);
+  return m.Quitting || m.CurrentPlayer == Absent || MayQuitGame();
+}
+
+void Game::End() {
+  if (!std::exchange(m.Quitting, true)) program.ExitProgram();
 }
 
 }  // namespace blunko

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -69,6 +71,10 @@ class Game {
   /// The program ends, unless the person, asked while a game runs, wants to play on. False: play goes on.
   bool Form_Unload();
   bool MayQuitGame();
+  /// Whether the person, asked while a game runs, lets the program end; at the end of a session, say.
+  bool MayEnd();
+  /// The program ends, without a question.
+  void End();
 
   // Commands of a person. These look first whether the table takes them at the moment.
   void PersonClicksDie(std::int16_t Index, std::int16_t Button);
@@ -85,18 +91,23 @@ class Game {
 
   /// Whether a person's commands are carried out at the moment. Those that come while a handler sleeps, or while one of
   /// its boxes or dialogs is open, come to nothing.
-  bool TakesCommands() const { return gate != Gate::Closed && !m.Quitting; }
+  bool TakesCommands() const { return (gate == Gate::Open || gate == Gate::Ajar) && !m.Quitting; }
   /// Carries out a person's command if the table takes it. Until it is done no other is taken, unless it lets them in.
   template <typename Action>
   void Command(Action Run) {
+    if (gate == Gate::Holding) return held.push_back([=, this] { Command(Run); });
     if (!TakesCommands()) return;
-    const GateHeld AtWork(gate, Gate::Closed);
-    Run();
+    {
+      const GateHeld AtWork(gate, Gate::Closed);
+      Run();
+    }
+    CarryOutHeld();
   }
   /// Lets events into a handler, and with them every command but those that touch the dice. Afterwards the game may
   /// have been given up, or the program may be quitting.
   void PumpEvents() {
     const GateHeld LettingIn(gate, Gate::Ajar);
+    CarryOutHeld();
     desktop.PumpEvents();
   }
   /// The same, but sleeps until there is an event.
@@ -119,6 +130,13 @@ class Game {
   NumberSource& numbers;
 
  private:
+  /// Lets events into a handler in the middle of a change: the commands among them come when the table takes them
+  /// again.
+  void HoldCommands() {
+    const GateHeld Holding(gate, Gate::Holding);
+    desktop.PumpEvents();
+  }
+  void CarryOutHeld();
   std::int32_t RandomNumber(std::uint8_t Bound);
   void RollDice(std::uint8_t NumDiceUp);
   void Bubble(std::int16_t SortHowMany);
@@ -146,6 +164,7 @@ class Game {
   HighRollersCheck noLists;
   HighRollersCheck* rollers = &noLists;
   Gate gate = Gate::Open;
+  std::deque<std::function<void()>> held;  ///< commands that wait
 };
 
 }  // namespace blunko

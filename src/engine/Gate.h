@@ -6,9 +6,10 @@ namespace blunko {
 
 /// How far the commands of a person get, whichever way they come: by mouse, key, menu or a screen reader.
 enum class Gate {
-  Open,    ///< no handler is at work: every command
-  Ajar,    ///< a handler lets events in: every command but those that touch the dice
-  Closed,  ///< a handler sleeps, or waits for a box or a dialog: none
+  Open,     ///< no handler is at work: every command
+  Ajar,     ///< a handler lets events in: every command but those that touch the dice
+  Holding,  ///< a handler lets events in: the same commands, but only when it is through
+  Closed,   ///< a handler sleeps, or waits for a box or a dialog: none
 };
 
 /// Holds the gate in a position for as long as it lives.

@@ -49,13 +49,14 @@ void Game::FreshGame(const GameSetup& Setup) {
   m.ScorePadShown = true;
   program.Announce(GameEvent::Turn);
   m.TurnOver = true;  // ends the loop of a computer turn of the game before
-  desktop.PumpEvents();
+  HoldCommands();
   program.FocusTable();
   if (IsComputerTurn()) computers->RunComputerTurn();
+  CarryOutHeld();
 }
 
 void Game::mnuNewGame_Click() {
-  desktop.PumpEvents();
+  HoldCommands();
   if (m.CurrentPlayer != Absent) {
     if (m.FormMessage == "RestartGame") {
       desktop.Beep();

@@ -98,6 +98,15 @@ TEST_F(Playing, EveryWayOutInsideEveryOtherLeavesTheTableOrEndsTheProgram) {
   }
 }
 
+TEST_F(Playing, ToldToDieByTheSystemTheProgramEndsWithoutAQuestion) {
+  Start();
+  Begin(2, false);
+  QEvent Quit(QEvent::Quit);
+  QSpontaneKeyEvent::setSpontaneous(&Quit);
+  qApp->notify(qApp, &Quit);
+  ExpectTable(false);
+}
+
 TEST_F(Playing, EveryFaceOfTumblingDiceIsPaintedAtOnce) {
   struct : QObject {
     std::vector<int> Faces{0};  ///< from the empty place on
@@ -119,7 +128,7 @@ TEST_F(Playing, EveryFaceOfTumblingDiceIsPaintedAtOnce) {
 }
 
 TEST_F(Playing, TheTableIsAsKeptInEveryState) {
-  Start("ShowWelcomeMessage=0\nDieColor=101\n");
+  Start("ShowWelcomeMessage=0\nDieColor=124\n");
   frmMain& Form = *Run->Form;
   ExpectAsKept(Form, "-start");
   Run->Screen.SetMousePointer(MousePointer::Hourglass);
