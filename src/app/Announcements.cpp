@@ -69,8 +69,8 @@ std::string ScorersInWords(const Module1& m) {
   const auto Has = [&m](const Word& Code) {
     return std::find(m.DieScoreCode.begin(), m.DieScoreCode.end(), Code) != m.DieScoreCode.end();
   };
-  if (Has("y")) return "a straight scores";
-  if (Has("z")) return "three pairs score";
+  if (Has(Straight)) return "a straight scores";
+  if (Has(ThreePairs)) return "three pairs score";
   return Text(Joined(Groups), DiceInGroups == 1 ? " scores" : " score");
 }
 

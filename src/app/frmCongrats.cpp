@@ -24,7 +24,7 @@ const QColor PlateColour(0, 0, 128);
 
 frmCongrats::frmCongrats(const QString& Winner, std::string& FormMessage, Desktop& Screen, const GameOptions& Settings,
                          frmMain& Main)
-    : PlacedDialog(&Main), winner(Winner), message(FormMessage), desktop(Screen), settings(Settings), main(Main) {
+    : PlacedDialog(&Main), winner(Winner), message(FormMessage), desktop(Screen), settings(Settings), table(Main) {
   setObjectName("frmCongrats");
   setWindowTitle("Congratulations " + winner + " !!!");
   SetColours(*this, {{QPalette::Window, FormBlue}});
@@ -71,7 +71,7 @@ void frmCongrats::Leave(const char* Word) {
   accept();
 }
 
-void frmCongrats::Place() { PlaceFrame(*this, TableCorner(main)); }
+void frmCongrats::Place() { PlaceFrame(*this, TableCorner(table)); }
 
 void frmCongrats::showEvent(QShowEvent* Event) {
   PlacedDialog::showEvent(Event);

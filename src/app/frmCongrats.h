@@ -44,7 +44,7 @@ class frmCongrats : public PlacedDialog {
   std::string& message;
   Desktop& desktop;
   const GameOptions& settings;
-  frmMain& main;
+  frmMain& table;
   bool engraving = false;
   bool left = false;  ///< for another window, since the engraving
 };

@@ -22,10 +22,10 @@ const QColor Navy(0, 0, 128);
 }  // namespace
 
 frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Main)
-    : PlacedDialog(Main), rollers(Lists), desktop(Screen), frmMain(Main) {
+    : PlacedDialog(Main), rollers(Lists), desktop(Screen), table(Main) {
   setObjectName("frmHighRollers");
   setWindowTitle("Tollmoor Blunko - High Rollers");
-  setWindowIcon(frmMain->windowIcon());
+  setWindowIcon(table->windowIcon());
   SetColours(*this, {{QPalette::Window, FormBlue}, {QPalette::WindowText, Qt::yellow}, {QPalette::Link, Qt::yellow}});
   Image1 = Make<SvgBox>(this, "Image1", ":/art/rollers_top.svg");
   Image2 = Make<SvgBox>(this, "Image2", ":/art/rollers_bottom.svg");
@@ -81,7 +81,7 @@ QPlainTextEdit* frmHighRollers::MakeList(const QString& Name, const QString& Des
   return Made;
 }
 
-void frmHighRollers::Place() { PlaceFrame(*this, frmMain->pos()); }
+void frmHighRollers::Place() { PlaceFrame(*this, table->pos()); }
 
 void frmHighRollers::ShowHighRollerLists() {
   rollers.LoadHighRollers();

@@ -44,7 +44,7 @@ class frmHighRollers : public PlacedDialog {
 
   HighRollers& rollers;
   Desktop& desktop;
-  QWidget* frmMain;
+  QWidget* table;
 };
 
 }  // namespace blunko

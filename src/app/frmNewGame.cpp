@@ -47,7 +47,7 @@ QGroupBox* MakeChoice(QWidget* Form, const QString& Caption, std::array<QRadioBu
 }  // namespace
 
 frmNewGame::frmNewGame(Desktop& Screen, const IniInfo& Info, const GameSettings& Options, QWidget* Main)
-    : PlacedDialog(Main), desktop(Screen), info(Info), settings(Options), frmMain(Main) {
+    : PlacedDialog(Main), desktop(Screen), info(Info), settings(Options), table(Main) {
   setObjectName("frmNewGame");
   setWindowTitle(" Start New Game - Tollmoor Blunko");
   setFont(FontOf(Typeface::Verdana, 8.25));
@@ -179,7 +179,7 @@ void frmNewGame::Form_Activate() {
   cmdPlay->setFocus();
 }
 
-void frmNewGame::Place() { PlaceFrame(*this, frmMain->pos() + QPoint(Pixels(OffsetLeft), Pixels(OffsetTop))); }
+void frmNewGame::Place() { PlaceFrame(*this, table->pos() + QPoint(Pixels(OffsetLeft), Pixels(OffsetTop))); }
 
 void frmNewGame::optNumPlayers_Click(int Index) {
   const GameSetup Layout = SetupForPlayers(Index + 1);

@@ -63,7 +63,7 @@ class frmNewGame : public PlacedDialog {
   Desktop& desktop;
   const IniInfo& info;
   const GameSettings& settings;
-  QWidget* frmMain;
+  QWidget* table;
   bool loaded = false;
   std::optional<GameSetup> lastGame;  ///< what "Same Game" plays again
 };

@@ -14,8 +14,6 @@ constexpr TableStyle FearlessStyle{3, {0, 400, 450, 500, 1100, 1500}};
 /// From this turn score on a seat with nothing banked takes all it can. It doesn't follow the break-in score.
 constexpr int BreakInHunger = 500;
 
-constexpr Word ThreeTwos = "b";
-
 bool IsCombination(const Word& Code) { return Code.front() >= 'a'; }
 
 }  // namespace
@@ -79,7 +77,7 @@ void ComputerPlayers::TakeDice(int TakeAllBelow) {
   if (m.NumDiceUp < TakeAllBelow) return TakeAll(false);
   if (!PumpAndGoOn()) return;
   if (Combination) return TakeAll(true);
-  for (const Word& Code : {Word("1"), Word("5"), ThreeTwos}) {
+  for (const Word& Code : {Single1, Single5, ThreeTwos}) {
     if (!PumpAndGoOn() || TakeFirst(Code)) return;
   }
 

@@ -9,11 +9,6 @@ namespace blunko {
 
 namespace {
 
-constexpr Word Single1 = "1";
-constexpr Word Single5 = "5";
-constexpr Word Straight = "y";
-constexpr Word ThreePairs = "z";
-
 /// Points of the letters "a" to "z".
 constexpr std::array<int, 26> LetterPoints{
     1000, 200,  300,  400,  500,  600,   // three of a kind

@@ -53,9 +53,9 @@ void Game::TakeClickedDice(int Index) {
     TakeDie(i);
     if (!(Computer && Settings.ComputerSpeed >= SpeedRidiculous)) desktop.Sleep(PauseAfterDieOfGroup);
   };
-  if (Code == "1" || Code == "5") {
+  if (Code == Single1 || Code == Single5) {
     TakeDie(Index);
-  } else if (Code == "y" || Code == "z") {  // all six, in ascending order of face
+  } else if (Code == Straight || Code == ThreePairs) {  // all six, in ascending order of face
     for (int Face = 1; Face <= 6; ++Face) {
       for (int i = 0; i < Dice; ++i) {
         if (m.DieFace[i] == Face) TakeFromGroup(i);

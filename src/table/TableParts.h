@@ -21,35 +21,16 @@ class TableParts : public QWidget {
  public:
   QWidget* picGameTray;
   StretchedPicture* Image1;
-  DiceTray* picTray1;
-  DiceTray* picTray2;
+  DiceTray *picTray1, *picTray2;
   DiceTray* picSampleDice;           ///< covers the lower tray while the options panel is open
   std::array<DieBox*, 12> Picture1;  ///< 0 to 5 the table, 6 to 11 the tray slots
   std::array<QWidget*, 6> picMarker;
   QWidget* pctDivider;
-  ButtonPlus* ARCmdNewGame;
-  ButtonPlus* cmdRoll;
-  ButtonPlus* cmdPassDice;
-  FitLabel* lblStatus;
-  FitLabel* lblLastRoll;
-  FitLabel* Label1;
-  FitLabel* lblPlayer;
-  FitLabel* lblTurnScoreLabel;
-  FitLabel* lblTurnScore;
-  ButtonPlus* cmdOptions;
-  ButtonPlus* cmdHighRollers;
-  ButtonPlus* cmdExit;
-  WordButton* lblMnuGame;
-  WordButton* lblMnuHelp;
-  QMenu* mnuGame;
-  QMenu* mnuHelpMe;
-  // What the menus offer.
-  QAction* mnuNewGame;
-  QAction* mnuOptions;
-  QAction* mnuExit;
-  QAction* mnuHowToPlay;
-  QAction* mnuGoHelp;
-  QAction* mnuAbout;
+  ButtonPlus *ARCmdNewGame, *cmdRoll, *cmdPassDice, *cmdOptions, *cmdHighRollers, *cmdExit;
+  FitLabel *lblStatus, *lblLastRoll, *Label1, *lblPlayer, *lblTurnScoreLabel, *lblTurnScore;
+  WordButton *lblMnuGame, *lblMnuHelp;
+  QMenu *mnuGame, *mnuHelpMe;
+  QAction *mnuNewGame, *mnuOptions, *mnuExit, *mnuHowToPlay, *mnuGoHelp, *mnuAbout;
 
   /// The bitmaps by number, shared by everything on the table.
   Bitmaps Pictures;
