@@ -61,22 +61,14 @@ TEST(RollerLists, AreReadFromAWholeTextOnly) {
     EXPECT_FALSE(RollerLists::OfText(With(Bad))) << Bad;
   }
   EXPECT_TRUE(RollerLists::OfText(With("|00009\r\n")));
-  // 127 is the last byte that isn't wrapped.
   EXPECT_EQ(ScrambleText("\x01\x7F\x80\xFE"), QByteArray("\x81\xFF\x01\x7F"));
   EXPECT_EQ(UnscrambleText(QByteArray("\x81\xFF\x01\x7F\0", 5)), QByteArray("\x01\x7F\x80\xFE\x7F"));
 }
 
 TEST_F(HighRollersTest, AskAndInsert) {
   const QString Today = DayNumber(QDate::currentDate()), Yesterday = DayNumber(QDate::currentDate().addDays(-1));
-  const struct {
-    WhichList List;
-    const char* Name;
-    std::int16_t Score;
-    QString QuietDay;
-    const char *Typed, *Word, *Asked;
-    std::size_t Place;
-    const char* Held;
-  } Rows[] = {
+  using Row = std::tuple<WhichList, const char*, int, QString, const char*, const char*, const char*, int, const char*>;
+  const Row Rows[] = {
       {Turns, "Ann", 1050, "", "", "Yes", "", 9, "Vivianne"},  // equal to the last
       {Turns, "Ann", 1500, "", "", "Yes", " Ann¤2¤turn lists", 1, "Ann"},
       {Turns, "Ann", 1500, "", "", "Close", " Ann¤2¤turn", 1, "Ann"},
@@ -87,19 +79,18 @@ TEST_F(HighRollersTest, AskAndInsert) {
       {Turns, "player 3", 1420, Today, "", "Yes", "", 2, "player 3"},
       {Turns, "Player", 1600, "", "a¤b\nÿ€c", "No", " ask:Player abyc¤1¤turn", 0, "abyc"},
   };
-  for (const auto& Row : Rows) {
-    SCOPED_TRACE(&Row - Rows);
+  for (const auto& [List, Name, Score, QuietDay, Typed, Word, Asked, Place, Held] : Rows) {
+    SCOPED_TRACE(Asked);
     QFile::remove(place.Path(ListsName));
     Copy At(place);
-    At.Info.WriteInfoValue(NoQuestionKey, Row.QuietDay);
-    At.Typed = QString::fromUtf8(Row.Typed);
-    At.Word = Row.Word;
+    At.Info.WriteInfoValue(NoQuestionKey, QuietDay);
+    At.Typed = QString::fromUtf8(Typed);
+    At.Word = Word;
     At.m.Quitting = At.Word == "Closed";
     At.Meanwhile = [this] { EXPECT_EQ(Text(), RollerLists::Default().Text()) << "saved after the answer"; };
-    Row.List == Whoops ? At.Rollers.CheckWhoopin(Row.Name, Row.Score) : At.Rollers.CheckHighTurn(Row.Name, Row.Score);
-    EXPECT_EQ(At.Asked, Row.Asked);
-    EXPECT_EQ(At.m.FormMessage, "");
-    EXPECT_EQ((RollerLists::OfText(Text()).value().*Row.List)[Row.Place].Name, QString::fromUtf8(Row.Held));
+    List == Whoops ? At.Rollers.CheckWhoopin(Name, short(Score)) : At.Turn(Name, short(Score));
+    EXPECT_EQ(At.Asked + At.m.FormMessage, Asked);
+    EXPECT_EQ((RollerLists::OfText(Text()).value().*List)[size_t(Place)].Name, QString::fromUtf8(Held));
   }
 }
 
