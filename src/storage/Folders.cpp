@@ -58,7 +58,7 @@ Folders Folders::Of(const QString& Path) {
   if (!Installed && CanWriteIn(Found.State)) return Found;
 
   const auto Own = [](QStandardPaths::StandardLocation Kind) {
-    const QString Folder = QStandardPaths::writableLocation(Kind) + QStringLiteral("/TollmoorBlunko");
+    QString Folder = QStandardPaths::writableLocation(Kind) + QStringLiteral("/TollmoorBlunko");
     MakePrivate(Folder);
     return Folder;
   };

@@ -198,7 +198,7 @@ void IniInfo::File::Save() {
 /// file is moved away, under the lock.
 std::optional<QByteArray> IniInfo::File::Load(bool Locked) {
   FileState State = FileState::Whole;
-  const auto Bytes = ReadWholeFile(path, LargestFile, &State);
+  auto Bytes = ReadWholeFile(path, LargestFile, &State);
   if (Bytes && !Bytes->contains('\0')) return Bytes;
   if (State == FileState::Unreadable) return std::nullopt;
   if (State == FileState::Missing) return QByteArray("");
