@@ -1,9 +1,16 @@
 #include "app/Accessibility.h"
 
 #include <QAccessibleWidget>
+#include <QPlainTextEdit>
+#include <QRegularExpression>
+
+#include <utility>
 
 #include "app/Announcer.h"
+#include "app/frmCredits.h"
 #include "table/DieBox.h"
+#include "table/Swatch.h"
+#include "table/frmMain.h"
 #include "table/frmScorePad.h"
 #include "widgets/FitLabel.h"
 #include "widgets/WordButton.h"
@@ -20,6 +27,13 @@ class AccessibleButton : public QAccessibleWidget {
   QString text(QAccessible::Text Kind) const override {
     const QString Name = QAccessibleWidget::text(Kind);
     return Kind == QAccessible::Name && Name.isEmpty() ? static_cast<QAbstractButton*>(object())->text() : Name;
+  }
+  QAccessible::State state() const override {
+    QAccessible::State State = QAccessibleWidget::state();
+    const auto* Button = static_cast<QAbstractButton*>(object());
+    State.checkable = Button->isCheckable();
+    State.checked = Button->isChecked();
+    return State;
   }
   QStringList actionNames() const override { return QAccessibleWidget::actionNames() << pressAction(); }
   void doAction(const QString& Name) override {
@@ -93,6 +107,20 @@ class AccessiblePad : public QAccessibleWidget {
   QList<QWidget*> Rows() const { return static_cast<frmScorePad*>(object())->Rows(); }
 };
 
+/// A list of high rollers, without the dots between name and score.
+class AccessibleRollers : public QAccessibleWidget {
+ public:
+  explicit AccessibleRollers(QPlainTextEdit* Rows) : QAccessibleWidget(Rows, QAccessible::StaticText) {}
+
+  QString text(QAccessible::Text Kind) const override {
+    const QString Name = QAccessibleWidget::text(Kind);
+    if (Kind != QAccessible::Name) return Name;
+    QString Rows = static_cast<QPlainTextEdit*>(object())->toPlainText();
+    static const QRegularExpression Dots(QStringLiteral("\\.+(?=\\d+$)"), QRegularExpression::MultilineOption);
+    return Name + ":\n" + Rows.replace(Dots, " ");
+  }
+};
+
 /// Named widgets of no special kind are groups, those without a name only look nice.
 class AccessibleGroup : public QAccessibleWidget {
  public:
@@ -112,6 +140,9 @@ QAccessibleInterface* InterfaceOf(const QString& Class, QObject* Object) {
   if (auto* Word = qobject_cast<WordButton*>(Object)) return new AccessibleWord(Word);
   if (auto* Label = qobject_cast<FitLabel*>(Object)) return new AccessibleText(Label);
   if (auto* Pad = qobject_cast<frmScorePad*>(Object)) return new AccessiblePad(Pad);
+  if (auto* Colour = qobject_cast<Swatch*>(Object)) return new AccessibleButton(Colour, QAccessible::RadioButton);
+  if (auto* Rows = qobject_cast<QPlainTextEdit*>(Object)) return new AccessibleRollers(Rows);
+  if (qobject_cast<ScrollBox*>(Object) != nullptr) return new QAccessibleWidget(Widget, QAccessible::StaticText);
   if (qobject_cast<Announcer*>(Widget->parentWidget()) != nullptr) {
     return new QAccessibleWidget(Widget, QAccessible::Notification);
   }
@@ -120,8 +151,60 @@ QAccessibleInterface* InterfaceOf(const QString& Class, QObject* Object) {
   return new AccessibleGroup(Widget);
 }
 
+/// Whether it stands on the table, or on the pad.
+bool IsOfTable(const QWidget* Widget) {
+  if (qobject_cast<frmScorePad*>(Widget->window()) != nullptr) return !Widget->isWindow();
+  const auto* Form = qobject_cast<frmMain*>(Widget->window());
+  return Form != nullptr && Form->picGameTray->isAncestorOf(Widget);
+}
+
+void PassOnWhatCounts(QAccessibleEvent* Event);
+
+void PassOn(QAccessibleEvent& Event) {
+  QAccessible::installUpdateHandler(nullptr);
+  QAccessible::updateAccessibility(&Event);
+  QAccessible::installUpdateHandler(&PassOnWhatCounts);
+}
+
+/// Of an announcement it is told only that it is there, of the table only where the focus is: TableNews tells the rest.
+void PassOnWhatCounts(QAccessibleEvent* Event) {
+  const auto* Widget = qobject_cast<QWidget*>(Event->object());
+  const bool Announces = Widget != nullptr && qobject_cast<Announcer*>(Widget->parentWidget()) != nullptr;
+  if (Announces && Event->type() != QAccessible::ObjectShow) return;
+  if (Widget != nullptr && Event->type() != QAccessible::Focus && IsOfTable(Widget)) return;
+  PassOn(*Event);
+}
+
 }  // namespace
 
-void InstallAccessibility() { QAccessible::installFactory(&InterfaceOf); }
+void InstallAccessibility() {
+  QAccessible::installFactory(&InterfaceOf);
+  QAccessible::installUpdateHandler(&PassOnWhatCounts);
+}
+
+/// What isn't there is told when it is back.
+void TableNews::Tell(const frmMain& Form) {
+  for (QWidget* Widget : Form.findChildren<QWidget*>()) {
+    if (!IsOfTable(Widget)) continue;
+    const QAccessibleInterface& Now = *QAccessible::queryAccessibleInterface(Widget);
+    const QAccessible::State State = Now.state();
+    const bool There = !State.invisible, Disabled = State.disabled;
+    Part& Old = told.try_emplace(Widget, Part{There, Disabled, {}}).first->second;
+    if (std::exchange(Old.There, There) != There) {
+      QAccessibleEvent Event(Widget, There ? QAccessible::ObjectShow : QAccessible::ObjectHide);
+      PassOn(Event);
+    }
+    if (There && std::exchange(Old.Name, Now.text(QAccessible::Name)) != Now.text(QAccessible::Name)) {
+      QAccessibleEvent Event(Widget, QAccessible::NameChanged);
+      PassOn(Event);
+    }
+    if (There && std::exchange(Old.Disabled, Disabled) != Disabled) {
+      QAccessible::State Changed;
+      Changed.disabled = true;
+      QAccessibleStateChangeEvent Event(Widget, Changed);
+      PassOn(Event);
+    }
+  }
+}
 
 }  // namespace blunko

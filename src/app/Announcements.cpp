@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 #include <vector>
 
 #include "engine/ScoreDice.h"
@@ -10,6 +11,7 @@ namespace blunko {
 
 namespace {
 
+constexpr AnnouncementQueue::Time PerLetter{40};
 constexpr std::array<const char*, 7> Numbers{"no", "one", "two", "three", "four", "five", "six"};
 constexpr std::array<const char*, 7> Plurals{"", "ones", "twos", "threes", "fours", "fives", "sixes"};
 
@@ -54,6 +56,17 @@ std::string LastRoll(const TableControls& t) {
   return t.lblLastRoll.Visible && Caption.size() > 2 ? Text(" ", Caption.substr(1, Caption.size() - 2), ".") : "";
 }
 
+/// Everybody's points, and who is on turn.
+std::string ScoresInWords(const Module1& m, const TableControls& t) {
+  std::vector<std::string> Seats;
+  for (int i = 0; i < m.NumPlayers && m.GameNumber > 0; ++i) {
+    Seats.push_back(Text(m.PlayerName[i], " ", std::to_string(m.PlayerScore[i])));
+  }
+  const std::string All = Seats.empty() ? "" : Joined(Seats) + " points. ";
+  if (m.CurrentPlayer == Absent || !t.cmdRoll.Visible) return All + "No game is on.";
+  return Text(All, m.PlayerName[m.CurrentPlayer], " is on turn, ", Points(m.TurnScore), " this turn.", LastRoll(t));
+}
+
 }  // namespace
 
 std::string ScorersInWords(const Module1& m) {
@@ -74,24 +87,75 @@ std::string ScorersInWords(const Module1& m) {
   return Text(Joined(Groups), DiceInGroups == 1 ? " scores" : " score");
 }
 
-std::string Announcement(GameEvent Event, const Module1& m, const TableControls& t) {
-  const std::string Seat = m.CurrentPlayer == Absent ? std::string() : m.PlayerName[m.CurrentPlayer];
-  const int Banked = m.CurrentPlayer == Absent ? 0 : m.PlayerScore[m.CurrentPlayer];
+SpokenLine Announcement(GameEvent Event, const Module1& m, const TableControls& t) {
+  const int Seat = m.CurrentPlayer;
+  const bool Computer = Seat != Absent && m.PlayerIsComputer[Seat];
+  const std::string Name = Seat == Absent ? "" : m.PlayerName[Seat];
+  const std::string Has = Seat == Absent ? "" : Points(m.PlayerScore[Seat]), Turn = Points(m.TurnScore);
+  const std::string Rolled = Text(Computer ? Name + " rolled " : "Rolled ", DiceInWords(m), ": ");
+  const std::string Next = Computer ? "" : WhatNext(t);
+  SpokenLine Line{.Seat = Seat, .Game = m.GameNumber, .OfComputer = Computer, .Kept = !Computer, .AtOnce = !Computer};
   switch (Event) {
-    case GameEvent::Roll: return Text("Rolled ", DiceInWords(m), ": ", ScorersInWords(m), ".", WhatNext(t));
-    case GameEvent::Bust: return Text("Rolled ", DiceInWords(m), ": Blunko! ", Points(m.TurnScore), " lost.");
-    case GameEvent::Taking: return Text("Taken: ", Points(m.TurnScore), " this turn.", WhatNext(t));
-    case GameEvent::Undo: return Text("Taken back: ", Points(m.TurnScore), " this turn.", WhatNext(t));
-    case GameEvent::Pass: return Text(Seat, " banks ", std::to_string(m.TurnScore), " and has ", Points(Banked), ".");
-    case GameEvent::Out: return Text(Seat, " has gone out with ", Points(Banked), ".");
-    case GameEvent::Turn: {
-      const bool Computer = m.PlayerIsComputer[m.CurrentPlayer];
-      return Text(Seat, Computer ? ", computer," : "", " is on turn with ", Points(Banked), ".", LastRoll(t),
-                  Computer ? "" : WhatNext(t));
-    }
-    case GameEvent::Win: return Text(m.PlayerName[m.Winner], " wins with ", Points(m.PlayerScore[m.Winner]), ".");
+    case GameEvent::Roll: Line.Text = Text(Rolled, ScorersInWords(m), ".", Next); break;
+    case GameEvent::Bust:
+      Line.Text = Text(Rolled, "Blunko! ", Turn, " lost.");
+      Line.Folded = Text(Name, ": Blunko, ", Turn, " lost.");
+      Line.Interrupts = !Computer;
+      break;
+    case GameEvent::Taking:
+      Line.Text = Text(Computer ? Name + " has taken " : "Taken: ", Turn, " this turn.", Next);
+      break;
+    case GameEvent::Undo: Line.Text = Text("Taken back: ", Turn, " this turn.", Next); break;
+    case GameEvent::Pass:
+      Line.Text = Line.Folded = Text(Name, " banks ", std::to_string(m.TurnScore), " and has ", Has, ".");
+      break;
+    case GameEvent::Out:
+      Line.Text = Text(Name, " has gone out with ", Has, ".");
+      Line.Kept = true;
+      break;
+    case GameEvent::Turn:
+      Line.Text = Text(Name, Computer && Name != "Computer" ? ", computer," : "", " is on turn with ", Has, ".",
+                       LastRoll(t), Next);
+      Line.Kept = !Computer && t.lblLastRoll.Visible;
+      Line.AtOnce = false;
+      break;
+    case GameEvent::Win:
+      Line.Text = Text(m.PlayerName[m.Winner], " wins with ", Points(m.PlayerScore[m.Winner]), ".");
+      break;
+    case GameEvent::Scores: Line.Text = ScoresInWords(m, t); break;
+    case GameEvent::Again: Line.Again = true; break;
+    case GameEvent::OtherKey: break;
   }
-  return {};
+  Line.Interrupts = Line.Interrupts || Event == GameEvent::Win;
+  if (Event >= GameEvent::Win) Line.Kept = Line.AtOnce = true;
+  return Line;
+}
+
+void AnnouncementQueue::Add(SpokenLine New, Time Now) {
+  const auto IsStale = [&New](const SpokenLine& Old) {
+    return Old.Game != New.Game || (New.OfComputer && Old.OfComputer && Old.Seat == New.Seat && !Old.Kept);
+  };
+  if (New.Again && !last.Text.empty()) {
+    waiting.push_front(last);
+    waiting.front().Kept = true;
+  } else if (!New.Text.empty()) {
+    if (std::erase_if(waiting, IsStale) > 0 && !New.Folded.empty()) New.Text = New.Folded;
+    waiting.push_back(New);
+  }
+  if (!New.AtOnce || waiting.empty()) return;
+  const auto Newest = waiting.end() - 1;
+  waiting.erase(std::remove_if(waiting.begin(), Newest, [](const SpokenLine& Line) { return !Line.Kept; }), Newest);
+  freeAt = Now;
+  hurried = true;
+}
+
+std::optional<SpokenLine> AnnouncementQueue::Take(Time Now) {
+  hurried = hurried && !waiting.empty();
+  if (waiting.empty() || (Now < freeAt && !hurried)) return std::nullopt;
+  last = std::move(waiting.front());
+  waiting.pop_front();
+  freeAt = std::max(freeAt, Now) + static_cast<Time::rep>(last.Text.size()) * PerLetter;
+  return last;
 }
 
 }  // namespace blunko

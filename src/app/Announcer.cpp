@@ -1,7 +1,6 @@
 #include "app/Announcer.h"
 
 #include <QAccessible>
-#include <QTimer>
 
 #include <chrono>
 
@@ -18,13 +17,29 @@ Announcer::Announcer(QWidget* Table) : QWidget(Table) {
   setObjectName(QStringLiteral("announcer"));
   setAttribute(Qt::WA_TransparentForMouseEvents);
   resize(1, 1);
+  clock.start();
+  next.setSingleShot(true);
+  connect(&next, &QTimer::timeout, this, &Announcer::TellNext);
 }
 
 bool Announcer::IsHeard() { return QAccessible::isActive(); }
 
-void Announcer::Say(const QString& Text) {
+void Announcer::Tell(const SpokenLine& Line) {
+  queue.Add(Line, AnnouncementQueue::Time(clock.elapsed()));
+  TellNext();
+}
+
+void Announcer::TellNext() {
+  const AnnouncementQueue::Time Now(clock.elapsed());
+  while (const auto Line = queue.Take(Now)) Answer(QString::fromStdString(Line->Text), Line->Interrupts);
+  if (const auto Due = queue.Due()) next.start(*Due - Now);
+}
+
+void Announcer::Answer(const QString& Text, [[maybe_unused]] bool Interrupts) {
+  if (!IsHeard()) return;
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
   QAccessibleAnnouncementEvent Event(parentWidget(), Text);
+  if (Interrupts) Event.setPoliteness(QAccessible::AnnouncementPoliteness::Assertive);
   QAccessible::updateAccessibility(&Event);
 #else
   // A notification that comes up is read out: an event alone isn't passed on.

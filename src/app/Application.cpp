@@ -12,7 +12,6 @@
 #include <future>
 
 #include "Links.h"
-#include "app/Accessibility.h"
 #include "app/Announcements.h"
 #include "app/Announcer.h"
 #include "app/StartQuestions.h"
@@ -114,6 +113,7 @@ void Application::LoadForm() {
   });
   const auto On = [this](auto Signal, auto Run) { connect(Form.get(), Signal, this, Run); };
   On(&frmMain::firstShown, [this] { Form_Activate(); });
+  On(&frmMain::handled, [this] { news.Tell(*Form); });
   On(&frmMain::minimised, [this] { Form_Resize(); });
   On(&frmMain::scorePadAsked, [this] {
     if (State.ScorePadShown) ScorePad().show();
@@ -141,7 +141,10 @@ void Application::Form_Activate() {
 }
 
 void Application::ShowHelpTopic(const QString& Topic) {
-  if (help == nullptr) help = std::make_unique<HelpWindow>(QString::fromStdString(State.HelpFile), Form.get());
+  if (help == nullptr) {
+    help = std::make_unique<HelpWindow>(QString::fromStdString(State.HelpFile), Form.get());
+    QObject::connect(help.get(), &HelpWindow::told, speaker, [this](const QString& Text) { speaker->Answer(Text); });
+  }
   help->ShowTopic(Topic);
 }
 
@@ -172,18 +175,22 @@ OptionsPanel& Application::Options() {
       Pictures.prepend(Own);
     }
     options = new OptionsPanel(*Form, Table, Settings, Pictures);
+    connect(options, &OptionsPanel::told, speaker, [this](const QString& Text) { speaker->Answer(Text); });
     connect(options, &OptionsPanel::customizeSoundsAsked, options, [this] { CustomizeSounds(); });
   }
   return *options;
 }
 
 frmNewGame& Application::NewGame() {
-  if (newGame == nullptr) newGame = new frmNewGame(Screen, InfoFile, Settings, Form.get());
+  if (newGame == nullptr) {
+    newGame = new frmNewGame(Screen, InfoFile, Settings, Form.get());
+    QObject::connect(newGame, &frmNewGame::told, speaker, [this](const QString& Text) { speaker->Answer(Text); });
+  }
   return *newGame;
 }
 
 void Application::Announce(GameEvent Event) {
-  if (Announcer::IsHeard()) speaker->Say(QString::fromStdString(Announcement(Event, State, Controls)));
+  if (Announcer::IsHeard()) speaker->Tell(Announcement(Event, State, Controls));
 }
 
 void Application::UpdateActivePlayer() {

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "app/Accessibility.h"
 #include "app/HelpWindow.h"
 #include "app/QtDesktop.h"
 #include "app/frmNewGame.h"
@@ -86,6 +87,7 @@ class Application : public QObject, public Program, private HighRollersScreen {
   void ViewLists() override;
 
   Announcer* speaker = nullptr;
+  TableNews news;
   OptionsPanel* options = nullptr;
   frmScorePad* scorePad = nullptr;
   frmNewGame* newGame = nullptr;

@@ -80,6 +80,7 @@ void HelpWindow::BuildPage() {
   Page = Make<HelpPage>(this, "Page");
   Page->setAccessibleName("Page");
   Page->setOpenLinks(false);
+  Page->setTextInteractionFlags(Page->textInteractionFlags() | Qt::TextSelectableByKeyboard);  // a caret, for readers
   Page->setWordWrapMode(QTextOption::WordWrap);  // no table column narrower than its words
   Page->setFont(FontOf(Typeface::Verdana, 9.75));
   SetColours(*Page, {{QPalette::Base, Paper},
@@ -154,6 +155,11 @@ void HelpWindow::ConnectControls() {
   connect(Page, &QTextBrowser::backwardAvailable, cmdBack, &QWidget::setEnabled);
   connect(Page, &QTextBrowser::forwardAvailable, cmdForward, &QWidget::setEnabled);
   connect(Page, &QTextBrowser::sourceChanged, this, &HelpWindow::MarkInContents);
+  connect(Page, &QTextBrowser::sourceChanged, this, &HelpWindow::PlaceCaret);
+  connect(Page, &QTextBrowser::highlighted, this, [this] {
+    const QTextCursor Here = Page->textCursor();
+    if (Here.hasSelection() && Here.charFormat().isAnchor()) emit told(Here.selectedText() + ", link");
+  });
   connect(Page, &QTextBrowser::sourceChanged, lblFound, &QLabel::clear);
   connect(Page, &QTextBrowser::anchorClicked, this, &HelpWindow::Follow);
   connect(txtFind, &QLineEdit::returnPressed, this, [this] { Find(false); });
@@ -265,16 +271,27 @@ void HelpWindow::MarkInContents(const QUrl& Source) {
   Contents->setCurrentItem(Best);
 }
 
-/// On this page, then on the pages after it, and round to this one's other end.
-void HelpWindow::Find(bool Backward) {
-  const QString Wanted = txtFind->text();
-  lblFound->clear();
-  if (Wanted.isEmpty()) {
-    txtFind->setFocus();
-    return;
+/// At the start of the topic.
+void HelpWindow::PlaceCaret(const QUrl& Source) {
+  QTextBlock Block = Page->document()->begin();
+  if (Source.hasFragment()) {
+    while (Block.isValid() && AnchorOf(Block) != Source.fragment()) Block = Block.next();
   }
-  const QTextDocument::FindFlags Flags = Backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
-  if (Page->find(Wanted, Flags)) return;
+  if (Block.isValid()) Page->setTextCursor(QTextCursor(Block));
+}
+
+void HelpWindow::Find(bool Backward) {
+  lblFound->clear();
+  if (txtFind->text().isEmpty()) return txtFind->setFocus();
+  const bool Found = FindInPages(txtFind->text(), Backward ? QTextDocument::FindBackward : QTextDocument::FindFlags());
+  if (!Found) lblFound->setText(QStringLiteral("Not found"));
+  emit told(Found ? Page->textCursor().block().text() : lblFound->text());
+}
+
+/// On this page, then on the pages after it, and round to this one's other end.
+bool HelpWindow::FindInPages(const QString& Wanted, QTextDocument::FindFlags Flags) {
+  if (Page->find(Wanted, Flags)) return true;
+  const bool Backward = Flags.testFlag(QTextDocument::FindBackward);
   const auto Count = static_cast<int>(Pages.size());
   const int Here = qMax(0, static_cast<int>(Pages.indexOf(Page->source().fileName())));
   for (int Step = 1; Step <= Count; ++Step) {
@@ -282,10 +299,9 @@ void HelpWindow::Find(bool Backward) {
     if (!pageTexts[There].contains(Wanted, Qt::CaseInsensitive)) continue;
     if (There != Here) Page->setSource(AddressOf(Pages[There]));
     Page->moveCursor(Backward ? QTextCursor::End : QTextCursor::Start);
-    Page->find(Wanted, Flags);
-    return;
+    return Page->find(Wanted, Flags);
   }
-  lblFound->setText(QStringLiteral("Not found"));
+  return false;
 }
 
 bool HelpWindow::event(QEvent* Event) {

@@ -48,6 +48,10 @@ class HelpWindow : public QWidget {
   ButtonPlus* cmdFindNext;
   QLabel* lblFound;
 
+ signals:
+  /// To whoever can't see where on the page something is.
+  void told(const QString& Text);
+
  protected:
   bool event(QEvent* Event) override;
   void resizeEvent(QResizeEvent* Event) override;
@@ -65,7 +69,9 @@ class HelpWindow : public QWidget {
   QUrl AddressOf(const QString& Topic) const;
   void Follow(const QUrl& Link);
   void MarkInContents(const QUrl& Source);
+  void PlaceCaret(const QUrl& Source);
   void Find(bool Backward);
+  bool FindInPages(const QString& Wanted, QTextDocument::FindFlags Flags);
   void JoinDialog();
 
   QString folder;

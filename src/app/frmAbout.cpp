@@ -40,6 +40,7 @@ frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& S
   Label2 = MakeText(this, "Label2", ProductName, FontOf(Typeface::ComicSans, 21.75, true));
   Label_Version = MakeText(this, "Label_Version",
                            QStringLiteral("v%1.%2.%3").arg(VersionMajor).arg(VersionMinor).arg(VersionRevision), Plain);
+  Label_Version->setAccessibleName(ProductName + ", version " + Label_Version->text().mid(1));
   Picture2 = MakeDie("Picture2", Die);
   Label1 = MakeText(this, "Label1", "Tollmoor Games", FontOf(Typeface::Verdana, 9.75, true));
   lblURL = MakeLink("lblURL", WebSite, WebSite);
@@ -57,17 +58,12 @@ frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& S
   cmdOK->setFocus();
 }
 
-QLabel* frmAbout::MakeLink(const QString& Name, const QString& Shown, const QString& Target) {
-  QLabel* Made = MakeText(this, Name, {}, FontOf(Typeface::Verdana, 8.25));
-  Made->setTextFormat(Qt::RichText);
+LinkLabel* frmAbout::MakeLink(const QString& Name, const QString& Shown, const QString& Target) {
+  auto* Made = Make<LinkLabel>(this, Name, Shown);
   // Not every dark palette has a link colour of its own.
   const bool Dark = Luminance(palette().color(QPalette::Window)) < Luminance(palette().color(QPalette::WindowText));
-  Made->setText(QStringLiteral("<a href=\"%1\" style=\"color:%2\">%3</a>")
-                    .arg(Target.toHtmlEscaped(), (Dark ? LinkBlue : palette().color(QPalette::Link)).name(),
-                         Shown.toHtmlEscaped()));
-  Made->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-  Made->setAccessibleName(Shown);
-  connect(Made, &QLabel::linkActivated, this, &OpenInShell);
+  if (Dark) SetColours(*Made, {{QPalette::Link, LinkBlue}});
+  connect(Made, &QPushButton::clicked, this, [Target] { OpenInShell(Target); });
   return Made;
 }
 
@@ -93,7 +89,8 @@ void frmAbout::LayOut() {
   Head->addWidget(Picture2, 0, 2, 3, 1, Qt::AlignCenter);
   Column->addLayout(Head);
   Column->addSpacing(10);
-  for (QLabel* Line : {Label1, lblURL, lblMail}) Column->addWidget(Line);
+  Column->addWidget(Label1);
+  for (LinkLabel* Link : {lblURL, lblMail}) Column->addWidget(Link, 0, Qt::AlignHCenter);
   Column->addSpacing(10);
   for (QLabel* Line : {lblDisclaimer, Label4}) Column->addWidget(Line);
   Column->addSpacing(12);

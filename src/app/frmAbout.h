@@ -7,6 +7,7 @@
 #include "storage/Folders.h"
 #include "storage/GameSettings.h"
 #include "widgets/ButtonPlus.h"
+#include "widgets/LinkLabel.h"
 #include "widgets/PlacedDialog.h"
 
 namespace blunko {
@@ -35,8 +36,8 @@ class frmAbout : public PlacedDialog {
   QLabel* Label2;
   QLabel* Label1;
   QLabel* Label_Version;
-  QLabel* lblURL;
-  QLabel* lblMail;
+  LinkLabel* lblURL;
+  LinkLabel* lblMail;
   QLabel* lblDisclaimer;
   QLabel* Label4;
   DieButton* Picture1;
@@ -45,7 +46,7 @@ class frmAbout : public PlacedDialog {
   ButtonPlus* cmdCredits;
 
  private:
-  QLabel* MakeLink(const QString& Name, const QString& Shown, const QString& Target);
+  LinkLabel* MakeLink(const QString& Name, const QString& Shown, const QString& Target);
   DieButton* MakeDie(const QString& Name, const QString& File);
   void LayOut();
   void Picture1_Click();

@@ -1,12 +1,12 @@
 #include "app/frmNewGame.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLineEdit>
-#include <QRadioButton>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -35,7 +35,7 @@ QGroupBox* MakeChoice(QWidget* Form, const QString& Caption, std::array<QRadioBu
   Places->setHorizontalSpacing(0);
   Places->setVerticalSpacing(2);
   for (int i = 0; i < static_cast<int>(Count); ++i) {
-    Options[i] = Make<QRadioButton>(Frame, Name + QString::number(i), Captions[i]);
+    Options[i] = MakeOption(Frame, Name + QString::number(i), Captions[i]);
     Places->addWidget(Options[i], i / Columns, i % Columns);
   }
   // As much as is there, where a style would ask for more.
@@ -111,6 +111,8 @@ void frmNewGame::BuildSeat(int Index) {
   for (const std::string_view Word : StyleWords) {
     cboStyle[Index]->addItem(QString::fromLatin1(Word.data(), static_cast<qsizetype>(Word.size())));
   }
+  cboStyle[Index]->view()->resize(0, 0);  // or its rows, which nobody sees, would say that they are there
+  connect(cboStyle[Index], &QComboBox::textActivated, this, &frmNewGame::told);
   connect(Name, &QLineEdit::textChanged, this, [this, Index] { DescribeSeat(Index); });
   connect(chkComputer[Index], &QCheckBox::toggled, this, [this, Index] { chkComputer_Click(Index); });
   DescribeSeat(Index);

@@ -42,6 +42,10 @@ class frmNewGame : public PlacedDialog {
   ButtonPlus* cmdCancel;
   ButtonPlus* cmdSetDefault;
 
+ signals:
+  /// What a list of styles has changed to: the toolkit tells no listener.
+  void told(const QString& Text);
+
  protected:
   bool eventFilter(QObject* Watched, QEvent* Event) override;
   void Place() override;

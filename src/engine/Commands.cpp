@@ -87,7 +87,10 @@ void Game::Form_KeyUp(std::int16_t KeyCode, std::int16_t Shift) {
     case Backspace:
       for (std::int16_t Index = 10; Index <= 15; ++Index) PersonClicksDie(Index, LeftButton);
       break;
-    default: break;
+    // Only for a listener: nothing else comes of them.
+    case LetterS: program.Announce(GameEvent::Scores); break;
+    case LetterL: program.Announce(GameEvent::Again); break;
+    default: program.Announce(GameEvent::OtherKey); break;
   }
 }
 

@@ -92,6 +92,8 @@ class Game {
   /// Whether a person's commands are carried out at the moment. Those that come while a handler sleeps, or while one of
   /// its boxes or dialogs is open, come to nothing.
   bool TakesCommands() const { return (gate == Gate::Open || gate == Gate::Ajar) && !m.Quitting; }
+  /// Whether a command is being carried out, and with it the turns of computers that follow.
+  bool IsAtWork() const { return gate != Gate::Open; }
   /// Carries out a person's command if the table takes it. Until it is done no other is taken, unless it lets them in.
   template <typename Action>
   void Command(Action Run) {

@@ -11,7 +11,11 @@ enum class GameEvent {
   Pass,    ///< the seat on turn has banked
   Out,     ///< the seat on turn has gone out
   Turn,    ///< a seat comes on turn
-  Win      ///< the game has a winner
+  Win,     ///< the game has a winner
+  // A person asks by a key:
+  Scores,   ///< who has what, and whose turn it is
+  Again,    ///< what was told last
+  OtherKey  ///< a key without a meaning: what counts, now
 };
 
 }  // namespace blunko

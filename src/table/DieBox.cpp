@@ -1,6 +1,5 @@
 #include "table/DieBox.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -71,10 +70,6 @@ void DieBox::setTakeable(bool Takeable) {
   takeable = Takeable;
   setCursor(takeable ? Qt::PointingHandCursor : Qt::ArrowCursor);
   update();
-  QAccessible::State Changed;
-  Changed.disabled = true;
-  QAccessibleStateChangeEvent Event(this, Changed);
-  QAccessible::updateAccessibility(&Event);
 }
 
 void DieBox::setPale(bool Pale) {

@@ -7,7 +7,7 @@ namespace blunko {
 namespace {
 
 // Places of keys on the board, as X11 and Wayland number them. Elsewhere the same numbers are other keys.
-constexpr quint32 PlaceOf1 = 10, PlaceOf6 = 15, PlaceOfR = 27, PlaceOfP = 33;
+constexpr quint32 PlaceOf1 = 10, PlaceOf6 = 15, PlaceOfR = 27, PlaceOfP = 33, PlaceOfS = 39, PlaceOfL = 46;
 
 quint32 PlaceOf(const QKeyEvent& Event, const QString& Platform) {
   const bool Known = Platform == QLatin1String("xcb") || Platform.startsWith(QLatin1String("wayland"));
@@ -25,13 +25,19 @@ std::int16_t KeyCodeOf(const QKeyEvent& Event, const QString& Platform) {
   if (Key >= Qt::Key_0 && Key <= Qt::Key_9)
     return static_cast<std::int16_t>((NumPad ? NumPad0 : Digit0) + (Key - Qt::Key_0));
   if (Key > Qt::Key_AsciiTilde && Key < Qt::Key_Escape) {  // letters of another script: those of the places count
-    return Place == PlaceOfR ? LetterR : Place == PlaceOfP ? LetterP : 0;
+    return Place == PlaceOfR   ? LetterR
+           : Place == PlaceOfP ? LetterP
+           : Place == PlaceOfS ? LetterS
+           : Place == PlaceOfL ? LetterL
+                               : 0;
   }
   switch (Key) {
     case Qt::Key_Backspace: return Backspace;
     case Qt::Key_Escape: return Escape;
+    case Qt::Key_L: return LetterL;
     case Qt::Key_P: return LetterP;
     case Qt::Key_R: return LetterR;
+    case Qt::Key_S: return LetterS;
     case Qt::Key_F2: return F2;
     case Qt::Key_Period:
     case Qt::Key_Comma: return NumPad ? NumPadDecimal : 0;  // the decimal point has two faces

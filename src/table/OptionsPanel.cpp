@@ -5,7 +5,6 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QListWidget>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "table/DiceSets.h"
@@ -40,6 +39,7 @@ const char* const ColourNames[] = {"Black", "Red", "Green", "Yellow", "Blue", "M
 OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QStringList BackgroundFolders)
     : QWidget(&Main), form(Main), game(Table), settings(Options), backgrounds(std::move(BackgroundFolders)) {
   setObjectName(QStringLiteral("picOptionsTray"));
+  setAccessibleName(QStringLiteral("Options"));
   setGeometry(TwipsRect(0, 0, PanelWidth, PanelHeight));
   setFont(FontOf(Typeface::Verdana, 8.25));
   SetColours(*this, {{QPalette::Window, palette().color(QPalette::Highlight)},
@@ -77,7 +77,7 @@ void OptionsPanel::BuildSwitches() {
   const QString Speeds[] = {QStringLiteral("Normal"), QStringLiteral("Fast"), QStringLiteral("Ridiculous")};
   for (int i = 0; i < 3; ++i) {
     const QString Name = QStringLiteral("optComputerSpeed(%1)").arg(i);
-    optComputerSpeed[i] = AddTo(Speed, Make<QRadioButton>(this, Name, Speeds[i]));
+    optComputerSpeed[i] = AddTo(Speed, MakeOption(this, Name, Speeds[i]));
   }
   auto* Misc = AddFrame(QStringLiteral("Misc:"));
   chkSortDice = AddTo(Misc, Make<QCheckBox>(this, QStringLiteral("chkSortDice"), QStringLiteral("Sort Dice")));
@@ -86,8 +86,8 @@ void OptionsPanel::BuildSwitches() {
   auto* Sound = AddFrame(QStringLiteral("Sound FX:"));
   auto* OnOff = new QHBoxLayout;
   for (const int i : {1, 0}) {
-    optSound[i] = Make<QRadioButton>(this, QStringLiteral("optSound(%1)").arg(i),
-                                     i == 1 ? QStringLiteral("On") : QStringLiteral("Off"));
+    optSound[i] =
+        MakeOption(this, QStringLiteral("optSound(%1)").arg(i), i == 1 ? QStringLiteral("On") : QStringLiteral("Off"));
     OnOff->addWidget(optSound[i]);
   }
   Sound->addLayout(OnOff);
@@ -102,7 +102,9 @@ void OptionsPanel::BuildLists() {
   for (const char* Name : OfferedDiceSets()) cboDiceColor->addItem(QLatin1String(Name));
   cboDiceColor->setMaxVisibleItems(cboDiceColor->count());
   AddFrame(QStringLiteral("Dice:"))->addWidget(cboDiceColor);
+  cboDiceColor->view()->resize(0, 0);  // or its rows, which nobody sees, would say that they are there
   connect(cboDiceColor, &QComboBox::activated, this, &OptionsPanel::cboDiceColor_Click);
+  connect(cboDiceColor, &QComboBox::textActivated, this, &OptionsPanel::told);
 
   lstSkin = Make<QListWidget>(this, QStringLiteral("lstSkin"));
   lstSkin->setAccessibleName(QStringLiteral("Background"));

@@ -54,6 +54,8 @@ class OptionsPanel : public QWidget {
  signals:
   /// The sounds are to be chosen, in a dialog over the panel.
   void customizeSoundsAsked();
+  /// What the list of the dice has changed to: the toolkit tells no listener.
+  void told(const QString& Text);
 
  private:
   QVBoxLayout* AddFrame(const QString& Caption);

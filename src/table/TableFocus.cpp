@@ -1,6 +1,7 @@
 #include "table/TableFocus.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "table/TableParts.h"
@@ -24,20 +25,15 @@ void TableFocus::Leave(const QWidget* Going) {
   left = Going;
 }
 
-void TableFocus::Return(QWidget* Back) {
-  if (left != Back) return;
-  left = nullptr;
-  if (form.focusWidget() == &form) Back->setFocus();
-}
-
 void TableFocus::HandlerEnded() {
   const auto All = form.Picture1.begin();
-  const auto Box = std::find(All, form.Picture1.end(), left) - All;
-  if (Box == std::ssize(form.Picture1)) return;
-  left = nullptr;
+  const auto Box = std::find(All, form.Picture1.end(), std::exchange(left, nullptr)) - All;
+  if (form.focusWidget() != &form) return;
   const auto Row = All + Box / 6 * 6;
-  const auto First = std::find_if(Row, Row + 6, [](DieBox* Die) { return Die->Picture() != 0 && Die->isEnabled(); });
-  if (First != Row + 6 && form.focusWidget() == &form) (*First)->setFocus();
+  const auto End = Box < std::ssize(form.Picture1) ? Row + 6 : Row;
+  const auto First = std::find_if(Row, End, [](DieBox* Die) { return Die->Picture() != 0 && Die->isEnabled(); });
+  if (First != End) return (*First)->setFocus();
+  if (form.cmdRoll->isVisible() && form.cmdRoll->isEnabled()) form.cmdRoll->setFocus();
 }
 
 }  // namespace blunko

@@ -16,10 +16,8 @@ class TableFocus {
   void OrderTabStops();
   /// Before a widget, or what lies in it, goes off or out of sight; also while a dialog is active.
   void Leave(const QWidget* Going);
-  /// A widget is on again: it takes the focus with which it went, if nothing else has it.
-  void Return(QWidget* Back);
   /// When the handler has done with the dice, the focus is again where it was among them: on the first one that is left
-  /// in the row.
+  /// in the row. A focus that is nowhere goes to Roll Dice, if the turn goes on there.
   void HandlerEnded();
 
  private:

@@ -1,6 +1,5 @@
 #include "table/frmMain.h"
 
-#include <QAccessible>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenu>
@@ -10,7 +9,6 @@
 
 #include <utility>
 
-#include "engine/ScoreDice.h"
 #include "storage/GameSettings.h"
 #include "table/KeyEvents.h"
 #include "widgets/Fonts.h"
@@ -106,18 +104,11 @@ void frmMain::Show(ButtonPlus* Widget, const Button& Control) {
   if (!Control.Enabled || !Control.Visible) focus.Leave(Widget);
   Widget->setEnabled(Control.Enabled);
   Widget->setVisible(Control.Visible);
-  if (Widget == cmdRoll && Widget->isEnabled()) focus.Return(Widget);
 }
 
 void frmMain::Show(FitLabel* Widget, const std::string& Caption, bool Visible, int Top) {
-  const auto IsBlank = [Widget] { return Widget->text().trimmed().isEmpty(); };
-  const bool WasBlank = IsBlank();
   Widget->setText(QString::fromStdString(Caption));
   Widget->setVisible(Visible);
-  if (Visible && IsBlank() != WasBlank) {  // to a listener an empty text isn't there
-    QAccessibleEvent Event(Widget, WasBlank ? QAccessible::ObjectShow : QAccessible::ObjectHide);
-    QAccessible::updateAccessibility(&Event);
-  }
   Widget->move(Widget->x(), Top);
 }
 
@@ -126,12 +117,12 @@ void frmMain::DescribeDice() {
   static const char* const Faces[] = {"", "one", "two", "three", "four", "five", "six"};
   if (game.t.Rolling) return;
   const Module1& m = game.m;
-  for (std::size_t i = 0; i < described.size(); ++i) {
-    const bool OnTable = i < 6;
-    const int Face = OnTable ? m.ShownFace[i] : m.TrayFace[i - 6];
-    const bool Counts = OnTable ? m.DieUp[i] && IsScorer(m.DieScoreCode[i]) : game.CanTake(static_cast<int>(i) + 4);
-    if (std::exchange(described[i], {Face, Counts}) == std::pair(Face, Counts)) continue;
-    QString Name = QStringLiteral("%1 %2: %3").arg(OnTable ? "Die" : "Tray").arg(i % 6 + 1).arg(Faces[Face]);
+  for (std::size_t i = 0; i < Picture1.size(); ++i) {
+    const bool OnTable = i < 6, Sample = OnTable && Wears.SampleSet != 0;
+    const int Face = Sample ? static_cast<int>(i) + 1 : OnTable ? m.ShownFace[i] : m.TrayFace[i - 6];
+    const bool Counts = !Sample && game.CanTake(static_cast<int>(OnTable ? i : i + 4));
+    const char* const Row = Sample ? "Sample die" : OnTable ? "Die" : "Tray";
+    QString Name = QStringLiteral("%1 %2: %3").arg(Row).arg(i % 6 + 1).arg(Faces[Face]);
     if (Counts) Name += OnTable ? ", scores" : ", can be taken back";
     if (Face != 0) SetName(*Picture1[i], Name);  // an empty box isn't there
   }

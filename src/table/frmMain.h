@@ -32,6 +32,7 @@ class frmMain : public TableParts {
   void Handle(Handler Run) {
     Run();
     ShowControls();
+    if (!game.IsAtWork()) emit handled();
     focus.HandlerEnded();
     game.AssertSound();
   }
@@ -45,6 +46,8 @@ class frmMain : public TableParts {
  signals:
   /// The window has come up for the first time.
   void firstShown();
+  /// The game has done what a person asked for, the turns of computers that followed included.
+  void handled();
   /// The window was minimised or restored.
   void minimised();
   // Commands that aren't moves of the game.
@@ -78,8 +81,6 @@ class frmMain : public TableParts {
   TableFocus focus;
   std::set<quint32> keysDown;  ///< keys pressed at the table, by their places: only their release is a command
   std::optional<Dress> drawn;
-  /// The dice as they were described last: faces, and what can be taken.
-  std::array<std::pair<int, bool>, 12> described{};
   bool activatedBefore = false;
 };
 

@@ -85,8 +85,9 @@ void frmScorePad::UpdateActivePlayer() {
     lblPlayer[i]->setForeColor(Ink);
     lblScore[i]->setText(QString::number(m.PlayerScore[i]));
     lblScore[i]->setForeColor(Ink);
+    const bool SaysSo = m.PlayerIsComputer[i] && m.PlayerName[i] != "Computer";
     SetName(*lblPlayer[i], QString::fromStdString(m.PlayerName[i]) + QStringLiteral(", %1").arg(m.PlayerScore[i]) +
-                               (i == m.CurrentPlayer ? ", on turn" : "") + (m.PlayerIsComputer[i] ? ", computer" : ""));
+                               (i == m.CurrentPlayer ? ", on turn" : "") + (SaysSo ? ", computer" : ""));
   }
   update();
 }

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QRadioButton>
 #include <QString>
 
 #include <initializer_list>
@@ -49,6 +50,15 @@ template <typename Form, typename Slot>
 ButtonPlus* MakeButton(Form* Parent, const QString& Name, const QString& Caption, Slot Run) {
   auto* Made = Make<ButtonPlus>(Parent, Name, Caption);
   QObject::connect(Made, &QPushButton::clicked, Parent, Run);
+  return Made;
+}
+
+/// One of a choice. The choice is one stop of the Tab key, at the chosen one, whoever has chosen it.
+inline QRadioButton* MakeOption(QWidget* Parent, const QString& Name, const QString& Caption) {
+  auto* Made = Make<QRadioButton>(Parent, Name, Caption);
+  Made->setFocusPolicy(Qt::ClickFocus);
+  QObject::connect(Made, &QRadioButton::toggled, Made,
+                   [Made](bool On) { Made->setFocusPolicy(On ? Qt::StrongFocus : Qt::ClickFocus); });
   return Made;
 }
 

@@ -6,7 +6,7 @@ import sys
 import tempfile
 import time
 
-last_name, repeated, heard, listeners = {}, [], [], []
+last_name, repeated, heard, listeners, times = {}, [], [], [], []
 
 
 def in_session(run, screen, limit):
@@ -32,7 +32,7 @@ if "SESSION" in os.environ:
     from gi.repository import GLib
 
 
-def start(program, **environment):
+def start(program, stderr=None, **environment):
     """The program, listened to."""
     heard.clear()
     if not listeners:
@@ -40,8 +40,9 @@ def start(program, **environment):
         pyatspi.Registry.registerEventListener(on_name, "object:property-change:accessible-name")
         pyatspi.Registry.registerEventListener(on_showing, "object:state-changed:showing")
         pyatspi.Registry.registerEventListener(lambda event: heard.append(event.any_data), "object:announcement")
+        pyatspi.Registry.registerEventListener(lambda event: times.append(time.time()), "object")
     return subprocess.Popen([program], env={**os.environ, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-                                            "SDL_AUDIODRIVER": "dummy", **environment})
+                                            "SDL_AUDIODRIVER": "dummy", **environment}, stderr=stderr)
 
 
 def hear(seconds=0):
@@ -91,6 +92,16 @@ def find(name, role="button"):
     return next((n for n in showing() if n.getRoleName().removeprefix("push ") == role and fits(n.name or "")), None)
 
 
+def is_on(name):
+    button = find(name)
+    return button is not None and button.getState().contains(pyatspi.STATE_SENSITIVE)
+
+
+def line_at_caret(node):
+    text = node.queryText()
+    return text.getTextAtOffset(text.caretOffset, pyatspi.TEXT_BOUNDARY_LINE_START)[0]
+
+
 def could_press(name, role="button"):
     """Presses it, if it is there and can be pressed."""
     node = find(name, role)
@@ -111,6 +122,11 @@ def on_name(event):
     if last_name.get(key) == name and not (name or "").startswith("BLUNKO"):  # spelled quicker than one can ask
         repeated.append(f"{key[0]}: {name}")
     last_name[key] = name
+
+
+def busiest():
+    """The most events that came within a second."""
+    return max(sum(1 for later in times[i:i + 200] if later < begin + 1) for i, begin in enumerate(times))
 
 
 def on_showing(event):
