@@ -5,8 +5,8 @@
 #include "app/Application.h"
 #include "app/OpenInShell.h"
 #include "app/Scale.h"
-#include "widgets/FocusRing.h"
 #include "widgets/HeldKeys.h"
+#include "widgets/Materials.h"
 #include "widgets/X11.h"
 
 int main(int argc, char** argv) {

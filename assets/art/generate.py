@@ -162,6 +162,10 @@ def gold_star(x, y, r):
 
 # --- the pictures --------------------------------------------------------------------------------------------------
 
+WARM = ("#ffffff", "#f4ecd8", "#b09a6c", "#5a4826")
+NAVY_PIP = (0, "#060c1f"), (0.55, "#0e1b3d"), (1, "#3c5288")
+
+
 def trophy():
     """The cup of the winner; the name stands on the navy plate."""
     def handle(d, glint, gold):
@@ -173,22 +177,19 @@ def trophy():
         return path(d, fill=f"url(#{fill})", stroke=OUTLINE, stroke_width=1.6, stroke_linejoin="round")
     rim = linear("rim", (0, "#9c6a0a"), (0.25, "#fff7c8"), (0.6, "#e3ac24"), (1, "#8a5a06"), x2=1, y2=0)
     write(HERE / "trophy.svg", 391, 513,
-          defs(GOLD, rim, radial("glow", (0, "#ffffff", 0.65), (0.55, "#bfe0ff", 0.25), (1, "#ffffff", 0)),
-               linear("inside", (0, "#4a2f02"), (1, "#b5800f")),
+          defs(GOLD, rim, linear("inside", (0, "#4a2f02"), (1, "#b5800f")),
                linear("back", (0, "#7a4f06"), (0.3, "#f6d878"), (0.65, "#d09a1c"), (1, "#6e4604"), x2=1, y2=0),
-               linear("wood", (0, "#6b4427"), (0.5, "#4a2c16"), (1, "#2c180a")),
-               linear("woodtop", (0, "#8b5d38"), (1, "#5c381d")),
-               radial("ground", (0, "#001a4d", 0.6), (0.7, "#001a4d", 0.35), (1, "#001a4d", 0))),
-          ellipse(195.5, 245, 190, 190, fill="url(#glow)"), ellipse(199, 451, 140, 13, fill="url(#ground)"),
+               linear("wood", (0, "#7a4a2c"), (0.45, "#5b3420"), (1, "#35190d")),
+               linear("woodtop", (0, "#a06a40"), (1, "#6d4128")), linear("plate", (0, "#00003c"), (0.35, "#000072"), (1, "#000080"))),
           handle("M110 208 C52 196 44 262 76 292 C92 307 118 312 138 308", "M106 204.5 C58 197 50 254 75 284",
                  "#e6b333"),
           handle("M281 208 C339 196 347 262 315 292 C299 307 273 312 253 308", "M285 204.5 C328 197 338 240 322 274",
                  "#d9a325"),
           ellipse(195.5, 197, 95, 17, fill="url(#back)", stroke=OUTLINE, stroke_width=1.6),
           ellipse(195.5, 197.5, 87.5, 13, fill="url(#inside)", stroke=OUTLINE, stroke_width=1),
-          cube("a", 148, 176, 24, (30, 26, -12), IVORY, BLACK_PIP, (5, 3, 1)),
-          cube("b", 243, 177, 24, (-34, 27, 14), IVORY, BLACK_PIP, (4, 5, 6)),
-          cube("c", 195.5, 172, 25.5, (-36, 28, 4), RED, RED_PIP, (5, 4, 1)),
+          cube("a", 148, 176, 24, (30, 26, -12), WARM, NAVY_PIP, (5, 3, 1)),
+          cube("b", 243, 177, 24, (-34, 27, 14), WARM, NAVY_PIP, (4, 5, 6)),
+          cube("c", 195.5, 172, 25.5, (-36, 28, 4), WARM, NAVY_PIP, (5, 4, 1)),
           metal("M100.5 197 A95 17 0 0 0 290.5 197 C292 262 262 318 222 332 L169 332 C129 318 99 262 100.5 197 Z",
                 "gold"),
           path("M101.5 214 A94 17 0 0 0 289.5 214 L289 219 A93.5 17 0 0 1 102 219 Z", fill="#6e4604", fill_opacity=0.3),
@@ -209,8 +210,9 @@ def trophy():
           line(99, 389.6, 292, 389.6, stroke="#c89a70", stroke_opacity=0.6, stroke_width=1),
           line(85, 442.8, 306, 442.8, stroke="#c89a70", stroke_opacity=0.6, stroke_width=1),
           rect(104, 401, 189, 39, 4, fill="url(#rim)", stroke="#3c2606", stroke_width=1.2),
-          rect(107, 404, 183, 33, 2.5, fill="#000080", stroke="#5a3a02", stroke_width=1),
-          circle(110.2, 420.5, 1.6, fill="#ffe89a"), circle(286.8, 420.5, 1.6, fill="#ffe89a"))
+          rect(107, 404, 183, 33, 2.5, fill="url(#plate)", stroke="#2a1a02", stroke_width=1),
+          path("M113 406.6H284A3.4 3.4 0 0 0 287.4 410V431A3.4 3.4 0 0 0 284 434.4H113A3.4 3.4 0 0 0 109.6 431V410"
+               "A3.4 3.4 0 0 0 113 406.6Z", fill="none", stroke="#f2d48c", stroke_opacity=0.6, stroke_width=0.8))
 
 
 def rollers_top():

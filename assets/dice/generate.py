@@ -14,21 +14,20 @@ sys.path[:0] = [str(HERE.parent), str(HERE)]
 import scenes
 from scenes import FACES, MARGIN
 from svg import (BLACK_PIP, BLUE, BLUE_PIP, IVORY, RED, RED_PIP, around, circle, defs, die_body, hollow, linear, path,
-                 picture, pip_places, radial, rect, shadow, smooth, star, write)
+                 picture, pip_places, radial, rect, smooth, star, write)
 
 
 # --- turned and moulded dice ---------------------------------------------------------------------------------------
 
 def moulded(colours, pip, edge, glint, face, **shape):
-    r = 5.6 if face == 1 else 4.4
+    r = 6.6 if face == 1 else 4.6
     return (*die_body("d", *colours, **shape), defs(linear("pip", *pip, x1=0.2, y1=0.1, x2=0.8, y2=0.95)),
             *[hollow(x, y, r, "pip", edge, glint) for x, y in pip_places(face, (22, 22), (11, 11))])
 
 
 def moulded_set(base, *look, **shape):
     for face in FACES:
-        write(HERE / f"{base + face}.svg", 48, 48, shadow(0, 0, 44, 44, shape.get("r", 10), 4, 0.1),
-              *moulded(*look, face, **shape), left=MARGIN)
+        write(HERE / f"{base + face}.svg", 48, 48, *moulded(*look, face, **shape), left=MARGIN)
 
 
 BLUE_LOOK = BLUE, BLUE_PIP, "#0c1850", ("#6f8eea", 0.55)
@@ -43,7 +42,8 @@ def red():
 
 
 def antique():
-    moulded_set(112, IVORY, BLACK_PIP, "#15130f", ("#ffffff", 0.95), r=11, gloss=0.75)
+    moulded_set(112, ("#fffffc", "#f8f2e5", "#a8966e", "#74654a"), ((0, "#060c1f"), (0.5, "#0e1b3d"), (1, "#3c5288")), "#060c1f",
+                ("#ffffff", 0.95), r=9.8, gloss=0.75)
 
 
 def green():
@@ -79,7 +79,6 @@ def patriot():
                    linear("w", (0, "#ffffff"), (0.6, "#f6f6fa"), (1, "#c4c6d4"), x2=1),
                    linear("u", (0, "#3a52c0"), (0.45, "#1a2b8c"), (1, "#0e185a"), x2=1),
                    radial("glow", (0, "#ffffff", 0.35), (1, "#ffffff", 0), cx=0.2, cy=0.15, r=0.6)),
-              shadow(0, 0, 44, 44, 9.5, 4, 0.1),
               band(0, "url(#rim)"), band(0.8, "url(#r)"), band(3.4, "url(#w)"), band(5.2, "url(#u)"),
               band(5.2, "url(#glow)"),
               *[pip(x, y, 8.5 if face == 1 else 5.1) for x, y in pip_places(face, (22, 22), (9.8, 10.8))],

@@ -4,7 +4,7 @@ import random
 
 from svg import (around, circle, defs, digit, ellipse, group, line, linear, mix, num, path, pip_places, points,
                  polygon, radial,
-                 rect, shadow, smooth, write)
+                 rect, smooth, write)
 
 HERE = pathlib.Path(__file__).parent
 FACES = range(1, 7)
@@ -115,7 +115,6 @@ def clouds():
               defs(linear("rim", (0, "#d8ecff"), (0.5, "#6aa8ee"), (1, "#123c90"), x2=1),
                    linear("sky", (0, "#1450c0"), (0.6, "#3580e0"), (1, "#6cacf2")),
                    linear("cloud", (0, "#ffffff"), (0.6, "#ffffff"), (1, "#bfd6f0"))),
-              shadow(0, 0, 44, 44, 9, 4, 0.09),
               rect(0, 0, 44, 44, 9, fill="url(#rim)"), rect(1.2, 1.2, 41.6, 41.6, 8, fill="url(#sky)"),
               *[cloud(x, y, width[face]) for x, y in pip_places(face, (22, 22), spread[face])],
               left=MARGIN)
@@ -159,7 +158,6 @@ def marbles():
                    linear("dish", (0, "#3c1c06"), (0.5, "#7a4a1e"), (1, "#ffefd0"), x2=0.7),
                    radial("m", (0, mix(lit, "#ffffff", 0.4)), (0.6, lit), (1, deep), cx=0.55, cy=0.6, r=0.6),
                    radial("shade", (0, deep, 0), (0.7, deep, 0.08), (1, deep, 0.85), cx=0.45, cy=0.45, r=0.57)),
-              shadow(0, 0, 44, 44, 7, 4, 0.09),
               rect(0, 0, 44, 44, 7, fill="url(#rim)"), rect(1.2, 1.2, 41.6, 41.6, 6, fill="url(#wood)"),
               *[vein(3 + 5.4 * i) for i in range(8)],
               *[marble(x, y, radius[face]) for x, y in pip_places(face, (22, 22), spread[face])],
@@ -217,7 +215,6 @@ def bubbles():
                    radial("glow", (0, "#38b0ff", 0.5), (1, "#38b0ff", 0), cx=0.8, cy=0.88, r=0.6),
                    radial("b", (0, "#9fdcff", 0.3), (0.6, "#8fd4ff", 0.5), (1, "#eefaff", 0.9), cx=0.55, cy=0.58,
                           r=0.55)),
-              shadow(0, 0, 44, 44, 13, 4, 0.09),
               rect(0, 0, 44, 44, 13, fill="url(#rim)"),
               *[rect(2.2, 2.2, 39.6, 39.6, 10.8, fill=f"url(#{fill})") for fill in ("water", "glow")],
               *[bubble(x, y, radius[face]) for x, y in pip_places(face, (22, 22), spread[face])],

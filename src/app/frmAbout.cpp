@@ -9,9 +9,8 @@
 #include "app/Texts.h"
 #include "app/frmCredits.h"
 #include "widgets/Boxes.h"
-#include "widgets/Colours.h"
-#include "widgets/FocusRing.h"
 #include "widgets/FormBuilder.h"
+#include "widgets/Materials.h"
 
 namespace blunko {
 

@@ -7,8 +7,8 @@
 
 #include "table/Strip.h"
 #include "table/frmMain.h"
-#include "widgets/Colours.h"
 #include "widgets/FormBuilder.h"
+#include "widgets/Materials.h"
 #include "widgets/Twips.h"
 
 namespace blunko {
@@ -28,6 +28,8 @@ frmCongrats::frmCongrats(const QString& Winner, std::string& FormMessage, Deskto
   setObjectName("frmCongrats");
   setWindowTitle("Congratulations " + winner + " !!!");
   SetColours(*this, {{QPalette::Window, FormBlue}});
+  auto* Rays = Placed(Make<StretchedPicture>(this, "picRays"), TwipsRect(0, 0, FormWidth, FormHeight));
+  Rays->Load(":/materials/rays.jpg");
   setFixedSize(Pixels(FormWidth), Pixels(FormHeight));
   Image2 = Make<SvgBox>(this, "Image2", ":/art/trophy.svg");
   Placed(Image2, {{0, 0}, Image2->sizeHint()});
@@ -43,7 +45,6 @@ void frmCongrats::BuildPlate() {
   Placed(lblWinner, TwipsRect(1695, 6120, 2565, 375));
   lblWinner->setForeColor(Qt::yellow);
   SetColours(*lblWinner, {{QPalette::Window, PlateColour}});
-  lblWinner->setAutoFillBackground(true);
 }
 
 void frmCongrats::BuildButtons() {

@@ -8,8 +8,8 @@
 #include "Links.h"
 #include "app/Texts.h"
 #include "widgets/Boxes.h"
-#include "widgets/Colours.h"
 #include "widgets/FormBuilder.h"
+#include "widgets/Materials.h"
 
 namespace blunko {
 

@@ -5,8 +5,8 @@
 #include <QVBoxLayout>
 
 #include "storage/NameRule.h"
-#include "widgets/Colours.h"
 #include "widgets/FormBuilder.h"
+#include "widgets/Materials.h"
 
 namespace blunko {
 
@@ -17,7 +17,7 @@ constexpr int ScoreColumn = 5;        // digits
 constexpr qsizetype LongestRow = 60;  // letters
 constexpr int Spare = 4;              // px in the text boxes
 constexpr double ListPoints = 9.75;
-const QColor Navy(0, 0, 128);
+const QColor ListGround(0, 0, 128);
 
 }  // namespace
 
@@ -75,7 +75,7 @@ QPlainTextEdit* frmHighRollers::MakeList(const QString& Name, const QString& Des
   Made->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   Made->setLineWrapMode(QPlainTextEdit::NoWrap);
   Made->setFont(FontOf(Typeface::CourierNew, ListPoints));
-  SetColours(*Made, {{QPalette::Base, Navy}, {QPalette::Text, Qt::yellow}});
+  SetColours(*Made, {{QPalette::Base, ListGround}, {QPalette::Text, Qt::yellow}});
   Made->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   Made->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   return Made;

@@ -5,8 +5,8 @@
 #include "storage/DayNumber.h"
 #include "storage/NameRule.h"
 #include "util/HighRollers.h"
-#include "widgets/Colours.h"
 #include "widgets/FormBuilder.h"
+#include "widgets/Materials.h"
 
 namespace blunko {
 

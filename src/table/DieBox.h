@@ -22,6 +22,8 @@ class DieBox : public QAbstractButton {
   bool IsTakeable() const { return takeable; }
   /// A die that is lost is pale.
   void setPale(bool Pale);
+  /// On the felt, in the coordinates of the tray.
+  void DrawShadow(QPainter& Painter) const;
 
  signals:
   /// `Button`: 1 left, 2 right, 4 middle.
@@ -40,13 +42,13 @@ class DieBox : public QAbstractButton {
   bool takeable = false, pale = false;
 };
 
-/// A row of die boxes on felt, with a thin border. Clicks beside the dice are its own.
+/// A row of die boxes on felt. Clicks beside the dice are its own.
 class DiceTray : public QWidget {
   Q_OBJECT
 
  public:
-  /// A tray that touches another above it leaves the line between the two to that one.
-  DiceTray(bool HasTrayAbove, QWidget* Parent) : QWidget(Parent), hasTrayAbove(HasTrayAbove) {}
+  /// `Sunk`: how far it lies below the felt's upper edge, in px.
+  DiceTray(int Sunk, QWidget* Parent) : QWidget(Parent), sunk(Sunk) {}
 
   void setBackColor(const QColor& Colour);
 
@@ -59,9 +61,7 @@ class DiceTray : public QWidget {
   void mouseReleaseEvent(QMouseEvent* Event) override;
 
  private:
-  void DrawFelt(qreal Scale);
-
-  bool hasTrayAbove;
+  int sunk;
   QColor backColor;
   QPixmap felt;
 };

@@ -5,6 +5,8 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QListWidget>
+#include <QPainter>
+#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "table/DiceSets.h"
@@ -12,6 +14,7 @@
 #include "table/frmMain.h"
 #include "widgets/Fonts.h"
 #include "widgets/FormBuilder.h"
+#include "widgets/Materials.h"
 #include "widgets/Twips.h"
 
 namespace blunko {
@@ -20,15 +23,13 @@ namespace {
 
 constexpr int PanelWidth = 2385, PanelHeight = 7695;  // twips; the table covers the rest of the panel
 constexpr int StripWidth = 1890;                      // twips, of the panel on the screen
-const QColor ListText(0, 0, 128), ListGround(250, 250, 252);
 
 constexpr int CommandHeight = 27;  // px
 
 // A thin line all round, with the caption in it: the style's own group boxes take more height than the strip has.
 const QString FrameStyle = QStringLiteral(
-    "QGroupBox { border: 1px solid palette(highlighted-text); border-radius: 4px; margin-top: 7px; }"
-    "QGroupBox::title { subcontrol-origin: margin; left: 7px; padding: 0 3px; background: palette(highlight);"
-    "                   color: palette(highlighted-text); }");
+    "QGroupBox { border: 1px solid palette(highlight); border-radius: 4px; margin-top: 7px; }"
+    "QGroupBox::title { subcontrol-origin: margin; left: 7px; padding: 0 3px; color: %1; }");
 
 // Entry 6 shows a purer cyan than the text gets.
 constexpr QRgb SwatchColours[] = {0x000000, 0xFF0000, 0x00FF00, 0xFFFF00, 0x0000FF, 0xFF00FF, 0x00FFFF, 0xFFFFFF};
@@ -42,10 +43,9 @@ OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QS
   setAccessibleName(QStringLiteral("Options"));
   setGeometry(TwipsRect(0, 0, PanelWidth, PanelHeight));
   setFont(FontOf(Typeface::Verdana, 8.25));
-  SetColours(*this, {{QPalette::Window, palette().color(QPalette::Highlight)},
-                     {QPalette::WindowText, palette().color(QPalette::HighlightedText)}});
-  setAutoFillBackground(true);
-  setStyleSheet(FrameStyle);
+  const QColor Ink = palette().color(QPalette::HighlightedText);
+  SetColours(*this, {{QPalette::WindowText, Contrast(Ink, Navy) < 4.5 ? Ivory : Ink}});
+  setStyleSheet(FrameStyle.arg(palette().color(QPalette::WindowText).name()) + PaperStyle());
   frames = new QVBoxLayout(this);
   frames->setContentsMargins(6, 3, 6 + width() - Pixels(StripWidth), 6);
   frames->setSpacing(3);
@@ -62,8 +62,8 @@ OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QS
 QVBoxLayout* OptionsPanel::AddFrame(const QString& Caption) {
   auto* Box = Make<QGroupBox>(this, "fra" + Caption.chopped(1).remove(' '), Caption);
   auto* Inside = new QVBoxLayout(Box);
-  Inside->setContentsMargins(6, 6, 5, 5);
-  Inside->setSpacing(2);
+  Inside->setContentsMargins(7, 6, 6, 6);
+  Inside->setSpacing(4);
   frames->addWidget(Box);
   return Inside;
 }
@@ -144,16 +144,20 @@ void OptionsPanel::BuildCommands() {
   }
 }
 
+/// Navy satin, in the shade of the table's edge.
+void OptionsPanel::paintEvent(QPaintEvent*) {
+  QPainter Painter(this);
+  DrawNavy(Painter, rect());
+  constexpr int Edge = Pixels(StripWidth), Deep = 10;  // px
+  QLinearGradient Shadow({Edge - Deep, 0}, {Edge, 0});
+  Shadow.setColorAt(0, Thin(Shade, 0));
+  Shadow.setColorAt(1, Thin(Shade, 0.6));
+  Painter.fillRect(Edge - Deep, 0, Deep, height(), Shadow);
+  Painter.fillRect(Edge - 1, 0, 1, height(), Brass);
+}
+
 void OptionsPanel::ColourControls() {
   FixButtonColours(*this);
-  for (QWidget* List : std::initializer_list<QWidget*>{cboDiceColor, cboDiceColor->view(), lstSkin}) {
-    SetColours(*List, {{QPalette::Text, ListText},
-                       {QPalette::ButtonText, ListText},
-                       {QPalette::Base, ListGround},
-                       {QPalette::Button, ListGround},
-                       {QPalette::Highlight, ListText},  // the panel's own colour would look like a hole
-                       {QPalette::HighlightedText, ListGround}});
-  }
   // A style sheet keeps the panel's colours from being inherited.
   for (auto* Option : findChildren<QRadioButton*>()) Option->setPalette(palette());
   for (auto* Option : findChildren<QCheckBox*>()) Option->setPalette(palette());

@@ -57,6 +57,9 @@ class OptionsPanel : public QWidget {
   /// What the list of the dice has changed to: the toolkit tells no listener.
   void told(const QString& Text);
 
+ protected:
+  void paintEvent(QPaintEvent* Event) override;
+
  private:
   QVBoxLayout* AddFrame(const QString& Caption);
   void BuildSwitches();

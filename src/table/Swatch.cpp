@@ -2,8 +2,7 @@
 
 #include <QPainter>
 
-#include "widgets/Colours.h"
-#include "widgets/FocusRing.h"
+#include "widgets/Materials.h"
 #include "widgets/TickBox.h"
 
 namespace blunko {
@@ -16,9 +15,15 @@ Swatch::Swatch(const QColor& Colour, QWidget* Parent) : QAbstractButton(Parent),
 void Swatch::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
   Painter.setRenderHint(QPainter::Antialiasing);
-  Painter.setPen(QPen(QColor(60, 60, 60), 1));
+  const QRectF Field = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+  Painter.setPen(QPen(Brass, 1));
   Painter.setBrush(colour);
-  Painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+  Painter.drawRoundedRect(Field, 3, 3);
+  // Enamel: a rim in the light and in the shade.
+  Painter.setPen(QPen(Thin(Qt::white, 0.45), 1));
+  Painter.drawLine(QPointF(3, 1.5), QPointF(width() - 3, 1.5));
+  Painter.setPen(QPen(Thin(Shade, 0.3), 1));
+  Painter.drawLine(QPointF(3, height() - 1.5), QPointF(width() - 3, height() - 1.5));
   if (hasFocus()) DrawFocusRing(Painter, rect(), 2);
   if (isChecked()) DrawTick(Painter, QRectF(rect()), BestGround(colour));
 }

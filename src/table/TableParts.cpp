@@ -8,6 +8,7 @@
 #include "engine/TableControls.h"
 #include "widgets/Fonts.h"
 #include "widgets/FormBuilder.h"
+#include "widgets/Materials.h"
 #include "widgets/Twips.h"
 
 namespace blunko {
@@ -25,7 +26,7 @@ constexpr std::array<int, 6> MarkerLeft{603, 1503, 2388, 3288, 4188, 5073};
 constexpr int MarkerTop = 300, MarkerSide = 50;  // the first one is 45 wide: three pixels, too
 constexpr int DividerTop = 120, DividerWidth = 75, DividerHeight = 870;
 
-/// Draws one of the numbered bitmaps in its top left corner.
+/// Draws one of the numbered bitmaps in its top left corner, smaller where it has no room.
 class BitmapBox : public QWidget {
  public:
   BitmapBox(int Number, Bitmaps& Pictures, QWidget* Parent) : QWidget(Parent), number(Number), bitmaps(Pictures) {
@@ -33,11 +34,43 @@ class BitmapBox : public QWidget {
   }
 
  protected:
-  void paintEvent(QPaintEvent*) override { QPainter(this).drawPixmap(0, 0, bitmaps.Get(number, devicePixelRatioF())); }
+  void paintEvent(QPaintEvent*) override {
+    const QPixmap& Picture = bitmaps.Get(number, devicePixelRatioF());
+    QPainter(this).drawPixmap(QRectF(QPointF(), Picture.deviceIndependentSize().boundedTo(size())), Picture,
+                              Picture.rect());
+  }
 
  private:
   int number;
   Bitmaps& bitmaps;
+};
+
+/// The frame of the trays.
+class FrameBox : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    if (drawn.devicePixelRatio() != devicePixelRatioF() || drawn.isNull()) drawn = TrayFrame(devicePixelRatioF());
+    QPainter(this).drawPixmap(0, 0, drawn);
+  }
+
+ private:
+  QPixmap drawn;
+};
+
+/// A mark with the lamp that burns round it.
+class MarkBox : public BitmapBox {
+ public:
+  MarkBox(QWidget* Lamp, Bitmaps& Pictures, QWidget* Parent) : BitmapBox(MarkerBitmap, Pictures, Parent), lamp(Lamp) {}
+  void setVisible(bool Visible) override {
+    lamp->setVisible(Visible);
+    BitmapBox::setVisible(Visible);
+  }
+
+ private:
+  QWidget* lamp;
 };
 
 }  // namespace
@@ -65,11 +98,12 @@ void TableParts::PlaceTrays() {
   // A little wider than the window. The shipped pictures have just twice this size, in which they are quickly decoded.
   Image1 =
       Placed(Make<StretchedPicture>(picGameTray, QStringLiteral("Image1")), TwipsRect(0, 0, TableWidth, WindowHeight));
-  const auto Tray = [this](const QString& Name, int Top, bool HasTrayAbove) {
-    return Placed(Make<DiceTray>(picGameTray, Name, HasTrayAbove), TwipsRect(TrayLeft, Top, TrayWidth, TrayHeight));
+  Placed(Make<FrameBox>(picGameTray, QStringLiteral("picTrayFrame")), QRect(0, 0, 391, 200));
+  const auto Tray = [this](const QString& Name, int Top, int Sunk) {
+    return Placed(Make<DiceTray>(picGameTray, Name, Sunk), TwipsRect(TrayLeft, Top, TrayWidth, TrayHeight));
   };
-  picTray1 = Tray(QStringLiteral("picTray1"), Tray1Top, false);
-  picTray2 = Tray(QStringLiteral("picTray2"), Tray2Top, true);
+  picTray1 = Tray(QStringLiteral("picTray1"), Tray1Top, 0);
+  picTray2 = Tray(QStringLiteral("picTray2"), Tray2Top, 0);
   SetName(*picGameTray, QStringLiteral("Table"));
   SetName(*picTray1, QStringLiteral("Dice on the table"));
   SetName(*picTray2, QStringLiteral("Dice set aside"));
@@ -79,8 +113,9 @@ void TableParts::PlaceTrays() {
                                std::ref(Pictures));
       Picture1[Index < 10 ? i : 6 + i] = Placed(Box, TwipsRect(DieBoxLeft[i], DieTop, DieSide, DieSide));
     }
-    auto* Mark = Make<SvgBox>(picGameTray, QStringLiteral("picMarker(%1)").arg(i), QStringLiteral(":/dice/199.svg"));
-    Mark->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto* Lamp = Make<BitmapBox>(picGameTray, QStringLiteral("picLamp(%1)").arg(i), LampBitmap, std::ref(Pictures));
+    Placed(Lamp, QRect(Pixels(MarkerLeft[i]) - 21, 12, 45, 44));
+    auto* Mark = Make<MarkBox>(picGameTray, QStringLiteral("picMarker(%1)").arg(i), Lamp, std::ref(Pictures));
     SetName(*Mark, QStringLiteral("Mark over die %1").arg(i + 1));
     picMarker[i] =
         Placed(Mark, QRect(Pixels(MarkerLeft[i]), Pixels(MarkerTop), Pixels(MarkerSide), Pixels(MarkerSide)));
@@ -88,7 +123,7 @@ void TableParts::PlaceTrays() {
   pctDivider = Placed(Make<BitmapBox>(picTray2, QStringLiteral("pctDivider"), DividerBitmap, std::ref(Pictures)),
                       TwipsRect(0, DividerTop, DividerWidth, DividerHeight));
   SetName(*pctDivider, QStringLiteral("Divider"));
-  picSampleDice = Tray(QStringLiteral("picSampleDice"), SampleTop, false);
+  picSampleDice = Tray(QStringLiteral("picSampleDice"), SampleTop, Pixels(SampleTop - Tray2Top));
   PlaceCover();
 }
 
@@ -96,31 +131,35 @@ void TableParts::PlaceTrays() {
 void TableParts::PlaceCover() {
   auto* lblSampleDice = MakeText(picSampleDice, QStringLiteral("lblSampleDice"), QStringLiteral("(Sample Dice)"),
                                  FontOf(Typeface::Verdana, 11.25, true));
-  lblSampleDice->setAutoFillBackground(true);
   // Dark blue letters need a light ground on every set's colour.
-  SetColours(*lblSampleDice, {{QPalette::Window, QColor(232, 238, 250)}, {QPalette::WindowText, QColor(0, 0, 128)}});
-  Placed(lblSampleDice, QRect(picSampleDice->width() / 2 - 75, picSampleDice->height() / 2 - 13, 150, 26));
+  lblSampleDice->setStyleSheet(QStringLiteral("background: %1; color: %2; border: 1px solid %3; border-radius: 3px;")
+                                   .arg(Paper.name(), PaperInk.name(), Brass.name()));
+  Placed(lblSampleDice, QRect(105, 11, 150, 26));
 }
 
 void TableParts::PlaceButtons() {
   const auto Add = [this](const char* Name, const QString& Caption, const QRect& Place) {
     return Placed(Make<ButtonPlus>(picGameTray, QLatin1String(Name), Caption), Place);
   };
-  ARCmdNewGame = Add("ARCmdNewGame", QStringLiteral("New Game"), QRect(108, 162, 175, 37));
-  cmdRoll = Add("cmdRoll", QStringLiteral("Roll Dice"), QRect(13, 162, 175, 37));
-  cmdPassDice = Add("cmdPassDice", QStringLiteral("Pass Dice"), QRect(203, 162, 175, 37));
-  for (ButtonPlus* Big : {ARCmdNewGame, cmdRoll, cmdPassDice}) Big->setFont(FontOf(Typeface::Verdana, 11.25, true));
-  cmdOptions = Add("cmdOptions", QStringLiteral("Options"), QRect(13, 464, 115, 36));
+  ARCmdNewGame = Add("ARCmdNewGame", QStringLiteral("New Game"), QRect(108, 163, 175, 37));
+  cmdRoll = Add("cmdRoll", QStringLiteral("Roll Dice"), QRect(12, 163, 175, 37));
+  cmdPassDice = Add("cmdPassDice", QStringLiteral("Pass Dice"), QRect(204, 163, 175, 37));
+  for (ButtonPlus* Big : {ARCmdNewGame, cmdRoll, cmdPassDice}) {
+    Big->setFont(FontOf(Typeface::Verdana, 11.25, true));
+    Big->setHero();
+  }
+  cmdOptions = Add("cmdOptions", QStringLiteral("Options"), QRect(12, 464, 115, 36));
   cmdHighRollers = Add("cmdHighRollers", QStringLiteral("High Rollers"), QRect(138, 464, 115, 36));
-  cmdExit = Add("cmdExit", QStringLiteral("Exit"), QRect(263, 464, 115, 36));
+  cmdExit = Add("cmdExit", QStringLiteral("Exit"), QRect(264, 464, 115, 36));
 }
 
 void TableParts::PlaceLabels() {
   const auto Text = [this](const char* Name, const QString& Caption, QRect Place, double Points, bool Bold,
                            Qt::Alignment Side) {
-    return Placed(MakeText<FitLabel>(picGameTray, QLatin1String(Name), Caption, FontOf(Typeface::Verdana, Points, Bold),
-                                     Side | Qt::AlignVCenter),
-                  Place);
+    auto* Made = MakeText<FitLabel>(picGameTray, QLatin1String(Name), Caption, FontOf(Typeface::Verdana, Points, Bold),
+                                    Side | Qt::AlignVCenter);
+    Made->setPicture(Image1);
+    return Placed(Made, Place);
   };
   lblStatus = Text("lblStatus", {}, QRect(5, Pixels(StatusTop), 381, 30), 15.75, false, Qt::AlignHCenter);
   lblLastRoll = Text("lblLastRoll", {}, QRect(5, 237, 381, 23), 11.25, true, Qt::AlignHCenter);
@@ -135,6 +174,7 @@ void TableParts::PlaceLabels() {
   const auto MenuWord = [this](const char* Name, const QString& Caption, const QRect& Place) {
     auto* Made = Placed(Make<WordButton>(picGameTray, QLatin1String(Name), Caption), Place);
     Made->setFont(FontOf(Typeface::Verdana, 8.25));
+    Made->setPicture(Image1);
     return Made;
   };
   lblMnuGame = MenuWord("lblMnuGame", QStringLiteral("Game"), QRect(6, 0, 50, 20));

@@ -6,8 +6,8 @@
 #include <QPalette>
 #include <QScreen>
 
-#include "widgets/Colours.h"
 #include "widgets/FormBuilder.h"
+#include "widgets/Materials.h"
 #include "widgets/Twips.h"
 
 namespace blunko {
@@ -20,9 +20,10 @@ constexpr int FirstRow = 1380, RowPitch = 420, RowHeight = 375;  // twips
 const QColor SeatOnTurn(0x30, 0xFF, 0x30);
 const QColor OtherSeat(Qt::black);
 const QColor Heading(Qt::yellow);
-const QColor Plate(0, 28, 84);       // under the seat on turn
-constexpr int ScoreEdge = 2415;      // twips: where the scores end, as their heading does
-constexpr int Margin = 5, Mark = 4;  // px
+const QColor Strip(160, 206, 252);  // under the others
+constexpr int ScoreEdge = 2415;     // twips: where the scores end, as their heading does
+constexpr int HeadHeight = 84, RowStrip = 23, Margin = 8, Mark = 4;  // px
+constexpr qreal Round = 3.5, Wood = 3;                               // px
 
 }  // namespace
 
@@ -50,6 +51,7 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
       Text(QStringLiteral("Label2"), QStringLiteral("Player"), TwipsRect(240, 960, 1095, 375), Qt::AlignLeft, Heading);
   Label3 =
       Text(QStringLiteral("Label3"), QStringLiteral("Score"), TwipsRect(1800, 960, 615, 375), Qt::AlignRight, Heading);
+  for (FitLabel* Head : {lblGoal, label_break_in, Label2, Label3}) SetColours(*Head, {{QPalette::Window, Navy}});
   for (FitLabel* Underlined : {Label2, Label3}) {
     QFont Font = Underlined->font();
     Font.setUnderline(true);
@@ -85,6 +87,9 @@ void frmScorePad::UpdateActivePlayer() {
     lblPlayer[i]->setForeColor(Ink);
     lblScore[i]->setText(QString::number(m.PlayerScore[i]));
     lblScore[i]->setForeColor(Ink);
+    for (FitLabel* Label : {lblPlayer[i], lblScore[i]}) {
+      SetColours(*Label, {{QPalette::Window, i == m.CurrentPlayer ? Navy : Strip}});
+    }
     const bool SaysSo = m.PlayerIsComputer[i] && m.PlayerName[i] != "Computer";
     SetName(*lblPlayer[i], QString::fromStdString(m.PlayerName[i]) + QStringLiteral(", %1").arg(m.PlayerScore[i]) +
                                (i == m.CurrentPlayer ? ", on turn" : "") + (SaysSo ? ", computer" : ""));
@@ -92,21 +97,52 @@ void frmScorePad::UpdateActivePlayer() {
   update();
 }
 
-/// A line under the headings, and a plate with an arrow for the seat on turn, which is seen without its green too.
+/// A navy plate for the headings, a strip for each seat, a sunk plate with an arrow for the one on turn, which is seen
+/// without its green too, and a frame of walnut.
 void frmScorePad::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
   Painter.setRenderHint(QPainter::Antialiasing);
-  const QRectF Line(Margin, Pixels(FirstRow) - Margin, width() - 2 * Margin, 1);
-  Painter.fillRect(Line, QColor(255, 255, 0, 150));
-  if (m.CurrentPlayer >= m.NumPlayers) return;
-  const QRectF Row(Margin, Pixels(FirstRow + RowPitch * m.CurrentPlayer) - 3, width() - 2 * Margin,
-                   Pixels(RowHeight) - 2);
   Painter.setPen(Qt::NoPen);
-  Painter.setBrush(Plate);
-  Painter.drawRoundedRect(Row, Margin, Margin);
-  Painter.setBrush(SeatOnTurn);
-  const QPointF Tip(Row.left() + 2 + Mark * 1.5, Row.center().y());
-  Painter.drawPolygon(QPolygonF{Tip, Tip + QPointF(-Mark * 1.5, -Mark), Tip + QPointF(-Mark * 1.5, Mark)});
+  const QRectF Head(0, 0, width(), HeadHeight);
+  QLinearGradient Fall({0, HeadHeight}, {width() * 0.6, height() * 1.0});
+  Fall.setColorAt(0, FormBlue.lighter(104));
+  Fall.setColorAt(1, FormBlue.darker(107));
+  Painter.fillRect(rect(), Fall);
+  DrawNavy(Painter, Head);
+  Painter.fillRect(QRectF(0, HeadHeight, width(), 1), Brass);
+  Painter.fillRect(QRectF(0, HeadHeight + 1, width(), 2), Thin(Shade, 0.35));
+  for (int i = 0; i < m.NumPlayers; ++i) {
+    const QRectF Row(Margin, Pixels(FirstRow + RowPitch * i) - 4, width() - 2 * Margin, RowStrip);
+    if (i == m.CurrentPlayer) {
+      DrawPlate(Painter, Row, Round, Navy);
+      Painter.setPen(Qt::NoPen);
+      Painter.setBrush(SeatOnTurn);
+      const QPointF Tip(Row.left() + 2 + Mark * 1.5, Row.center().y());
+      Painter.drawPolygon(QPolygonF{Tip, Tip + QPointF(-Mark * 1.5, -Mark), Tip + QPointF(-Mark * 1.5, Mark)});
+      continue;
+    }
+    Painter.setBrush(Thin(Shade, 0.3));
+    Painter.drawRoundedRect(Row.translated(0.5, 1.2), Round, Round);
+    QLinearGradient Light(Row.topLeft(), Row.bottomRight());
+    Light.setColorAt(0, Strip.lighter(108));
+    Light.setColorAt(1, Strip.darker(106));
+    Painter.setBrush(Light);
+    Painter.drawRoundedRect(Row, Round, Round);
+    Painter.fillRect(QRectF(Row.left() + Round, Row.top(), Row.width() - 2 * Round, 1), Thin(Qt::white, 0.5));
+  }
+  for (const QRectF& Rail : {QRectF(0, 0, Wood, height()),
+                             {width() - Wood, 0, Wood, height() * 1.0},
+                             {0, height() - Wood, width() * 1.0, Wood}}) {
+    Painter.fillRect(Rail, Walnut);
+  }
+  Painter.setBrush(Qt::NoBrush);
+  Painter.setPen(WalnutDark);
+  Painter.drawPolyline(QPolygonF{{0.5, 0}, {0.5, height() - 0.5}, {width() - 0.5, height() - 0.5}, {width() - 0.5, 0}});
+  Painter.setPen(Thin(Brass, 0.9));
+  Painter.drawPolyline(QPolygonF{{Wood + 0.5, 0},
+                                 {Wood + 0.5, height() - Wood - 0.5},
+                                 {width() - Wood - 0.5, height() - Wood - 0.5},
+                                 {width() - Wood - 0.5, 0}});
 }
 
 QList<QWidget*> frmScorePad::Rows() const {

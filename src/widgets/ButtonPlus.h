@@ -5,8 +5,8 @@
 
 namespace blunko {
 
-/// The button of all forms: a rounded face in its back colour, with a look of its own for hover, press, focus and
-/// disabled; these differ in shape and light, not in colour alone. Its caption shrinks rather than being cut.
+/// The button of all forms: a navy body with a hint of its back colour, and a look of its own for hover, press, focus
+/// and disabled; these differ in shape and light, not in colour alone. Its caption shrinks rather than being cut.
 class ButtonPlus : public QPushButton {
   Q_OBJECT
 
@@ -14,6 +14,10 @@ class ButtonPlus : public QPushButton {
   explicit ButtonPlus(const QString& Caption, QWidget* Parent = nullptr);
 
   void setBackColor(const QColor& Colour);
+  /// The whole body in a colour.
+  void setBody(const QColor& Colour);
+  /// One of the few that a window is there for.
+  void setHero();
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
@@ -23,13 +27,12 @@ class ButtonPlus : public QPushButton {
   void keyPressEvent(QKeyEvent* Event) override;
 
  private:
-  void DrawFace(QPainter& Painter, const QRectF& Face) const;
-
-  QColor backColor;
+  QColor body;
+  bool hero = false;
 };
 
-/// Buttons keep their own colours on a desktop with a theme, as long as it is a light one; else every button of the
-/// form gets the system's button-face colour.
+/// Buttons keep their own colours on a desktop with a theme; else every button of the form gets the system's
+/// button-face colour.
 void FixButtonColours(QWidget& Form);
 
 }  // namespace blunko

@@ -2,12 +2,14 @@
 
 #include <QPainter>
 
+#include "widgets/Pictures.h"
+
 namespace blunko {
 
 namespace {
 
 const QColor LoudRed(176, 0, 24);
-constexpr int Side = 3;  // px, for the halo
+constexpr int Side = 3;  // px, for the edges of the letters
 
 }  // namespace
 
@@ -26,12 +28,13 @@ void FitLabel::setLoud(bool Loud) {
 void FitLabel::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
   const QRectF Room = QRectF(contentsRect()).adjusted(Side, 0, -Side, 0);
-  QFont Letters = font();
+  QFont Font = font();
   if (loud) {
-    Letters.setPixelSize(Letters.pixelSize() * 5 / 4);
-    Letters.setBold(true);
+    Font.setPixelSize(Font.pixelSize() * 5 / 4);
+    Font.setBold(true);
   }
-  words.Draw(Painter, Room, alignment(), text(), Letters, loud ? LoudRed : foreColor);
+  const QColor Ink = loud ? LoudRed : foreColor;
+  words.Draw(Painter, Room, alignment(), text(), Font, Ink, GroundUnder(*this, ground, Ink));
 }
 
 }  // namespace blunko

@@ -2,9 +2,11 @@
 
 #include <QLabel>
 
-#include "widgets/HaloText.h"
+#include "widgets/Letters.h"
 
 namespace blunko {
+
+class StretchedPicture;
 
 /// A label on a picture: no background, and its text shrinks and narrows rather than being cut. Its colour is
 /// its own.
@@ -16,6 +18,8 @@ class FitLabel : public QLabel {
 
   void setForeColor(const QColor& Colour);
   QColor ForeColor() const { return foreColor; }
+  /// What it lies on; without one, its palette's ground.
+  void setPicture(StretchedPicture* Picture) { ground = Picture; }
   /// Larger letters in a colour that cries out, for a moment.
   void setLoud(bool Loud);
 
@@ -24,8 +28,9 @@ class FitLabel : public QLabel {
 
  private:
   QColor foreColor = Qt::black;
+  StretchedPicture* ground = nullptr;
   bool loud = false;
-  HaloText words;
+  Letters words;
 };
 
 }  // namespace blunko

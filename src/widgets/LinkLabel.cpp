@@ -2,8 +2,8 @@
 
 #include <QPainter>
 
-#include "widgets/FocusRing.h"
 #include "widgets/Fonts.h"
+#include "widgets/Materials.h"
 
 namespace blunko {
 

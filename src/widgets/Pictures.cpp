@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "widgets/JpegCheck.h"
+#include "widgets/Materials.h"
 
 namespace blunko {
 
@@ -52,25 +53,25 @@ const QPixmap& Bitmaps::Get(int Number, qreal Scale) {
 const QPixmap& Bitmaps::ShadowOf(int Number, qreal Scale) {
   const auto [Entry, New] = shadows.try_emplace({Number, Scale});
   if (!New) return Entry->second;
-  constexpr int Blur = 3;  // px
   const QPixmap& Picture = Get(Number, Scale);
   const QSizeF Size = Picture.deviceIndependentSize() + QSizeF(ShadowRoom, ShadowRoom);
-  QImage Shadow((Size * Scale).toSize(), QImage::Format_ARGB32_Premultiplied);
-  Shadow.setDevicePixelRatio(Scale);
-  Shadow.fill(Qt::transparent);
-  QPainter Painter(&Shadow);
-  Painter.drawPixmap(QPointF(1.5, 2.5), Picture);
-  Painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-  Painter.fillRect(QRectF(QPointF(), Size), QColor(0, 0, 0, 130));
-  Painter.end();
-  const QSize Full = Shadow.size();
-  for (int Pass = 0; Pass < 2; ++Pass) {  // smaller and large again is a blur
-    Shadow = Shadow.scaled(Full / (Blur * Scale), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                 .scaled(Full, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  QPixmap& Both = Entry->second;
+  Both = QPixmap((Size * Scale).toSize());
+  Both.setDevicePixelRatio(Scale);
+  Both.fill(Qt::transparent);
+  // A wide one, and one where the die touches the felt.
+  for (const auto& [Place, Blur, Strength] : {std::tuple(QPointF(7, 8), 4.0, 0.66), {QPointF(2.4, 3.2), 1.6, 0.62}}) {
+    QImage Shadow(Both.size(), QImage::Format_ARGB32_Premultiplied);
+    Shadow.setDevicePixelRatio(Scale);
+    Shadow.fill(Qt::transparent);
+    QPainter Painter(&Shadow);
+    Painter.drawPixmap(Place, Picture);
+    Painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    Painter.fillRect(QRectF(QPointF(), Size), Thin(Qt::black, Strength));
+    Painter.end();
+    QPainter(&Both).drawImage(QPoint(), Blurred(Shadow, Blur * Scale));
   }
-  Entry->second = QPixmap::fromImage(Shadow);
-  Entry->second.setDevicePixelRatio(Scale);
-  return Entry->second;
+  return Both;
 }
 
 SvgBox::SvgBox(const QString& Resource, QWidget* Parent)
@@ -111,6 +112,26 @@ void StretchedPicture::Take() {
 void StretchedPicture::showEvent(QShowEvent*) {
   if (decoding.valid()) decoding.wait_for(LongestWait);
   Take();
+}
+
+QColor StretchedPicture::LeastContrast(const QRect& Part, const QColor& Ink) const {
+  constexpr int Block = 8;  // px, over which the eye takes a mean
+  const qreal Dots = static_cast<qreal>(drawn.width()) / width();
+  const QImage Blocks =
+      drawn.copy(QRectF(QPointF(Part.topLeft()) * Dots, QSizeF(Part.size()) * Dots).toRect())
+          .toImage()
+          .scaled((Part.size() / Block).expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  QColor Least = Blocks.pixelColor(0, 0);
+  for (int i = 1; i < Blocks.width() * Blocks.height(); ++i) {
+    const QColor Here = Blocks.pixelColor(i % Blocks.width(), i / Blocks.width());
+    if (Contrast(Here, Ink) < Contrast(Least, Ink)) Least = Here;
+  }
+  return Least;
+}
+
+QColor GroundUnder(const QWidget& Label, StretchedPicture* Picture, const QColor& Ink) {
+  if (Picture == nullptr || Picture->IsEmpty()) return Label.palette().color(Label.backgroundRole());
+  return Picture->LeastContrast(Label.geometry().translated(-Picture->pos()) & Picture->rect(), Ink);
 }
 
 void StretchedPicture::paintEvent(QPaintEvent*) {

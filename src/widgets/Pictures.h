@@ -16,6 +16,8 @@ namespace blunko {
 
 /// The divider among the numbered bitmaps; those before it are the dice.
 inline constexpr int DividerBitmap = 198;
+inline constexpr int MarkerBitmap = 199;
+inline constexpr int LampBitmap = 200;  ///< burns round a mark
 
 /// Renders an SVG of the program's resources at its own logical size, or at `Size`, for a screen of the given scale.
 /// A null picture when there is no such resource.
@@ -25,9 +27,9 @@ QPixmap RenderSvg(const QString& Resource, qreal Scale, QSize Size = {});
 class Bitmaps {
  public:
   const QPixmap& Get(int Number, qreal Scale);
-  /// The soft shadow of what the bitmap shows, lit from above; `ShadowRoom` px wider and higher than it.
+  /// The soft shadow of what the bitmap shows, thrown to the lower right; `ShadowRoom` px wider and higher than it.
   const QPixmap& ShadowOf(int Number, qreal Scale);
-  static constexpr int ShadowRoom = 6;
+  static constexpr int ShadowRoom = 18;
 
  private:
   std::map<std::pair<int, qreal>, QPixmap> rendered, shadows;
@@ -61,6 +63,9 @@ class StretchedPicture : public QWidget {
   /// Shows the file at `Path`, anew if it was replaced since. An empty path shows nothing, and so does a file that is
   /// no picture or costs too much.
   void Load(const QString& Path);
+  bool IsEmpty() const { return drawn.isNull(); }
+  /// Of what is drawn in a part of it, the colour that the ink stands out from least.
+  QColor LeastContrast(const QRect& Part, const QColor& Ink) const;
 
  protected:
   void showEvent(QShowEvent* Event) override;
@@ -76,5 +81,8 @@ class StretchedPicture : public QWidget {
   QPixmap drawn;
   QThreadPool decoders;  ///< the last member: the first to go, when it has come to its end
 };
+
+/// The colour under a label that the ink stands out from least: of the picture that it lies on, else of its palette.
+QColor GroundUnder(const QWidget& Label, StretchedPicture* Picture, const QColor& Ink);
 
 }  // namespace blunko

@@ -2,15 +2,13 @@
 
 #include <QPainter>
 
-#include "widgets/FocusRing.h"
+#include "widgets/Materials.h"
 
 namespace blunko {
 
 namespace {
 
 constexpr int Side = 15;  // px, of the square
-const QColor Frame(40, 40, 60);
-const QColor Tick(0, 0, 128);
 
 }  // namespace
 
@@ -27,10 +25,10 @@ void TickBox::paintEvent(QPaintEvent*) {
     constexpr qreal Around = FocusRingWidth + 0.5;
     DrawFocusRing(Painter, Square.adjusted(-Around, -Around, Around, Around), FocusRingWidth);
   }
-  Painter.setPen(QPen(Frame, 1));
-  Painter.setBrush(isEnabled() && !isDown() ? Qt::white : QColor(222, 226, 234));
-  Painter.drawRect(Square);
-  if (isChecked()) DrawTick(Painter, QRectF(0, 0, Side, Side), isEnabled() ? Tick : Frame.lighter(200));
+  Painter.setPen(QPen(Mixed(Brass, WalnutDark, 0.3), 1));
+  Painter.setBrush(isEnabled() && !isDown() ? Paper : Paper.darker(115));
+  Painter.drawRoundedRect(Square, 2.5, 2.5);
+  if (isChecked()) DrawTick(Painter, QRectF(0, 0, Side, Side), isEnabled() ? PaperInk : Mixed(PaperInk, Paper, 0.5));
 }
 
 void DrawTick(QPainter& Painter, const QRectF& Place, const QColor& Colour) {

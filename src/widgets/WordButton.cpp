@@ -2,8 +2,8 @@
 
 #include <QPainter>
 
-#include "widgets/Colours.h"
-#include "widgets/FocusRing.h"
+#include "widgets/Materials.h"
+#include "widgets/Pictures.h"
 
 namespace blunko {
 
@@ -43,9 +43,7 @@ void WordButton::paintEvent(QPaintEvent*) {
   QColor Ink = foreColor;
   if (testAttribute(Qt::WA_ForceDisabled)) Ink.setAlphaF(0.5F);  // not faded together with a table that stands still
   const QRectF Room = QRectF(rect()).adjusted(FocusRingWidth, 0, -FocusRingWidth, 0);
-  if (!plain) return words.Draw(Painter, Room, Qt::AlignCenter, text(), font(), Ink);
-  Painter.setPen(Ink);
-  Painter.drawText(Room, Qt::AlignCenter, text());
+  words.Draw(Painter, Room, Qt::AlignCenter, text(), font(), Ink, GroundUnder(*this, ground, Ink));
 }
 
 }  // namespace blunko

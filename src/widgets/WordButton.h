@@ -2,9 +2,11 @@
 
 #include <QPushButton>
 
-#include "widgets/HaloText.h"
+#include "widgets/Letters.h"
 
 namespace blunko {
+
+class StretchedPicture;
 
 /// A button that is nothing but its words on a picture, like the table's labels: tinted under the mouse, with room for
 /// the focus around the letters.
@@ -15,8 +17,8 @@ class WordButton : public QPushButton {
   explicit WordButton(const QString& Caption, QWidget* Parent = nullptr);
 
   void setForeColor(const QColor& Colour);
-  /// Without a halo, for words on a plain ground.
-  void setPlain() { plain = true; }
+  /// What it lies on; without one, its palette's ground.
+  void setPicture(StretchedPicture* Picture) { ground = Picture; }
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
@@ -26,8 +28,8 @@ class WordButton : public QPushButton {
 
  private:
   QColor foreColor = Qt::black;
-  bool plain = false;
-  HaloText words;
+  StretchedPicture* ground = nullptr;
+  Letters words;
 };
 
 }  // namespace blunko

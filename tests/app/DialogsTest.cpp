@@ -10,7 +10,7 @@
 #include "app/frmWelcome.h"
 #include "tests/app/Run.h"
 #include "tests/table/TableForm.h"
-#include "widgets/Colours.h"
+#include "widgets/Materials.h"
 
 namespace blunko::test {
 

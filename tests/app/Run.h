@@ -23,6 +23,7 @@
 #include "tests/support/Place.h"
 #include "tests/support/Table.h"
 #include "widgets/Boxes.h"
+#include "widgets/Materials.h"
 
 namespace blunko::test {
 
@@ -85,7 +86,7 @@ inline void ExpectUsable(QWidget& Form, const QString& State = {}) {
       const QImage Seen = Form.grab(QRect(Part->mapTo(&Form, QPoint(-4, -4)), Part->size() + QSize(8, 8))).toImage();
       int Ringed = 0;
       for (int x = 0; x < Seen.width(); ++x) {
-        for (int y = 0; y < Seen.height(); ++y) Ringed += Seen.pixelColor(x, y) == QColor(255, 190, 64) ? 1 : 0;
+        for (int y = 0; y < Seen.height(); ++y) Ringed += Seen.pixelColor(x, y) == Gilt ? 1 : 0;
       }
       EXPECT_GE(Ringed, Part->width()) << "a ring shows the focus";
     }

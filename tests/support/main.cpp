@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "widgets/FocusRing.h"
+#include "widgets/Materials.h"
 
 // With the rings of the game, and outliving its windows as the game does.
 int main(int argc, char** argv) {

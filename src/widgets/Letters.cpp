@@ -1,0 +1,102 @@
+#include "widgets/Letters.h"
+
+#include <QFontMetricsF>
+#include <QImage>
+#include <QPainter>
+
+#include <cmath>
+
+#include "widgets/Fonts.h"
+#include "widgets/Materials.h"
+
+namespace blunko {
+
+namespace {
+
+constexpr qreal Narrowest = 0.85;  // letters are narrowed so far before they get smaller; the smallest even further
+constexpr double Plain = 7, Least = 4.5;  // contrasts: from the one on no edge, from the other on a hint of a shadow
+
+/// The part of black to white, 0 to 1, that a grey of the luminance has on the screen.
+double ShadeOf(double Luminance) {
+  return Luminance <= 0.0031308 ? Luminance * 12.92 : 1.055 * std::pow(Luminance, 1 / 2.4) - 0.055;
+}
+
+/// How strong a light, or a dark, behind the letters must be to give them the contrast on the ground.
+double StrengthFor(const QColor& Ink, const QColor& Ground) {
+  constexpr double Wanted = 6.8;  // the letters' own soft edges take some of it
+  const bool Dark = BestGround(Ink) == QColor(Qt::black);
+  const double Light = Luminance(Ink) + 0.05, Here = ShadeOf(Luminance(Ground));
+  const double There = ShadeOf(qBound(0.0, (Dark ? Light / Wanted : Light * Wanted) - 0.05, 1.0));
+  return qBound(0.0, Dark ? 1 - There / qMax(Here, 0.01) : (There - Here) / qMax(1 - Here, 0.01), 1.0);
+}
+
+}  // namespace
+
+void Letters::Draw(QPainter& Painter, const QRectF& Room, Qt::Alignment Side, const QString& Text, const QFont& Font,
+                   const QColor& Ink, const QColor& Ground) {
+  if (Text.trimmed().isEmpty()) return;
+  const QFont Fitted = FittedFont(Font, Text, Room.width() / Narrowest);
+  const QFontMetricsF Metrics(Fitted);
+  const qreal Needed = Metrics.horizontalAdvance(Text);
+  const qreal Stretch = qMin(1.0, Room.width() / Needed);
+
+  QPointF Start = Room.topLeft();
+  if (Side & Qt::AlignRight) Start.setX(Room.right() - Needed * Stretch);
+  if (Side & Qt::AlignHCenter) Start.setX(Room.center().x() - Needed * Stretch / 2);
+  // Smaller letters stand on the line of the others.
+  Start.ry() += Side & Qt::AlignVCenter ? (Room.height() - Metrics.height()) / 2 + Metrics.ascent()
+                                        : QFontMetricsF(Font).ascent();
+  const qreal Scale = Painter.device()->devicePixelRatioF();
+  Start = QPointF(qRound(Start.x() * Scale), qRound(Start.y() * Scale)) / Scale;
+  Painter.save();
+  Painter.translate(Start);
+  Painter.setFont(Fitted);
+  const auto Write = [&](const QColor& Colour) {
+    Painter.setPen(Colour);
+    Painter.drawText(QPointF(), Text);
+  };
+  const double Standing = Contrast(Ink, Ground);
+  const QColor Edge = BestGround(Ink);
+  if (Standing < Least) {
+    const Looks Now{Text, Fitted, Edge.rgb(), Stretch, Scale};
+    if (!(Now == drawn)) {
+      drawn = Now;
+      Render();
+    }
+    Painter.setOpacity(Ink.alphaF() * StrengthFor(Ink, Ground));
+    Painter.drawPixmap(QPointF(-Reach, -Reach - std::ceil(Metrics.ascent())), edge);
+    Painter.setOpacity(1);
+  }
+  Painter.scale(Stretch, 1);
+  if (Standing >= Least && Standing < Plain) {
+    Painter.translate(1, 1);
+    Write(Thin(Edge, 0.25 * Ink.alphaF()));
+    Painter.translate(-1, -1);
+  }
+  Write(Ink);
+  Painter.restore();
+}
+
+void Letters::Render() {
+  const QFontMetricsF Metrics(drawn.Font);
+  const QSizeF Size(Metrics.horizontalAdvance(drawn.Text) * drawn.Stretch + 2 * Reach,
+                    std::ceil(Metrics.ascent()) + Metrics.descent() + 2 * Reach);
+  QImage Picture((Size * drawn.Scale).toSize() + QSize(1, 1), QImage::Format_ARGB32_Premultiplied);
+  Picture.setDevicePixelRatio(drawn.Scale);
+  Picture.fill(Qt::transparent);
+  QPainter Painter(&Picture);
+  Painter.translate(Reach, Reach + std::ceil(Metrics.ascent()));
+  Painter.scale(drawn.Stretch, 1);
+  Painter.setFont(drawn.Font);
+  Painter.setPen(QColor(drawn.Edge));
+  Painter.drawText(QPointF(), drawn.Text);
+  Painter.end();
+  edge = QPixmap(Picture.size());
+  edge.setDevicePixelRatio(drawn.Scale);
+  edge.fill(Qt::transparent);
+  const QImage Soft = Blurred(Picture, 2.6 * drawn.Scale);
+  Painter.begin(&edge);
+  for (int Coat = 0; Coat < 12; ++Coat) Painter.drawImage(QPoint(), Soft);  // full strength next to the letters
+}
+
+}  // namespace blunko
