@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
+#include <QScreen>
 #include <QSessionManager>
 #include <QTime>
 
@@ -23,7 +24,6 @@
 #include "app/frmWelcome.h"
 #include "sound/SoundFiles.h"
 #include "table/DiceSets.h"
-#include "table/Strip.h"
 #include "widgets/Boxes.h"
 
 namespace blunko {
@@ -103,7 +103,7 @@ void Application::LoadForm() {
   Form = std::make_unique<frmMain>(Table, Clothes);
   speaker = new Announcer(Form.get());
   Form->ShowControls();
-  CentreOnScreen(*Form);
+  CentreFrame(*Form, Form->screen()->geometry());
   Rollers.LoadHighRollers();
 
   // The end of the session can be stopped only when it is asked for; later the program is told to end.
@@ -131,8 +131,9 @@ bool Application::eventFilter(QObject*, QEvent* Event) {
   return true;
 }
 
-/// The table has come up: a newcomer is greeted.
+/// The table has come up. It is put right where the manager hadn't told the frame, and a newcomer is greeted.
 void Application::Form_Activate() {
+  CentreFrame(*Form, Form->screen()->geometry());
   if (!Settings.ShowWelcome || !State.FirstActivate) return;
   State.FirstActivate = false;
   frmWelcome Welcome(InfoFile, Screen, Form.get());
@@ -153,11 +154,12 @@ void Application::Form_Resize() {
   if (State.ResizeBlocked || !State.ScorePadShown) return;
   frmScorePad& Pad = ScorePad();
   if (Form->isMinimized()) {
-    State.ScorePadLeft = To16Bits(Pad.x());
-    State.ScorePadTop = To16Bits(Pad.y());
+    const QPoint Corner = FramePlace(Pad).topLeft();
+    State.ScorePadLeft = To16Bits(Corner.x());
+    State.ScorePadTop = To16Bits(Corner.y());
     Pad.hide();
   } else {
-    Pad.move(State.ScorePadLeft, State.ScorePadTop);
+    PlaceFrame(Pad, {State.ScorePadLeft, State.ScorePadTop});
     Pad.showNormal();  // the window manager has minimised it too, and would take the table along once more
   }
 }
@@ -199,9 +201,9 @@ void Application::UpdateActivePlayer() {
 
 void Application::ShowScorePad() {
   frmScorePad& Pad = ScorePad();
-  Pad.hide();
   Pad.SetPosition();
   Pad.show();
+  Pad.raise();
 }
 
 void Application::FocusTable() { Form->activateWindow(); }

@@ -215,7 +215,7 @@ void HelpWindow::AddPage(const QString& Name) {
 
 /// To the left of the table, where the score pad isn't, or to its right; over it only on a screen without room.
 void HelpWindow::PlaceBeside(const QWidget* Table) {
-  const QRect Screen = Table->screen()->availableGeometry(), Frame = Table->frameGeometry();
+  const QRect Screen = Table->screen()->availableGeometry(), Frame = FramePlace(*Table->window());
   const QMargins Around = FrameOf(*Table->window());
   const int LeftRoom = Frame.left() - Screen.left() - Gap, RightRoom = Screen.right() - Frame.right() - Gap;
   const int Sides = Around.left() + Around.right(), UpAndDown = Around.top() + Around.bottom();

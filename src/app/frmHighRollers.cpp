@@ -81,7 +81,7 @@ QPlainTextEdit* frmHighRollers::MakeList(const QString& Name, const QString& Des
   return Made;
 }
 
-void frmHighRollers::Place() { PlaceFrame(*this, table->pos()); }
+void frmHighRollers::Place() { PlaceFrame(*this, FramePlace(*table).topLeft()); }
 
 void frmHighRollers::ShowHighRollerLists() {
   rollers.LoadHighRollers();

@@ -181,7 +181,9 @@ void frmNewGame::Form_Activate() {
   cmdPlay->setFocus();
 }
 
-void frmNewGame::Place() { PlaceFrame(*this, table->pos() + QPoint(Pixels(OffsetLeft), Pixels(OffsetTop))); }
+void frmNewGame::Place() {
+  PlaceFrame(*this, FramePlace(*table).topLeft() + QPoint(Pixels(OffsetLeft), Pixels(OffsetTop)));
+}
 
 void frmNewGame::optNumPlayers_Click(int Index) {
   const GameSetup Layout = SetupForPlayers(Index + 1);

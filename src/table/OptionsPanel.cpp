@@ -10,7 +10,6 @@
 #include <QVBoxLayout>
 
 #include "table/DiceSets.h"
-#include "table/Strip.h"
 #include "table/frmMain.h"
 #include "widgets/Fonts.h"
 #include "widgets/FormBuilder.h"
@@ -180,7 +179,7 @@ void OptionsPanel::Open() {
   LoadOptionControls();
   show();
   ShowWholeRows();
-  OpenStrip(form, grab(QRect(0, 0, Pixels(StripWidth), height())));
+  strip.Open(grab(QRect(0, 0, Pixels(StripWidth), height())));
   form.ShowControls();
   ARCmdSaveOptions->setFocus();
 }
@@ -294,7 +293,7 @@ void OptionsPanel::RevertOptions() {
 
 void OptionsPanel::Close() {
   form.ShowControls();
-  CloseStrip(form);
+  strip.Close();
   hide();
   form.setFocus();
 }

@@ -8,6 +8,7 @@
 #include "storage/GameSettings.h"
 #include "table/Backgrounds.h"
 #include "table/Dress.h"
+#include "table/Strip.h"
 #include "table/Swatch.h"
 #include "widgets/ButtonPlus.h"
 
@@ -80,6 +81,7 @@ class OptionsPanel : public QWidget {
   void ShowSet(const DiceSet& Set, QRgb Colour);
 
   frmMain& form;
+  Strip strip{form};
   Game& game;
   GameSettings& settings;
   Backgrounds backgrounds;

@@ -1,7 +1,10 @@
 #include "table/Strip.h"
 
+#include <QMouseEvent>
 #include <QPainter>
-#include <QScreen>
+#include <QWindow>
+
+#include <utility>
 
 #include "table/frmMain.h"
 #include "widgets/PlacedDialog.h"
@@ -11,38 +14,58 @@ namespace blunko {
 
 namespace {
 
-/// The left edge moves, everything on the table stays where it is on the screen. `Whole`: the window in its new size.
-/// Nothing is painted before the window has it.
-void SetStripWidth(frmMain& Form, int Width, const QImage& Whole) {
-  HoldRightEdge(Form, Whole);
-  const QRect Place = Form.geometry().adjusted(Form.picGameTray->x() - Width, 0, 0, 0);
-  Form.setMinimumSize(Form.minimumSize().boundedTo(Place.size()));
-  Form.setMaximumSize(Form.maximumSize().expandedTo(Place.size()));
-  Form.setGeometry(Place);
-  Form.setFixedSize(Place.size());
-  Form.picGameTray->move(Width, 0);
-  AwaitSize(Form);
-}
+constexpr int Settling = 1000;  // ms
 
 }  // namespace
 
-void OpenStrip(frmMain& Form, const QPixmap& Picture) {
+void Strip::Open(const QPixmap& Picture) {
   const int Width = Picture.deviceIndependentSize().toSize().width();
-  QImage Whole((Form.size() + QSize(Width, 0)) * Form.devicePixelRatioF(), QImage::Format_RGB32);
-  Whole.setDevicePixelRatio(Form.devicePixelRatioF());
+  QImage Whole((form.size() + QSize(Width, 0)) * form.devicePixelRatioF(), QImage::Format_RGB32);
+  Whole.setDevicePixelRatio(form.devicePixelRatioF());
   QPainter Painter(&Whole);
   Painter.drawPixmap(0, 0, Picture);
-  Painter.drawPixmap(Width, 0, Form.picGameTray->grab(Form.rect()));
-  SetStripWidth(Form, Width, Whole);
+  Painter.drawPixmap(Width, 0, form.picGameTray->grab(form.rect()));
+  if (QWindow* const Window = form.windowHandle()) Window->installEventFilter(this);
+  closed = opened = PlaceOnServer(form).topLeft();
+  SetWidth(Width, Whole, closed - QPoint(qRound(Width * form.devicePixelRatioF()), 0));
 }
 
-void CloseStrip(frmMain& Form) {
-  const QSize Table(Form.width() - Form.picGameTray->x(), Form.height());
-  SetStripWidth(Form, 0, Form.picGameTray->grab(QRect(QPoint(), Table)).toImage());
+/// A manager that keeps windows on the screen has moved the table: it goes back, unless the player has dragged it.
+void Strip::Close() {
+  const int Width = form.picGameTray->x();
+  const QPoint Corner = PlaceOnServer(form).topLeft();
+  SetWidth(0, form.picGameTray->grab(QRect(0, 0, form.width() - Width, form.height())).toImage(),
+           Corner == opened ? closed : Corner + QPoint(qRound(Width * form.devicePixelRatioF()), 0));
 }
 
-QPoint TableCorner(const frmMain& Form) { return Form.pos() + QPoint(Form.picGameTray->x(), 0); }
+/// The left edge moves, everything on the table stays where it is on the screen. `Whole`: the window in its new size.
+/// Nothing is painted before the window has it. `Corner`: where the server puts it, to the pixel.
+void Strip::SetWidth(int Width, const QImage& Whole, QPoint Corner) {
+  const int Wider = Width - form.picGameTray->x();
+  const QSize Size = form.size() + QSize(Wider, 0);
+  const QRect Place(Corner, PlaceOnServer(form).size() + QSize(qRound(Wider * form.devicePixelRatioF()), 0));
+  HoldRightEdge(form, Whole);
+  form.setMinimumSize(form.minimumSize().boundedTo(Size));
+  form.setMaximumSize(form.maximumSize().expandedTo(Size));
+  form.setGeometry(QRect(form.geometry().topLeft() - QPoint(Wider, 0), Size));
+  form.setFixedSize(Size);
+  form.picGameTray->move(Width, 0);
+  AwaitPlace(form, Place);
+  settling.setRemainingTime(Settling);
+}
 
-void CentreOnScreen(frmMain& Form) { CentreFrame(Form, Form.screen()->geometry()); }
+bool Strip::eventFilter(QObject* Window, QEvent* Event) {
+  if (Event->type() == QEvent::Move && !settling.hasExpired()) opened = PlaceOnServer(form).topLeft();
+  const auto* const Mouse = dynamic_cast<QMouseEvent*>(Event);
+  if (Mouse == nullptr) return false;
+  if (Mouse->isBeginEvent()) {
+    const QRect Place = static_cast<QWindow*>(Window)->geometry();  // as it is known at this point of the events
+    const QPointF Off = Mouse->globalPosition() - Mouse->scenePosition() - Place.topLeft();
+    nobodys = !settling.hasExpired() && (Off.manhattanLength() > 2 || Place.size() != form.size());
+  }
+  return Mouse->isEndEvent() ? std::exchange(nobodys, false) : nobodys;
+}
+
+QPoint TableCorner(const frmMain& Form) { return FramePlace(Form).topLeft() + QPoint(Form.picGameTray->x(), 0); }
 
 }  // namespace blunko

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QDeadlineTimer>
+#include <QObject>
 #include <QPoint>
 
 class QPixmap;
@@ -9,12 +11,30 @@ namespace blunko {
 class frmMain;
 
 /// The strip at the left of the table in which the options panel comes to light. The table keeps its place on the
-/// screen. `Picture`: what will be seen in the strip.
-void OpenStrip(frmMain& Form, const QPixmap& Picture);
-void CloseStrip(frmMain& Form);
+/// screen.
+class Strip : public QObject {
+ public:
+  explicit Strip(frmMain& Main) : form(Main) {}
+
+  /// `Picture`: what will be seen in the strip.
+  void Open(const QPixmap& Picture);
+  void Close();
+
+ protected:
+  /// A press belongs to the window as it was when it was made: one that waited while the strip opened or closed is
+  /// nobody's.
+  bool eventFilter(QObject* Window, QEvent* Event) override;
+
+ private:
+  void SetWidth(int Width, const QImage& Whole, QPoint Corner);
+
+  frmMain& form;
+  QPoint closed, opened;    ///< the window's place before the strip was opened, and what the manager then made of it
+  QDeadlineTimer settling;  ///< while what the manager makes of a change may come in
+  bool nobodys = false;     ///< of the press that the mouse holds
+};
+
 /// The table's part of the window, frame included, in screen coordinates.
 QPoint TableCorner(const frmMain& Form);
-/// Moves the window to the middle of its screen.
-void CentreOnScreen(frmMain& Form);
 
 }  // namespace blunko

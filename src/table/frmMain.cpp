@@ -26,10 +26,12 @@ QColor OfBgr(std::uint32_t Colour) { return QColor(Colour & 0xFF, (Colour >> 8) 
 }  // namespace
 
 frmMain::frmMain(Game& Table, Dress Clothes) : Wears(std::move(Clothes)), game(Table), focus(*this) {
+  picGameTray->installEventFilter(this);
   ShowBackground();
   PlaceRest();
   focus.OrderTabStops();
   ConnectControls();
+  ARCmdNewGame->setFocus();
 }
 
 void frmMain::ConnectControls() {
@@ -175,12 +177,18 @@ bool frmMain::event(QEvent* Event) {
   return QWidget::event(Event);
 }
 
-void frmMain::showEvent(QShowEvent* Event) {
-  QWidget::showEvent(Event);
-  if (activatedBefore) return;
-  activatedBefore = true;
-  ARCmdNewGame->setFocus();
-  QTimer::singleShot(0, this, [this] { Command([this] { emit firstShown(); }); });
+bool frmMain::eventFilter(QObject* Tray, QEvent* Event) {
+  if (Event->type() == QEvent::Paint) {  // the first one: only now the window manager has done with the window
+    Tray->removeEventFilter(this);
+    QTimer::singleShot(0, this, [this] { Command([this] { emit firstShown(); }); });
+  }
+  return QWidget::eventFilter(Tray, Event);
+}
+
+/// Wayland's compositors send sizes that nobody wanted, KWin the one before the options were opened.
+void frmMain::resizeEvent(QResizeEvent*) {
+  if (PlacesWindows() || isMaximized() || isFullScreen()) return;
+  QTimer::singleShot(0, this, [this] { resize(minimumSize()); });
 }
 
 void frmMain::closeEvent(QCloseEvent* Event) {

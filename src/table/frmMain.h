@@ -62,7 +62,8 @@ class frmMain : public TableParts {
   bool focusNextPrevChild(bool Next) override;
   void wheelEvent(QWheelEvent* Event) override;
   void mouseReleaseEvent(QMouseEvent* Event) override;
-  void showEvent(QShowEvent* Event) override;
+  bool eventFilter(QObject* Tray, QEvent* Event) override;
+  void resizeEvent(QResizeEvent* Event) override;
   void closeEvent(QCloseEvent* Event) override;
   void changeEvent(QEvent* Event) override;
   void keyPressEvent(QKeyEvent* Event) override;
@@ -81,7 +82,6 @@ class frmMain : public TableParts {
   TableFocus focus;
   std::set<quint32> keysDown;  ///< keys pressed at the table, by their places: only their release is a command
   std::optional<Dress> drawn;
-  bool activatedBefore = false;
 };
 
 }  // namespace blunko

@@ -1,13 +1,16 @@
 #include "table/frmScorePad.h"
 
-#include <QCoreApplication>
-#include <QKeyEvent>
+#include <QEvent>
 #include <QPainter>
 #include <QPalette>
 #include <QScreen>
+#include <QTimer>
+
+#include <utility>
 
 #include "widgets/FormBuilder.h"
 #include "widgets/Materials.h"
+#include "widgets/PlacedDialog.h"
 #include "widgets/Twips.h"
 
 namespace blunko {
@@ -28,12 +31,16 @@ constexpr qreal Round = 3.5, Wood = 3;                               // px
 }  // namespace
 
 frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
-    : QWidget(Table, Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+    : QWidget(Table,
+              (PlacesWindows() ? Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint
+                               : Qt::WindowFlags(Qt::ToolTip)) |
+                  Qt::WindowDoesNotAcceptFocus),
       m(State),
       table(Table) {
   setObjectName(QStringLiteral("frmScorePad"));
   setWindowTitle(QStringLiteral(" Score Pad"));
   setAttribute(Qt::WA_ShowWithoutActivating);
+  setAttribute(Qt::WA_X11NetWmWindowTypeMenu);  // for openbox and KWin: with fewer buttons beside the title
   SetColours(*this, {{QPalette::Window, FormBlue}});
   setAutoFillBackground(true);
 
@@ -67,15 +74,27 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
     lblScore[i]->setContentsMargins(0, 0, Pixels(1800 + 750 - ScoreEdge), 0);
   }
   UpdateActivePlayer();
+  if (!PlacesWindows()) table->installEventFilter(this);
 }
 
 void frmScorePad::SetPosition() {
   Form_Activate();  // a change of size after the move would shift the frame
-  const QRect Table = table->frameGeometry();
-  const QRect Screen = table->screen()->geometry();
+  const QRect Table = FramePlace(*table);
   int Left = Table.right() + 1 + Pixels(GapToTable);
-  if (Left > Screen.right()) Left = Table.left() - Pixels(GapToTable) - frameGeometry().width();
-  move(Left, Table.top());
+  if (Left > table->screen()->geometry().right()) {
+    Left = Table.left() - Pixels(GapToTable) - FramePlace(*this).width();
+  }
+  PlaceFrame(*this, {Left, Table.top()});
+}
+
+/// What hangs on the table is moved only by being hung up anew, beside the table in its new width.
+bool frmScorePad::eventFilter(QObject* Table, QEvent* Event) {
+  if (Event->type() == QEvent::Resize && isVisible()) {
+    hide();
+    SetPosition();
+    show();
+  }
+  return QWidget::eventFilter(Table, Event);
 }
 
 void frmScorePad::UpdateActivePlayer() {
@@ -100,6 +119,8 @@ void frmScorePad::UpdateActivePlayer() {
 /// A navy plate for the headings, a strip for each seat, a sunk plate with an arrow for the one on turn, which is seen
 /// without its green too, and a frame of walnut.
 void frmScorePad::paintEvent(QPaintEvent*) {
+  // Only now is it known whether its frame is the table's.
+  if (!std::exchange(shownBefore, true)) QTimer::singleShot(0, this, &frmScorePad::SetPosition);
   QPainter Painter(this);
   Painter.setRenderHint(QPainter::Antialiasing);
   Painter.setPen(Qt::NoPen);
@@ -164,14 +185,5 @@ void frmScorePad::showEvent(QShowEvent* Event) {
   Form_Activate();
   QWidget::showEvent(Event);
 }
-
-void frmScorePad::changeEvent(QEvent* Event) {
-  QWidget::changeEvent(Event);
-  if (Event->type() == QEvent::ActivationChange && isActiveWindow()) Form_Activate();
-}
-
-// The pad has no use for keys: those typed while it has the focus are meant for the table.
-void frmScorePad::keyPressEvent(QKeyEvent* Event) { QCoreApplication::sendEvent(table, Event); }
-void frmScorePad::keyReleaseEvent(QKeyEvent* Event) { QCoreApplication::sendEvent(table, Event); }
 
 }  // namespace blunko

@@ -25,17 +25,16 @@ class frmScorePad : public QWidget {
   void UpdateActivePlayer();
 
  protected:
+  bool eventFilter(QObject* Table, QEvent* Event) override;
   void showEvent(QShowEvent* Event) override;
-  void changeEvent(QEvent* Event) override;
   void paintEvent(QPaintEvent* Event) override;
-  void keyPressEvent(QKeyEvent* Event) override;
-  void keyReleaseEvent(QKeyEvent* Event) override;
 
  private:
   void Form_Activate();
 
   const Module1& m;
   QWidget* table;
+  bool shownBefore = false;
   FitLabel* lblGoal;
   FitLabel* label_break_in;
   FitLabel* Label2;

@@ -1,5 +1,6 @@
 #include "widgets/PlacedDialog.h"
 
+#include <QGuiApplication>
 #include <QLayout>
 #include <QScreen>
 #include <QWheelEvent>
@@ -10,40 +11,36 @@
 
 namespace blunko {
 
-QMargins FrameOf(QWidget& Window) {
-  if (const auto Known = FrameToCome(Window)) return *Known;
-  if (!Window.isVisible()) {
-    QWidget* const Owner = Window.parentWidget();
-    return Owner == nullptr || !Owner->window()->isVisible() ? QMargins() : FrameOf(*Owner->window());
-  }
-  const QRect Frame = Window.frameGeometry(), Inside = Window.geometry();
-  return {Inside.left() - Frame.left(), Inside.top() - Frame.top(), Frame.right() - Inside.right(),
-          Frame.bottom() - Inside.bottom()};
+bool PlacesWindows() { return !QGuiApplication::platformName().startsWith(QLatin1String("wayland")); }
+
+QMargins FrameOf(const QWidget& Window) {
+  if (Window.windowType() == Qt::ToolTip) return {};
+  if (const auto Told = FrameTold(Window)) return *Told;
+  return Window.parentWidget() == nullptr ? FrameToCome(Window) : FrameOf(*Window.parentWidget()->window());
 }
 
-// Under X11 the place of the inside is set: how a corner is meant, the window manager was told when the window was
-// made.
+QRect FramePlace(const QWidget& Window) { return Window.geometry() + FrameOf(Window); }
+
 void PlaceFrame(QWidget& Window, QPoint Corner) {
-  if (const auto Frame = FrameToCome(Window)) {
-    Window.setGeometry(QRect(Corner + QPoint(Frame->left(), Frame->top()), Window.size()));
-  } else {
-    Window.move(Corner);
-  }
+  const QMargins Frame = FrameOf(Window);
+  Window.setGeometry(QRect(Corner + QPoint(Frame.left(), Frame.top()), Window.size()));
 }
 
 void CentreFrame(QWidget& Window, const QRect& Place) {
   QRect Frame(QPoint(), Window.size().grownBy(FrameOf(Window)));
   Frame.moveCenter(Place.center());
-  const QRect Screen = Window.screen()->availableGeometry();
+  const QScreen* const There = QGuiApplication::screenAt(Place.center());
+  const QRect Screen = (There == nullptr ? Window.screen() : There)->availableGeometry();
   Frame.moveRight(qMin(Frame.right(), Screen.right()));
   Frame.moveBottom(qMin(Frame.bottom(), Screen.bottom()));
   PlaceFrame(Window, QPoint(qMax(Frame.left(), Screen.left()), qMax(Frame.top(), Screen.top())));
 }
 
 void ShiftOnLowScreen(QWidget& Window, int Down) {
-  const QRect Screen = Window.screen()->availableGeometry(), Frame = Window.frameGeometry();
+  const QRect Screen = Window.screen()->availableGeometry(), Frame = FramePlace(Window);
   if (Frame.height() <= Screen.height()) return;
-  Window.move(Window.x(), std::clamp(Frame.top() + Down, Screen.bottom() + 1 - Frame.height(), Screen.top()));
+  const int Top = std::clamp(Frame.top() + Down, Screen.bottom() + 1 - Frame.height(), Screen.top());
+  PlaceFrame(Window, {Frame.left(), Top});
 }
 
 void ShowFocusOnLowScreen(QWidget& Window) {
@@ -57,6 +54,7 @@ void ShowFocusOnLowScreen(QWidget& Window) {
 }
 
 void PlacedDialog::setVisible(bool Visible) {
+  const bool HasFocus = isActiveWindow();
   if (Visible && !isVisible()) {
     ensurePolished();
     if (layout() != nullptr) layout()->activate();
@@ -64,12 +62,18 @@ void PlacedDialog::setVisible(bool Visible) {
     Place();
   }
   QDialog::setVisible(Visible);
+  // Marco would give it to another window of the program.
+  if (!Visible && HasFocus && parentWidget() != nullptr) parentWidget()->window()->activateWindow();
 }
 
 void PlacedDialog::Place() {
-  if (parentWidget() == nullptr) return CentreFrame(*this, screen()->availableGeometry());
-  QWidget& Owner = *parentWidget()->window();  // one that has only just come up doesn't know its frame yet
-  CentreFrame(*this, Owner.geometry() + FrameOf(Owner));
+  CentreFrame(*this, parentWidget() == nullptr ? screen()->availableGeometry() : FramePlace(*parentWidget()->window()));
+}
+
+/// KWin and openbox have a button for it, whatever is asked for, and would take the owner along.
+void PlacedDialog::changeEvent(QEvent* Event) {
+  QDialog::changeEvent(Event);
+  if (Event->type() == QEvent::WindowStateChange && isMinimized()) showNormal();
 }
 
 bool PlacedDialog::focusNextPrevChild(bool Next) {

@@ -5,9 +5,16 @@
 
 namespace blunko {
 
-/// The frame round a window: as it is, or before the window is shown, as it will be.
-QMargins FrameOf(QWidget& Window);
-/// Puts a window where the corner of its frame belongs on the screen. Its size is final.
+// Frames are reckoned here alone. What the toolkit tells of the frame of a window that has never been shown isn't true,
+// and how it means a corner changes then: the place of the inside holds always.
+
+/// Whether a window can be put anywhere: Wayland places only what hangs on another window.
+bool PlacesWindows();
+/// The frame round a window. One that hasn't been shown yet will get its owner's, or the one that the manager tells.
+QMargins FrameOf(const QWidget& Window);
+/// The place of a window on the screen, frame included.
+QRect FramePlace(const QWidget& Window);
+/// Puts a window, shown or not, where the corner of its frame belongs on the screen. Its size is final.
 void PlaceFrame(QWidget& Window, QPoint Corner);
 /// Puts a window with its frame in the middle of a place on the screen, and moves it in where the screen ends.
 void CentreFrame(QWidget& Window, const QRect& Place);
@@ -26,6 +33,7 @@ class PlacedDialog : public QDialog {
  protected:
   /// Goes to where the dialog belongs; called before it comes up, in its final size.
   virtual void Place();
+  void changeEvent(QEvent* Event) override;
   bool focusNextPrevChild(bool Next) override;
   void wheelEvent(QWheelEvent* Event) override;
 };

@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QThread>
 #include <QWidget>
+#include <QWindow>
 
 #if QT_CONFIG(xcb)
 #include <X11/XKBlib.h>
@@ -45,11 +46,21 @@ std::unique_ptr<unsigned char, Release> Property(Display* To, Window Of, const c
 
 }  // namespace
 
-std::optional<QMargins> FrameToCome(QWidget& Window) {
+std::optional<QMargins> FrameTold(const QWidget& Window) {
   Display* const To = Server();
-  if (To == nullptr) return {};
+  if (To == nullptr || Window.windowHandle() == nullptr) return {};
+  const auto Found = Property(To, Window.winId(), "_NET_FRAME_EXTENTS", XA_CARDINAL, 4);
+  if (Found == nullptr) return {};
+  const auto* Sides = reinterpret_cast<const long*>(Found.get());  // left, right, top, bottom, in pixels
+  return (QMarginsF(Sides[0], Sides[2], Sides[1], Sides[3]) / Window.devicePixelRatioF()).toMargins();
+}
+
+QMargins FrameToCome(const QWidget& Window) {
+  constexpr const char* IsSilent = "managerIsSilent";  // of the application, which has the connection
+  Display* const To = Server();
+  if (To == nullptr || qGuiApp->property(IsSilent).toBool()) return {};
   const ::Window Root = DefaultRootWindow(To);
-  if (Property(To, Root, "_NET_SUPPORTING_WM_CHECK", XA_WINDOW, 1) == nullptr) return QMargins();
+  if (Property(To, Root, "_NET_SUPPORTING_WM_CHECK", XA_WINDOW, 1) == nullptr) return {};
   XEvent Question{};
   Question.xclient.type = ClientMessage;
   Question.xclient.window = Window.winId();
@@ -58,15 +69,10 @@ std::optional<QMargins> FrameToCome(QWidget& Window) {
   XSendEvent(To, Root, False, SubstructureRedirectMask | SubstructureNotifyMask, &Question);
   for (int Waited = 0; Waited < LongestWait; Waited += LookEvery) {
     XSync(To, False);
-    if (const auto Found = Property(To, Window.winId(), "_NET_FRAME_EXTENTS", XA_CARDINAL, 4)) {
-      const auto* Sides = reinterpret_cast<const long*>(Found.get());  // left, right, top, bottom, in pixels
-      const auto Logical = [&](int Side) {
-        return qRound(static_cast<double>(Sides[Side]) / Window.devicePixelRatioF());
-      };
-      return QMargins(Logical(0), Logical(2), Logical(1), Logical(3));
-    }
+    if (const auto Told = FrameTold(Window)) return *Told;
     QThread::msleep(LookEvery);
   }
+  qGuiApp->setProperty(IsSilent, true);
   return {};
 }
 
@@ -115,18 +121,26 @@ void HoldRightEdge(QWidget& Window, const QImage& Whole) {
   XDestroyImage(Sent);
 }
 
-void AwaitSize(const QWidget& Window) {
+QRect PlaceOnServer(const QWidget& Window) {
+  Display* const To = Server();
+  XWindowAttributes Is{};
+  int Left = 0, Top = 0;
+  ::Window Child = None;
+  if (To == nullptr || XGetWindowAttributes(To, Window.winId(), &Is) == 0) return Window.geometry();
+  XTranslateCoordinates(To, Window.winId(), Is.root, 0, 0, &Left, &Top, &Child);
+  return {Left, Top, Is.width, Is.height};
+}
+
+void AwaitPlace(const QWidget& Window, const QRect& Wanted) {
   Display* const To = Server();
   if (To == nullptr) return;
+  XMoveResizeWindow(To, Window.winId(), Wanted.x(), Wanted.y(), static_cast<unsigned>(Wanted.width()),
+                    static_cast<unsigned>(Wanted.height()));
   XUngrabServer(To);
   XFlush(To);
-  if (!Window.isVisible()) return;
-  const QSize Wanted = Window.size() * Window.devicePixelRatioF();
-  XWindowAttributes Is{};
-  for (int Waited = 0; Waited < LongestWait; Waited += LookEvery) {
+  for (int Waited = 0; Window.isVisible() && Waited < LongestWait; Waited += LookEvery) {
     XSync(To, False);
-    if (XGetWindowAttributes(To, Window.winId(), &Is) == 0) return;
-    if (qAbs(Is.width - Wanted.width()) <= 1 && qAbs(Is.height - Wanted.height()) <= 1) break;
+    if (PlaceOnServer(Window).size() == Wanted.size()) break;
     QThread::msleep(LookEvery);
   }
   XSetWindowBackgroundPixmap(To, Window.winId(), None);
@@ -134,11 +148,13 @@ void AwaitSize(const QWidget& Window) {
 
 #else
 
-std::optional<QMargins> FrameToCome(QWidget&) { return {}; }
+std::optional<QMargins> FrameTold(const QWidget&) { return {}; }
+QMargins FrameToCome(const QWidget&) { return {}; }
 bool HearKeysReleasedOnce() { return false; }
 std::optional<std::set<quint32>> KeysDown() { return {}; }
 void HoldRightEdge(QWidget&, const QImage&) {}
-void AwaitSize(const QWidget&) {}
+QRect PlaceOnServer(const QWidget& Window) { return Window.geometry(); }
+void AwaitPlace(const QWidget&, const QRect&) {}
 
 #endif
 

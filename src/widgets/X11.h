@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QMargins>
+#include <QRect>
 
 #include <optional>
 #include <set>
@@ -12,8 +12,11 @@ namespace blunko {
 
 /// What only an X server and its window manager can be asked for. On other platforms nothing happens.
 
-/// The frame that the window manager will put round a window that isn't shown yet; nothing when it doesn't say.
-std::optional<QMargins> FrameToCome(QWidget& Window);
+/// The frame that the window manager has told, once it has got the window.
+std::optional<QMargins> FrameTold(const QWidget& Window);
+/// The frame that it will put round a window that isn't shown yet; none when it doesn't say. KWin, fluxbox and awesome
+/// don't: one that was silent once isn't asked again.
+QMargins FrameToCome(const QWidget& Window);
 
 /// From now on a key that is held down is let go once, at its end, not with every repeat; and the repeats of its press
 /// aren't told apart from it. False where that can't be had, nor is needed.
@@ -24,10 +27,13 @@ std::optional<std::set<quint32>> KeysDown();
 
 /// Prepares a window that will change its width at its left edge: what it shows stays at the right edge, and what comes
 /// to light shows `Whole`, the window in its new size, before the program has painted anything. Other programs stand
-/// still until AwaitSize.
+/// still until AwaitPlace.
 void HoldRightEdge(QWidget& Window, const QImage& Whole);
 
-/// Waits until the window so prepared has got the size that it has asked for.
-void AwaitSize(const QWidget& Window);
+/// The window's inside on the screen, in the screen's own pixels: a scale of 1.5 has no half ones.
+QRect PlaceOnServer(const QWidget& Window);
+
+/// Moves the window so prepared, and waits until it has got the size.
+void AwaitPlace(const QWidget& Window, const QRect& Wanted);
 
 }  // namespace blunko

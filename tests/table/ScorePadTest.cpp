@@ -52,14 +52,6 @@ TEST_F(ScorePad, StandsAtTheSideWhereTheScreenHasRoomAndHoldsItsSeats) {
   }
 }
 
-TEST_F(ScorePad, HandsKeysToTheTable) {
-  Begin({"Ann", "Bob"});
-  PressRoll({1, 2, 3, 4, 4, 5});
-  Pad.show();
-  QTest::keyClick(&Pad, Qt::Key_1);
-  EXPECT_EQ(m.TurnScore, 100);
-}
-
 /// In every colour of the list, on a ground of the same colour.
 TEST(Letters, StandOutFromEveryGroundByTheirEdge) {
   for (int Index = 0; Index < 8; ++Index) {
