@@ -189,7 +189,7 @@ void TableNews::Tell(const frmMain& Form) {
     const QAccessibleInterface& Now = *QAccessible::queryAccessibleInterface(Widget);
     const QAccessible::State State = Now.state();
     const bool There = !State.invisible, Disabled = State.disabled;
-    Part& Old = told.try_emplace(Widget, Part{There, Disabled, {}}).first->second;
+    Part& Old = told.try_emplace(Widget, Part{There, Disabled, Now.text(QAccessible::Name)}).first->second;
     if (std::exchange(Old.There, There) != There) {
       QAccessibleEvent Event(Widget, There ? QAccessible::ObjectShow : QAccessible::ObjectHide);
       PassOn(Event);

@@ -144,7 +144,7 @@ void Application::Form_Activate() {
 void Application::ShowHelpTopic(const QString& Topic) {
   if (help == nullptr) {
     help = std::make_unique<HelpWindow>(QString::fromStdString(State.HelpFile), Form.get());
-    QObject::connect(help.get(), &HelpWindow::told, speaker, [this](const QString& Text) { speaker->Answer(Text); });
+    connect(help.get(), &HelpWindow::told, speaker, [this](const QString& Text) { speaker->Answer(Text); });
   }
   help->ShowTopic(Topic);
 }
@@ -186,7 +186,7 @@ OptionsPanel& Application::Options() {
 frmNewGame& Application::NewGame() {
   if (newGame == nullptr) {
     newGame = new frmNewGame(Screen, InfoFile, Settings, Form.get());
-    QObject::connect(newGame, &frmNewGame::told, speaker, [this](const QString& Text) { speaker->Answer(Text); });
+    connect(newGame, &frmNewGame::told, speaker, [this](const QString& Text) { speaker->Answer(Text); });
   }
   return *newGame;
 }
