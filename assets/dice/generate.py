@@ -163,9 +163,9 @@ def divider():
 
 
 def marker():
+    """The flame of a lamp."""
     write(HERE / "199.svg", 5, 5,
-          defs(radial("m", (0, "#b8ffb0"), (0.5, "#2fe03a"), (1, "#0a9a1c"), cx=0.4, cy=0.35, r=0.7)),
-          circle(2.5, 2.5, 2.5, fill="#063d0c"), circle(2.5, 2.5, 2.1, fill="url(#m)"))
+          defs(radial("m", (0, "#ffffff"), (0.4, "#e6ffe6", 0.8), (1, "#9dffab", 0))), circle(2.5, 2.5, 2.5, fill="url(#m)"))
 
 
 def about_die():

@@ -161,7 +161,7 @@ def tray():
                     for x0, y0, x1, y1 in ((LEFT + 2, TOP + 2, ax, ay), (RIGHT - 2, TOP + 2, bx, ay),
                                            (LEFT + 2, FOOT - 2, ax, dy), (RIGHT - 2, FOOT - 2, bx, dy)))
     shade = picture(391, 200, cast(LEFT, TOP + 6, RIGHT, FOOT + 7, 8, 0.48), cast(LEFT + 0.4, TOP + 2, RIGHT + 0.4, FOOT + 3.6, 2.4, 0.5))
-    subprocess.run(["rsvg-convert", "-o", HERE / "shadow.png"], input=shade.encode(), check=True)
+    subprocess.run(["rsvg-convert", "-w", "130", "-h", "67", "-o", HERE / "shadow.png"], input=shade.encode(), check=True)
     wood = picture(391, 200, rect(0, 0, 391, 200, fill="#1e0e06"),
           defs(linear("brass", *BRASS, x2=1, y2=1), linear("side", (0, "#3a2012"), (1, "#1e0e06")),
                linear("bevel", (0, "#c08654"), (0.5, "#8f5a35", 0.6), (0.75, "#8f5a35", 0), (1, "#8f5a35", 0), x2=1, y2=1),

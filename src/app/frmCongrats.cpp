@@ -28,8 +28,9 @@ frmCongrats::frmCongrats(const QString& Winner, std::string& FormMessage, Deskto
   setObjectName("frmCongrats");
   setWindowTitle("Congratulations " + winner + " !!!");
   SetColours(*this, {{QPalette::Window, FormBlue}});
-  auto* Rays = Placed(Make<StretchedPicture>(this, "picRays"), TwipsRect(0, 0, FormWidth, FormHeight));
-  Rays->Load(":/materials/rays.jpg");
+  auto* Rays = Placed(Make<QLabel>(this, "picRays"), TwipsRect(0, 0, FormWidth, FormHeight));
+  Rays->setScaledContents(true);
+  Rays->setPixmap(QPixmap(":/materials/rays.jpg"));
   setFixedSize(Pixels(FormWidth), Pixels(FormHeight));
   Image2 = Make<SvgBox>(this, "Image2", ":/art/trophy.svg");
   Placed(Image2, {{0, 0}, Image2->sizeHint()});

@@ -145,16 +145,19 @@ void DrawPlate(QPainter& Painter, const QRectF& Place, qreal Radius, const QColo
 QPixmap TrayFrame(qreal Scale) {
   constexpr QSizeF Table(391, 200);
   const QRectF Wood(QPointF(3, 18) * Scale, QSizeF(385, 141) * Scale);
+  const qreal Corner = 6.5 * Scale;
   QPixmap Frame((Table * Scale).toSize());
   Frame.fill(Qt::transparent);
   QPainter Painter(&Frame);
   Painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+  Painter.setClipRegion(QRegion(Frame.rect()) - (Wood - QMarginsF(Corner, Corner, Corner, Corner)).toRect());
   Painter.drawImage(Frame.rect(), QImage(QStringLiteral(":/materials/shadow.png")));
+  Painter.setClipping(false);
   Painter.setPen(Qt::NoPen);
   Painter.setBrush(
       Read(QStringLiteral(":/materials/tray_%1.jpg").arg(Scale > 2 ? 4 : std::ceil(Scale)), Wood.size().toSize()));
   Painter.setBrushOrigin(Wood.topLeft());
-  Painter.drawRoundedRect(Wood, 6.5 * Scale, 6.5 * Scale);
+  Painter.drawRoundedRect(Wood, Corner, Corner);
   Painter.end();
   Frame.setDevicePixelRatio(Scale);
   return Frame;
@@ -211,8 +214,8 @@ QColor DrawButton(QPainter& Painter, const QRectF& Face, const ButtonLook& Look)
     return Mixed(Body, BestGround(Body) == QColor(Qt::white) ? Ivory : Shade, 0.72);
   }
   if (!Look.Down) {
-    for (const double Reach : {2.4, 1.6, 0.9}) {
-      Fill(Face.adjusted(-Reach / 3, 0, Reach / 3, 0).translated(0.3, Reach), Thin(Shade, 0.17));
+    for (const double Reach : {2.2, 1.1}) {
+      Fill(Face.adjusted(-Reach / 3, 0, Reach / 3, 0).translated(0.3, Reach), Thin(Shade, 0.24));
     }
   }
   const QColor Base = Look.Down ? Look.Base.darker(118) : Look.Base;

@@ -2,7 +2,8 @@
 """Paints the background pictures: JPEG files of 786 x 1026 pixels, twice the size in which the table shows them, one folder up.
 
 Needs ImageMagick's `convert` for the JPEG coding and librsvg's `rsvg-convert` for the drawn ones.
-`paint.py NAME...` paints the named ones, without names all.
+`paint.py NAME...` paints the named ones, without names all. Satin belongs to the materials of the windows, which have a
+program of their own.
 """
 import sys
 
@@ -21,7 +22,6 @@ PICTURES = {
     "Nautical": drawings.nautical,
     "Old Glory": cloth.old_glory,
     "Quacker": animals.quacker,
-    "Satin": cloth.satin,
     "Strawberries": plants.strawberries,
 }
 
