@@ -14,6 +14,10 @@ from svg import (BLACK_PIP, BLUE, BLUE_PIP, IVORY, RED, RED_PIP, around, circle,
                  linear, mix, num, path, pip_places, polygon, radial, rect, shadow, write)
 
 OUTLINE = "#6e4604"
+# The dice of the pictures: cream, navy and wine, as the table's own materials.
+CREAM, CREAM_PIP = ("#ffffff", "#f6efdd", "#b09a6c", "#5a4826"), ((0, "#060c1f"), (0.55, "#0e1b3d"), (1, "#3c5288"))
+NAVY, NAVY_PIP = ("#8ea6dc", "#24427f", "#0b1738", "#070f26"), ((0, "#b98a3a"), (0.4, "#f6dc9a"), (1, "#fff6d8"))
+WINE, WINE_PIP = ("#ea9a88", "#96161f", "#43070d", "#2a0408"), ((0, "#c9b48e"), (0.4, "#fbf3df"), (1, "#ffffff"))
 LIGHT = (-0.5, -0.72, 0.48)  # towards the light: right, down, towards the eye
 
 
@@ -218,22 +222,38 @@ def trophy():
 def rollers_top():
     right = [(206, 70), (236, 76), (282, 66), (306, 30)]
     write(HERE / "rollers_top.svg", 330, 84,
-          defs(BERRY, GOLD, radial("glow", (0, "#ffffff", 0.55), (0.6, "#cfe6ff", 0.2), (1, "#ffffff", 0)),
-               radial("ground", (0, "#001a4d", 0.7), (0.6, "#001a4d", 0.4), (1, "#001a4d", 0))),
-          ellipse(165, 44, 110, 42, fill="url(#glow)"), ellipse(166, 76, 48, 6, fill="url(#ground)"),
+          defs(BERRY, GOLD, radial("glow", (0, "#7fb2ff", 0.5), (0.55, "#4f86e0", 0.22), (1, "#3c61a0", 0)),
+               radial("ground", (0, "#02060f", 0.8), (0.6, "#02060f", 0.45), (1, "#02060f", 0))),
+          ellipse(165, 44, 150, 42, fill="url(#glow)"), ellipse(168, 77, 56, 6, fill="url(#ground)"),
           branch(mirrored(right, 330), 9, 19, 13), branch(right, 9, 19, 13),
-          cube("a", 143, 56, 14.5, (28, 24, -7), IVORY, BLACK_PIP, (5, 3, 1)),
-          cube("b", 187, 56, 14.5, (-32, 26, 8), RED, RED_PIP, (5, 4, 1)),
+          cube("a", 143, 56, 14.5, (28, 24, -7), CREAM, CREAM_PIP, (5, 3, 1)),
+          cube("b", 187, 56, 14.5, (-32, 26, 8), WINE, WINE_PIP, (5, 4, 1)),
           crown(165, 35, 0.98))
 
 
 def rollers_bottom():
     right = [(192, 27), (220, 40), (268, 42), (308, 18)]
     write(HERE / "rollers_bottom.svg", 330, 48,
-          defs(BERRY, GOLD, radial("glow", (0, "#ffffff", 0.5), (0.6, "#cfe6ff", 0.18), (1, "#ffffff", 0))),
-          ellipse(165, 24, 100, 23, fill="url(#glow)"),
+          defs(BERRY, GOLD, radial("glow", (0, "#7fb2ff", 0.4), (0.55, "#4f86e0", 0.18), (1, "#3c61a0", 0))),
+          ellipse(165, 24, 150, 23, fill="url(#glow)"),
           branch(mirrored(right, 330), 8, 16, 11), branch(right, 8, 16, 11),
           gold_star(165, 25.5, 22))
+
+
+def net():
+    """A mesh of the damask in the dialogs' satin: ogees with a rosette in each, to be laid side by side."""
+    colour = "#9c8656"
+
+    def rosette(x, y):
+        leaf = "M0 -2.2 C3.2 -5 2.4 -8 0 -10.5 C-2.4 -8 -3.2 -5 0 -2.2 Z"
+        small = "M0 -2 C1.4 -3.6 1.2 -4.8 0 -6.2 C-1.2 -4.8 -1.4 -3.6 0 -2 Z"
+        return circle(x, y, 1.3, fill=colour) + "".join(
+            group(path(leaf if turn % 90 == 0 else small, fill=colour),
+                  transform=f"translate({x} {y}) rotate({turn})") for turn in range(0, 360, 45))
+    ogee = "M20 0 C20 12 {0} 13 {0} 26 C{0} 39 20 40 20 52"
+    write(HERE / "net.svg", 40, 52, '<g opacity="0.13">',
+          *[path(ogee.format(x), fill="none", stroke=colour, stroke_width=1.1) for x in (0, 40)],
+          *[rosette(x, y) for x, y in ((20, 26), (0, 0), (40, 0), (0, 52), (40, 52))], "</g>")
 
 
 def tick():
@@ -244,21 +264,66 @@ def tick():
 
 
 def welcome():
-    """Three dice on their way from left to right: the first leaves the ground, the second flies, the third lands."""
+    """Three dice on their way from left to right: the first leaves the felt, the second flies, the third lands."""
     def shade(x, rx, strength):
-        return ellipse(x, 88, rx, rx * 0.14, fill="url(#shade)", fill_opacity=strength)
+        return ellipse(x, 87, rx, rx * 0.15, fill="url(#shade)", fill_opacity=strength)
 
     def swing(d, width):
-        return path(d, fill="none", stroke="#7fa8e8", stroke_opacity=0.75, stroke_width=width, stroke_linecap="round")
+        return path(d, fill="none", stroke="#f2d48a", stroke_opacity=0.6, stroke_width=width, stroke_linecap="round")
     write(HERE / "welcome.svg", 360, 96,
-          defs(radial("shade", (0, "#00102e", 0.7), (0.6, "#00102e", 0.35), (1, "#00102e", 0))),
-          shade(76, 40, 1), shade(184, 26, 0.6), shade(293, 34, 0.9),
+          defs(radial("shade", (0, "#120002", 0.8), (0.6, "#120002", 0.42), (1, "#120002", 0))),
+          shade(80, 42, 1), shade(192, 28, 0.6), shade(299, 38, 0.9),
           swing("M13 62 C19 50 27 43 38 39", 2.4), swing("M22 74 C25 64 30 57 37 52", 1.8),
           swing("M112 40 C122 26 132 19 144 17", 2.4), swing("M118 56 C124 44 131 36 140 31", 1.8),
           swing("M226 18 C240 21 250 28 258 38", 2.4), swing("M228 32 C237 36 243 42 248 50", 1.8),
-          cube("a", 76, 56, 23, (34, 28, -14), BLUE, BLUE_PIP, (2, 3, 6)),
-          cube("b", 184, 40, 24, (-38, 32, 24), IVORY, BLACK_PIP, (5, 4, 1)),
-          cube("c", 293, 55, 23, (40, 24, 12), RED, RED_PIP, (3, 1, 5)))
+          cube("a", 76, 56, 23, (34, 28, -14), CREAM, CREAM_PIP, (2, 3, 6)),
+          cube("b", 184, 40, 24, (-38, 32, 24), NAVY, NAVY_PIP, (5, 4, 1)),
+          cube("c", 293, 55, 23, (40, 24, 12), CREAM, CREAM_PIP, (3, 1, 5)))
+
+
+# The two marks, upright, 100 units high, about their middle.
+QUESTION = ("M-18 38C-18 34 -17 31 -14 29C-12 27 -9 25 -6 25C-2 25 1 27 3 29C5 31 7 34 7 38C7 41 5 44 3 46C1 49 -2 50 "
+            "-6 50C-9 50 -12 49 -14 46C-17 44 -18 41 -18 38ZM-31 -46C-26 -47 -21 -48 -16 -49C-11 -50 -7 -50 -2 -50"
+            "C9 -50 17 -48 23 -43C29 -38 31 -31 31 -23C31 -14 29 -7 23 -2C17 3 9 6 -1 7L-1 20L-10 20L-10 1"
+            "C-4 -1 0 -4 3 -8C6 -12 7 -17 7 -24C7 -30 6 -35 3 -38C1 -41 -3 -43 -8 -43C-13 -43 -17 -41 -19 -38"
+            "C-22 -36 -23 -31 -24 -26L-31 -26L-31 -46Z")
+EXCLAMATION = ("M-12 37C-12 34 -11 31 -9 29C-6 26 -3 25 0 25C3 25 6 26 9 29C11 31 12 34 12 37C12 41 11 44 9 46"
+               "C6 49 3 50 0 50C-3 50 -6 49 -9 46C-11 44 -12 41 -12 37ZM-12 -50L12 -50L5 5L5 18L-5 18L-5 5L-12 -50Z")
+
+
+def signs():
+    """What the boxes bear: enamel in a brass rim, a navy disc that asks and a wine triangle that warns."""
+    brass = linear("brass", (0, "#fff2c4"), (0.3, "#ecca7c"), (0.55, "#bd8c3c"), (0.78, "#f2d48a"), (1, "#8a5f22"), x2=1)
+
+    def mark(d, x, y, height):
+        k = height / 100
+        return "".join(group(path(d, fill=fill), transform=f"translate({x} {num(y + dy)}) scale({num(k)})")
+                       for dy, fill in ((-0.9, "#02060f"), (0.5, "#f2d48a"), (0, "#fff6e0")))
+
+    def sign(name, shade, enamel, shape, letter):
+        cast = radial("cast", (0, "#33261a", 0.6), (0.55, "#33261a", 0.34), (1, "#33261a", 0))
+        write(HERE / f"{name}.svg", 48, 48, defs(cast, brass, enamel, linear("gloss", (0, "#ffffff", 0.5),
+                                                                            (1, "#ffffff", 0.04))),
+              shade, *shape, letter)
+    disc = (circle(23, 23, 21.2, fill="#3a2408"), circle(23, 23, 20.6, fill="url(#brass)"),
+            circle(23, 23, 17.4, fill="#120a04"), circle(23, 23, 16.7, fill="url(#enamel)"),
+            path("M7.6 20.6 C8.6 12.6 15.2 7.4 23 7.4 C30.8 7.4 37.4 12.6 38.4 20.6 C34 17 28.6 15.6 23 15.6 "
+                 "C17.4 15.6 12 17 7.6 20.6 Z", fill="url(#gloss)", fill_opacity=0.55))
+    sign("question", ellipse(25, 26.5, 22.6, 21.4, fill="url(#cast)"),
+         radial("enamel", (0, "#5478c4"), (0.55, "#213f82"), (1, "#0b1738"), cx=0.38, cy=0.3, r=0.78),
+         disc, mark(QUESTION, 23.8, 23.2, 22))
+
+    def triangle(k, **style):  # corners of one roundness, whatever its size
+        return polygon([(23 + k * x, 28.2 + k * y) for x, y in ((0, -20.8), (18.2, 10.6), (-18.2, 10.6))],
+                       stroke_linejoin="round", **style)
+    sign("warning", ellipse(25, 32, 23, 15, fill="url(#cast)"),
+         linear("enamel", (0, "#f6c04a"), (0.5, "#e39a1e"), (1, "#a85f0a")),
+         (triangle(1, fill="#3a2408", stroke="#3a2408", stroke_width=7.4),
+          triangle(1, fill="url(#brass)", stroke="url(#brass)", stroke_width=6),
+          triangle(0.84, fill="#120a04", stroke="#120a04", stroke_width=4.6),
+          triangle(0.84, fill="url(#enamel)", stroke="url(#enamel)", stroke_width=3.2)),
+         "".join(group(path(EXCLAMATION, fill=fill), transform=f"translate(23 {y}) scale(0.21)")
+                 for y, fill in ((27.4, "#fff2c4"), (26.6, "#1c0e04"))))
 
 
 def icon():
@@ -307,5 +372,5 @@ def icons():
 
 
 if __name__ == "__main__":
-    for draw in (trophy, rollers_top, rollers_bottom, tick, welcome, icons):
+    for draw in (trophy, rollers_top, rollers_bottom, net, tick, welcome, signs, icons):
         draw()

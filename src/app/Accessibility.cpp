@@ -13,6 +13,7 @@
 #include "table/frmMain.h"
 #include "table/frmScorePad.h"
 #include "widgets/FitLabel.h"
+#include "widgets/Pictures.h"
 #include "widgets/WordButton.h"
 
 namespace blunko {
@@ -121,10 +122,10 @@ class AccessibleRollers : public QAccessibleWidget {
   }
 };
 
-/// Named widgets of no special kind are groups, those without a name only look nice.
+/// Named widgets of no special kind are groups, or pictures; those without a name only look nice.
 class AccessibleGroup : public QAccessibleWidget {
  public:
-  explicit AccessibleGroup(QWidget* Group) : QAccessibleWidget(Group, QAccessible::Grouping) {}
+  AccessibleGroup(QWidget* Group, QAccessible::Role Role) : QAccessibleWidget(Group, Role) {}
 
   QAccessible::State state() const override {
     QAccessible::State State = QAccessibleWidget::state();
@@ -146,9 +147,10 @@ QAccessibleInterface* InterfaceOf(const QString& Class, QObject* Object) {
   if (qobject_cast<Announcer*>(Widget->parentWidget()) != nullptr) {
     return new QAccessibleWidget(Widget, QAccessible::Notification);
   }
+  if (qobject_cast<SvgBox*>(Object) != nullptr) return new AccessibleGroup(Widget, QAccessible::Graphic);
   if (Class != QLatin1String("QWidget")) return nullptr;  // the toolkit knows it, or a base of it
   if (Widget->isWindow()) return new QAccessibleWidget(Widget, QAccessible::Window);
-  return new AccessibleGroup(Widget);
+  return new AccessibleGroup(Widget, QAccessible::Grouping);
 }
 
 /// Whether it stands on the table, or on the pad.

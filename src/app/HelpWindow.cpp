@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QPainter>
 #include <QResizeEvent>
 #include <QScreen>
 #include <QShortcut>
@@ -29,7 +30,6 @@ constexpr int NarrowestWindow = 470, WidestWindow = 820, Height = 640;  // px
 constexpr int FoldingWidth = 640;                                       // px: below, the contents are folded away
 constexpr int Gap = 4;                                                  // px between help and table
 constexpr int AddressRole = Qt::UserRole;
-const QColor Paper(253, 252, 247), Ink(32, 33, 48), FoundColour(255, 214, 92);
 
 /// The first anchor in a block, empty without one.
 QString AnchorOf(const QTextBlock& Block) {
@@ -73,6 +73,7 @@ HelpWindow::HelpWindow(const QString& Folder, const QWidget* Beside) : folder(Fo
   ConnectKeys();
   FixButtonColours(*this);
   FillContents();
+  setStyleSheet(PaperStyle());
   PlaceBeside(Beside);
 }
 
@@ -83,10 +84,9 @@ void HelpWindow::BuildPage() {
   Page->setTextInteractionFlags(Page->textInteractionFlags() | Qt::TextSelectableByKeyboard);  // a caret, for readers
   Page->setWordWrapMode(QTextOption::WordWrap);  // no table column narrower than its words
   Page->setFont(FontOf(Typeface::Verdana, 9.75));
-  SetColours(*Page, {{QPalette::Base, Paper},
-                     {QPalette::Text, Ink},
-                     {QPalette::Highlight, FoundColour},  // seen also while the focus is in the find line
-                     {QPalette::HighlightedText, Ink}});
+  SetColours(*Page, {{QPalette::Text, Shade},
+                     {QPalette::Highlight, Gilt},  // seen also while the focus is in the find line
+                     {QPalette::HighlightedText, Shade}});
 }
 
 void HelpWindow::BuildControls() {
@@ -115,9 +115,6 @@ void HelpWindow::BuildControls() {
   Contents->setTextElideMode(Qt::ElideRight);
   txtFind = Make<QLineEdit>(this, "txtFind");
   txtFind->setPlaceholderText("Find (Ctrl+F)");
-  QColor Faint = palette().color(QPalette::Text);  // some dark palettes leave the hint's letters black
-  Faint.setAlphaF(0.6F);
-  SetColours(*txtFind, {{QPalette::PlaceholderText, Faint}});
   txtFind->setAccessibleName("Find");
   txtFind->setClearButtonEnabled(true);
   lblFound = MakeText(this, "lblFound", {}, font());
@@ -225,6 +222,11 @@ void HelpWindow::PlaceBeside(const QWidget* Table) {
   const int Left = AtRight ? Screen.right() + 1 - width() - Sides : Frame.left() - Gap - width() - Sides;
   const int Lowest = qMax(Screen.top(), Screen.bottom() + 1 - height() - UpAndDown);
   PlaceFrame(*this, {qMax(Screen.left(), Left), qBound(Screen.top(), Frame.top(), Lowest)});
+}
+
+void HelpWindow::paintEvent(QPaintEvent*) {
+  QPainter Painter(this);
+  DrawLining(Painter, rect(), Cloth::Pearl);
 }
 
 /// A narrow window is all page.

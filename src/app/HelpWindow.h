@@ -54,6 +54,7 @@ class HelpWindow : public QWidget {
 
  protected:
   bool event(QEvent* Event) override;
+  void paintEvent(QPaintEvent* Event) override;
   void resizeEvent(QResizeEvent* Event) override;
 
  private:

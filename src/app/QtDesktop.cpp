@@ -41,8 +41,9 @@ void QtDesktop::PlaySoundFile(const std::string& File, bool Always) {
 
 void QtDesktop::MessageBox(const std::string& Text) { ShowMessage(form, QString::fromStdString(Text)); }
 
-bool QtDesktop::AskYesNo(const std::string& Text, const std::string& Title) {
-  return AskQuestion(form, QString::fromStdString(Text), QString::fromStdString(Title));
+bool QtDesktop::AskYesNo(const std::string& Text, const std::string& Title, bool Bare) {
+  return AskQuestion(form, QString::fromStdString(Text), QString::fromStdString(Title),
+                     Bare ? Sign::None : Sign::Question);
 }
 
 void QtDesktop::SetMousePointer(MousePointer Pointer) {

@@ -23,7 +23,7 @@ class QtDesktop : public Desktop {
   void Beep() override;
   void PlaySoundFile(const std::string& File, bool Always) override;
   void MessageBox(const std::string& Text) override;
-  bool AskYesNo(const std::string& Text, const std::string& Title) override;
+  bool AskYesNo(const std::string& Text, const std::string& Title, bool Bare) override;
   void SetMousePointer(MousePointer Pointer) override;
 
   /// Multiplies every wait: 1, or 0 in tests that don't watch the clock.

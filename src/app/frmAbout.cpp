@@ -18,7 +18,6 @@ namespace {
 
 constexpr QSize DieSize(48, 48);  // px
 const QColor ButtonColour(132, 186, 255);
-const QColor LinkBlue(122, 180, 255);  // on a dark ground
 
 }  // namespace
 
@@ -36,7 +35,7 @@ frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& S
   const QString Die = Where.Shipped("Data") + "/Dice_Blue_5.gif";
   Picture1 = MakeDie("Picture1", Die);
   Label3 = MakeText(this, "Label3", "Tollmoor Games Presents", Plain);
-  Label2 = MakeText(this, "Label2", ProductName, FontOf(Typeface::ComicSans, 21.75, true));
+  Label2 = MakeTitle(this, "Label2", ProductName, 21.75, Navy);
   Label_Version = MakeText(this, "Label_Version",
                            QStringLiteral("v%1.%2.%3").arg(VersionMajor).arg(VersionMinor).arg(VersionRevision), Plain);
   Label_Version->setAccessibleName(ProductName + ", version " + Label_Version->text().mid(1));
@@ -48,20 +47,16 @@ frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& S
   Label4 = MakeText(this, "Label4", LegalNotice[1], Small);
   cmdOK = MakeButton(this, "cmdOK", "OK", &QDialog::accept);
   cmdCredits = MakeButton(this, "cmdCredits", "Credits", [this] { frmCredits(this).exec(); });
-  cmdOK->setDefault(true);
   for (ButtonPlus* Button : {cmdOK, cmdCredits}) Button->setBackColor(ButtonColour);
+  SetFirst(cmdOK);
   connect(Picture1, &QAbstractButton::clicked, this, &frmAbout::Picture1_Click);
   connect(Picture2, &QAbstractButton::clicked, this, &frmAbout::Picture2_Click);
   FixButtonColours(*this);
   LayOut();
-  cmdOK->setFocus();
 }
 
 LinkLabel* frmAbout::MakeLink(const QString& Name, const QString& Shown, const QString& Target) {
   auto* Made = Make<LinkLabel>(this, Name, Shown);
-  // Not every dark palette has a link colour of its own.
-  const bool Dark = Luminance(palette().color(QPalette::Window)) < Luminance(palette().color(QPalette::WindowText));
-  if (Dark) SetColours(*Made, {{QPalette::Link, LinkBlue}});
   connect(Made, &QPushButton::clicked, this, [Target] { OpenInShell(Target); });
   return Made;
 }

@@ -47,26 +47,29 @@ void ScrollBox::DrawText(qreal Scale) {
   drawn.fill(FormBlue);
   QPainter Painter(&drawn);
   Painter.setFont(font());
-  Painter.setPen(TextColour);
-  Painter.drawText(QRect(QPoint(), Size), TextFlags, Text);
+  for (const auto& [Colour, Below] : {std::pair(Thin(Shade, 0.6), 1), {TextColour, 0}}) {
+    Painter.setPen(Colour);
+    Painter.drawText(QRect({Below, Below}, Size), TextFlags, Text);
+  }
 }
 
 frmCredits::frmCredits(QWidget* Owner) : PlacedDialog(Owner) {
   setObjectName("frmCredits");
   setWindowTitle("Tollmoor Blunko Credits");
-  Label1 = MakeText(this, "Label1", "Credits & Stuff", FontOf(Typeface::ComicSans, 18, true));
+  Label1 = MakeTitle(this, "Label1", "Credits & Stuff", 18, Navy);
   picScroll = Make<ScrollBox>(this, "picScroll");
   picScroll->setFixedSize(ScrollSize);
   picScroll->setAccessibleName(CreditsText());
   picScroll->Text = CreditsText();
   cmdOK = MakeButton(this, "cmdOK", "OK", &QDialog::accept);
   cmdOK->setMinimumWidth(110);
-  cmdOK->setDefault(true);
+  SetFirst(cmdOK);
   FixButtonColours(*this);
 
   auto* Column = new QVBoxLayout(this);
-  Column->setContentsMargins(16, 12, 16, 14);
-  Column->setSpacing(10);
+  Column->setContentsMargins(16 + FrameWidth, 12, 16 + FrameWidth, 12);
+  Column->setSpacing(10 + FrameWidth);
+  framed = {picScroll};
   Column->addWidget(Label1);
   Column->addWidget(picScroll, 0, Qt::AlignCenter);
   Column->addWidget(cmdOK, 0, Qt::AlignCenter);
@@ -96,7 +99,7 @@ void frmCredits::ScrollCredits() {
   if (!isVisible()) return;
   textHeight = picScroll->TextHeight();
   if (textHeight == 0) {
-    ShowMessage(this, QStringLiteral("Error scrolling text"));
+    ShowMessage(this, QStringLiteral("Error scrolling text"), Sign::Warning);
     reject();
     return;
   }

@@ -23,8 +23,9 @@ const QColor ButtonColour(137, 189, 255);
 }  // namespace
 
 frmCustomizeSounds::frmCustomizeSounds(std::string& FormMessage, GameSettings& Options, Desktop& Screen, QWidget* Owner)
-    : PlacedDialog(Owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                              Qt::WindowCloseButtonHint),
+    : PlacedDialog(Owner, Cloth::Pearl,
+                   Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                       Qt::WindowCloseButtonHint),
       message(FormMessage),
       settings(Options),
       desktop(Screen) {
@@ -87,6 +88,7 @@ void frmCustomizeSounds::LayOut() {
 
 void frmCustomizeSounds::Form_Load() {
   for (ButtonPlus* Button : {cmdBrowse, cmdTest, cmdOK, cmdCancel}) Button->setBackColor(ButtonColour);
+  cmdOK->setHero();
   for (std::size_t i = 0; i < SoundEvents.size(); ++i) EventFile[i] = settings.GetSound(SoundEvents[i].Name);
   lstEvents->setCurrentRow(0);
   lstEvents_Click();

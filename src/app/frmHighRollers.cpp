@@ -15,18 +15,18 @@ namespace {
 constexpr int NameColumn = 16;        // letters, dots included
 constexpr int ScoreColumn = 5;        // digits
 constexpr qsizetype LongestRow = 60;  // letters
-constexpr int Spare = 4;              // px in the text boxes
+constexpr int Spare = 4, Border = 9;  // px in the text boxes
 constexpr double ListPoints = 9.75;
 const QColor ListGround(0, 0, 128);
 
 }  // namespace
 
 frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Main)
-    : PlacedDialog(Main), rollers(Lists), desktop(Screen), table(Main) {
+    : PlacedDialog(Main, Cloth::Navy), rollers(Lists), desktop(Screen), table(Main) {
   setObjectName("frmHighRollers");
   setWindowTitle("Tollmoor Blunko - High Rollers");
   setWindowIcon(table->windowIcon());
-  SetColours(*this, {{QPalette::Window, FormBlue}, {QPalette::WindowText, Qt::yellow}, {QPalette::Link, Qt::yellow}});
+  SetColours(*this, {{QPalette::WindowText, Qt::yellow}, {QPalette::Link, Qt::yellow}});
   Image1 = Make<SvgBox>(this, "Image1", ":/art/rollers_top.svg");
   Image2 = Make<SvgBox>(this, "Image2", ":/art/rollers_bottom.svg");
   const QFont Heading = FontOf(Typeface::Verdana, 9.75, true);
@@ -37,19 +37,19 @@ frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Mai
   lblReset = Make<LinkLabel>(this, "lblReset", "Reset List");
   connect(lblReset, &QPushButton::clicked, this, &frmHighRollers::lblReset_Click);
   cmdOK = MakeButton(this, "cmdOK", "OK", &QDialog::accept);
-  cmdOK->setDefault(true);
+  SetFirst(cmdOK);
   ShowHighRollerLists();
   FixButtonColours(*this);
   LayOut();
-  cmdOK->setFocus();
 }
 
 void frmHighRollers::LayOut() {
   for (SvgBox* Picture : {Image1, Image2}) Picture->setFixedSize(Picture->sizeHint());
   cmdOK->setMinimumWidth(110);
   auto* Columns = new QGridLayout;
-  Columns->setHorizontalSpacing(12);
-  Columns->setVerticalSpacing(4);
+  Columns->setHorizontalSpacing(14 + 2 * FrameWidth);
+  Columns->setVerticalSpacing(5 + FrameWidth);
+  framed = {txtHSTSList, txtBMoVList};
   Columns->addWidget(lblHSTS, 0, 0);
   Columns->addWidget(lblBMoV, 0, 1);
   Columns->addWidget(txtHSTSList, 1, 0);
@@ -58,10 +58,11 @@ void frmHighRollers::LayOut() {
   Bottom->addWidget(lblReset, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
   Bottom->addWidget(cmdOK, 0, 0, Qt::AlignCenter);
   auto* Outer = new QVBoxLayout(this);
-  Outer->setContentsMargins(12, 10, 12, 12);
+  Outer->setContentsMargins(14 + FrameWidth, 10, 14 + FrameWidth, 12);
   Outer->setSpacing(8);
   Outer->addWidget(Image1, 0, Qt::AlignHCenter);
   Outer->addLayout(Columns);
+  Outer->addSpacing(FrameWidth);
   Outer->addWidget(Image2, 0, Qt::AlignHCenter);
   Outer->addLayout(Bottom);
   Outer->setSizeConstraint(QLayout::SetFixedSize);
@@ -75,6 +76,8 @@ QPlainTextEdit* frmHighRollers::MakeList(const QString& Name, const QString& Des
   Made->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   Made->setLineWrapMode(QPlainTextEdit::NoWrap);
   Made->setFont(FontOf(Typeface::CourierNew, ListPoints));
+  Made->setFrameShape(QFrame::NoFrame);
+  Made->document()->setDocumentMargin(Border);
   SetColours(*Made, {{QPalette::Base, ListGround}, {QPalette::Text, Qt::yellow}});
   Made->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   Made->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -94,8 +97,10 @@ void frmHighRollers::FillList(QPlainTextEdit* Box, const RollerList& List) {
   QStringList Rows;
   qsizetype Longest = NameColumn + ScoreColumn;
   for (const HighRoller& Entry : List) {
-    const QString Name = HeldToNameRule(Entry.Name);
-    Rows << Name + DotString(NameColumn - static_cast<int>(Name.size())) + QString::number(Entry.Score);
+    const QString Score = QString::number(Entry.Score);
+    QString Name = HeldToNameRule(Entry.Name);
+    if (Name.size() + Score.size() > LongestRow) Name = Name.left(LongestRow - Score.size() - 1) + QChar(0x2026);
+    Rows << Name + DotString(NameColumn - static_cast<int>(Name.size())) + Score;
     Longest = qBound(Longest, Rows.back().size(), LongestRow);
   }
   Box->setPlainText(Rows.join(QLatin1Char('\n')));
@@ -109,7 +114,7 @@ void frmHighRollers::FillList(QPlainTextEdit* Box, const RollerList& List) {
 QString frmHighRollers::DotString(int Count) { return QString(qMax(Count, 0), QLatin1Char('.')); }
 
 void frmHighRollers::lblReset_Click() {
-  if (!desktop.AskYesNo("Are you sure you want to reset the high score lists?", "Reset Lists?")) return;
+  if (!desktop.AskYesNo("Are you sure you want to reset the high score lists?", "Reset Lists?", true)) return;
   const bool Reset = rollers.ResetHighRollers();
   ShowHighRollerLists();
   if (!Reset) desktop.MessageBox("The lists couldn't be reset: their file can't be written at the moment.");

@@ -20,10 +20,15 @@ namespace blunko {
 namespace {
 
 constexpr int InnerWidth = 6000;                       // twips
-constexpr int Margin = 6, Gap = 3;                     // px
+constexpr int Margin = 6, Gap = 4;                     // px
 constexpr int SeatGap = 2;                             // px, within the pitch
 constexpr int SmallestHeight = 3495, SeatPitch = 360;  // twips
 constexpr int OffsetLeft = 500, OffsetTop = 1550;      // twips, from the table's window
+
+const QString FrameStyle = QStringLiteral(
+    "QGroupBox { border: 1px solid %1; border-radius: 5px; margin-top: 7px; background: rgba(255, 255, 255, 70); }"
+    "QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top center; padding: 0 3px; }"
+    "QRadioButton { spacing: 4px; }");
 
 /// A frame with a choice of radio buttons in it.
 template <std::size_t Count>
@@ -31,15 +36,16 @@ QGroupBox* MakeChoice(QWidget* Form, const QString& Caption, std::array<QRadioBu
                       const QString& Name, const QStringList& Captions, int Columns) {
   auto* Frame = Make<QGroupBox>(Form, "fra" + Name, Caption);
   auto* Places = new QGridLayout(Frame);
-  Places->setContentsMargins(0, 4, 0, 4);
-  Places->setHorizontalSpacing(0);
+  Places->setContentsMargins(2, 10, 2, 4);
+  Places->setHorizontalSpacing(2);
   Places->setVerticalSpacing(2);
   for (int i = 0; i < static_cast<int>(Count); ++i) {
     Options[i] = MakeOption(Frame, Name + QString::number(i), Captions[i]);
     Places->addWidget(Options[i], i / Columns, i % Columns);
   }
+  Frame->setStyleSheet(PaperStyle() + FrameStyle.arg(Brass.name()));
   // As much as is there, where a style would ask for more.
-  const int Title = Frame->fontMetrics().horizontalAdvance(Caption) + 8;
+  const int Title = Frame->fontMetrics().horizontalAdvance(Caption) + 14;
   Frame->setMinimumWidth(qMax(Title, Places->totalMinimumSize().width()));
   return Frame;
 }
@@ -58,6 +64,7 @@ frmNewGame::frmNewGame(Desktop& Screen, const IniInfo& Info, const GameSettings&
   Outer->addLayout(BuildSeats());
   Outer->addStretch(1);
   Outer->addLayout(BuildButtons());
+  setStyleSheet(PaperStyle());
   FixButtonColours(*this);
 }
 
@@ -134,7 +141,7 @@ QLayout* frmNewGame::BuildButtons() {
   cmdSetDefault = MakeButton(this, "cmdSetDefault", "Save Game Setup as Default", &frmNewGame::cmdSetDefault_Click);
   cmdSetDefault->setToolTip(
       " Click here to make Tollmoor Blunko always start with this game setup (same players and scoring options.) ");
-  cmdPlay->setDefault(true);
+  SetFirst(cmdPlay);
   auto* Buttons = new QHBoxLayout;
   Buttons->setSpacing(Gap);
   for (ButtonPlus* Button : {cmdPlay, cmdCancel, cmdSetDefault}) {

@@ -17,16 +17,13 @@ constexpr int SmallestWidth = 370;  // px
 }  // namespace
 
 frmViewHRListYN::frmViewHRListYN(std::string& FormMessage, Desktop& Screen, const IniInfo& Info, QWidget* Main)
-    : PlacedDialog(Main), message(FormMessage), desktop(Screen), info(Info) {
+    : PlacedDialog(Main, Cloth::Navy), message(FormMessage), desktop(Screen), info(Info) {
   setObjectName("frmViewHRListYN");
   setWindowTitle("Way to go !!!");
   setWindowIcon(Main->windowIcon());
-  SetColours(*this, {{QPalette::Window, FormBlue}, {QPalette::WindowText, Qt::black}});
 
   const QStringList Fields = QString::fromStdString(message).split(FieldSeparator);
-  lblWayToGo =
-      MakeText(this, "lblWayToGo", "Great Job, " + Fields.value(0) + "!!!", FontOf(Typeface::ComicSans, 15.75, true));
-  SetColours(*lblWayToGo, {{QPalette::WindowText, Qt::yellow}});
+  lblWayToGo = MakeTitle(this, "lblWayToGo", "Great Job, " + Fields.value(0) + "!!!", 15.75, Gilt);
   lblMessage =
       MakeText(this, "lblMessage",
                PlaceMade(Fields.value(1), Fields.value(2)) + "Would you like to view the high rollers list now?",
@@ -34,13 +31,12 @@ frmViewHRListYN::frmViewHRListYN(std::string& FormMessage, Desktop& Screen, cons
   lblMessage->setWordWrap(true);
   cmdYes = MakeButton(this, "cmdYes", "Yes", [this] { Leave("Yes"); });
   cmdNo = MakeButton(this, "cmdNo", "No", [this] { Leave("No"); });
-  cmdYes->setDefault(true);
+  SetFirst(cmdYes);
   lblCheck = Make<TickBox>(this, "lblCheck");
   lblDontAsk = MakeWordsOf(lblCheck, "lblDontAsk", "Don't ask me this again today.");
   connect(lblCheck, &QAbstractButton::clicked, this, &frmViewHRListYN::lblCheck_Click);
   FixButtonColours(*this);
   LayOut();
-  cmdYes->setFocus();
 }
 
 void frmViewHRListYN::LayOut() {
@@ -51,7 +47,7 @@ void frmViewHRListYN::LayOut() {
   Outer->addWidget(lblWayToGo);
   Outer->addWidget(lblMessage);
   Outer->addLayout(CentredRow({cmdYes, cmdNo}, 16));
-  Outer->addLayout(CentredRow({lblCheck, lblDontAsk}, 6));
+  Outer->addLayout(CentredRow({lblCheck, lblDontAsk}, 0));
   const int Width = qMax(SmallestWidth, Outer->minimumSize().width());
   setFixedSize(Width, Outer->totalHeightForWidth(Width));
 }

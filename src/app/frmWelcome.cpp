@@ -1,5 +1,6 @@
 #include "app/frmWelcome.h"
 
+#include <QPainter>
 #include <QVBoxLayout>
 
 #include "Links.h"
@@ -7,7 +8,6 @@
 #include "storage/GameSettings.h"
 #include "widgets/Boxes.h"
 #include "widgets/FormBuilder.h"
-#include "widgets/Pictures.h"
 
 namespace blunko {
 
@@ -16,6 +16,7 @@ namespace {
 const QColor TipsColour(165, 205, 255);
 const QColor ExitColour(145, 195, 255);
 constexpr QSize ButtonSize(300, 36);  // px, at least
+constexpr QSize DiceSize(344, 92);    // px: with its frame no wider than the table
 
 }  // namespace
 
@@ -23,7 +24,7 @@ frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
     : PlacedDialog(Main), info(Info), desktop(Screen) {
   setObjectName("frmWelcome");
   setWindowTitle("How to Blunko");
-  Label1 = MakeText(this, "Label1", ProductName, FontOf(Typeface::ComicSans, 24, true));
+  Label1 = MakeTitle(this, "Label1", ProductName, 24, Navy);
   Label2 = MakeText(this, "Label2", "by Tollmoor Games", FontOf(Typeface::Verdana, 9.75));
   cmdLearn =
       MakeButton(this, "cmdLearn", "How to Play Tollmoor Blunko", [this] { emit helpAsked("PlayingBlunko.htm"); });
@@ -34,7 +35,7 @@ frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
   cmdExit = MakeButton(this, "cmdExit", "Start Playing Blunko!", &QDialog::accept);
   cmdTips->setBackColor(TipsColour);
   cmdExit->setBackColor(ExitColour);
-  cmdExit->setDefault(true);
+  SetFirst(cmdExit);
   lblCheck = Make<TickBox>(this, "lblCheck");
   lblShowWelcome = MakeWordsOf(lblCheck, "lblShowWelcome", "Show this welcome window");
   const QString Stored = info.ReadInfoValue(ShowWelcomeMessageKey);
@@ -42,29 +43,37 @@ frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
   connect(lblCheck, &QAbstractButton::clicked, this, &frmWelcome::lblCheck_Click);
   FixButtonColours(*this);
   LayOut();
-  cmdExit->setFocus();
 }
 
 void frmWelcome::LayOut() {
   auto* Column = new QVBoxLayout(this);
-  Column->setContentsMargins(14, 14, 14, 14);  // no wider than the table
+  Column->setContentsMargins(14 + FrameWidth, 12 + FrameWidth, 14 + FrameWidth, 12);
   Column->setSpacing(6);
-  auto* Dice = Make<SvgBox>(this, "picDice", QStringLiteral(":/art/welcome.svg"));
-  Dice->setFixedSize(Dice->sizeHint());
-  Column->addWidget(Dice, 0, Qt::AlignCenter);
+  picDice = Make<SvgBox>(this, "picDice", QStringLiteral(":/art/welcome.svg"));
+  picDice->setFixedSize(DiceSize);
+  framed = {picDice};
+  Column->addWidget(picDice, 0, Qt::AlignCenter);
+  Column->addSpacing(FrameWidth);
   Column->addWidget(Label1);
   Column->addWidget(Label2);
   Column->addSpacing(10);
   for (ButtonPlus* Choice : {cmdLearn, cmdPoints, cmdTips, cmdWebSite}) {
     Choice->setMinimumSize(ButtonSize);
-    Column->addWidget(Choice);
+    Column->addWidget(Choice, 0, Qt::AlignCenter);
   }
-  Column->addSpacing(10);
-  cmdExit->setMinimumSize(ButtonSize);
-  Column->addWidget(cmdExit);
   Column->addSpacing(6);
-  Column->addLayout(CentredRow({lblCheck, lblShowWelcome}, 6));
+  cmdExit->setMinimumSize(ButtonSize);
+  Column->addWidget(cmdExit, 0, Qt::AlignCenter);
+  Column->addSpacing(6);
+  Column->addLayout(CentredRow({lblCheck, lblShowWelcome}, 0));
   Column->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void frmWelcome::paintEvent(QPaintEvent* Event) {
+  PlacedDialog::paintEvent(Event);
+  if (felt.devicePixelRatio() != devicePixelRatioF() || felt.isNull())
+    felt = Felt(DiceSize, FeltRed, devicePixelRatioF());
+  QPainter(this).drawPixmap(picDice->pos(), felt);
 }
 
 /// The box has changed by a click on it or on its label.

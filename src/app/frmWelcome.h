@@ -5,6 +5,7 @@
 #include "engine/Desktop.h"
 #include "storage/IniInfo.h"
 #include "widgets/ButtonPlus.h"
+#include "widgets/Pictures.h"
 #include "widgets/PlacedDialog.h"
 #include "widgets/TickBox.h"
 #include "widgets/WordButton.h"
@@ -35,6 +36,7 @@ class frmWelcome : public PlacedDialog {
 
  protected:
   void done(int Result) override;
+  void paintEvent(QPaintEvent* Event) override;
 
  private:
   void LayOut();
@@ -42,6 +44,8 @@ class frmWelcome : public PlacedDialog {
 
   const IniInfo& info;
   Desktop& desktop;
+  SvgBox* picDice;
+  QPixmap felt;                     ///< under the dice
   bool WelcomeSwitchedOff = false;  ///< the box has been cleared while the dialog was open
 };
 

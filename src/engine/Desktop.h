@@ -25,8 +25,8 @@ class Desktop {
   virtual void PlaySoundFile(const std::string& File, bool Always) = 0;
   /// Modal box with an OK button under the default title.
   virtual void MessageBox(const std::string& Text) = 0;
-  /// Modal box with Yes and No and the question icon; true for Yes.
-  virtual bool AskYesNo(const std::string& Text, const std::string& Title) = 0;
+  /// Modal box with Yes and No and, unless it is `Bare`, the question icon; true for Yes.
+  virtual bool AskYesNo(const std::string& Text, const std::string& Title, bool Bare = false) = 0;
   virtual void SetMousePointer(MousePointer Pointer) = 0;
 };
 
@@ -40,7 +40,7 @@ class QuietDesktop : public Desktop {
   void Beep() override {}
   void PlaySoundFile(const std::string&, bool) override {}
   void MessageBox(const std::string&) override {}
-  bool AskYesNo(const std::string&, const std::string&) override { return true; }
+  bool AskYesNo(const std::string&, const std::string&, bool) override { return true; }
   void SetMousePointer(MousePointer) override {}
 };
 

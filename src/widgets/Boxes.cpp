@@ -14,8 +14,8 @@ namespace blunko {
 namespace {
 
 constexpr int WidestText = 360;       // px
+constexpr int WidestLine = 240;       // px, of a text that isn't broken
 constexpr int FrameButtons = 110;     // px, what a frame needs beside its title
-constexpr int QuestionDie = 42;       // px
 constexpr int LeastInput = 260;       // px
 constexpr QSize LeastButton(84, 32);  // px
 
@@ -26,7 +26,8 @@ QWidget* OwnerOfBox(QWidget* Table) {
 
 /// The least width in which the text takes no more lines than in its handy one: no word is left alone in the last.
 int BalancedWidth(const QLabel& Text) {
-  int Width = qMin(WidestText, Text.sizeHint().width());
+  const int Line = Text.fontMetrics().horizontalAdvance(Text.text());
+  int Width = Line <= WidestLine ? Line + 1 : qMin(WidestText, Text.sizeHint().width());
   const int Height = Text.heightForWidth(Width);
   while (Width > 0 && Text.heightForWidth(Width - 1) <= Height) --Width;
   return Width;
@@ -34,7 +35,8 @@ int BalancedWidth(const QLabel& Text) {
 
 }  // namespace
 
-GameBox::GameBox(QWidget* Owner, Kind Which, const QString& Title, const QString& Text) : PlacedDialog(Owner) {
+GameBox::GameBox(QWidget* Owner, Kind Which, const QString& Title, const QString& Text, Sign Bears)
+    : PlacedDialog(Owner) {
   setObjectName("GameBox");
   setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
   setWindowTitle(Title);
@@ -46,11 +48,7 @@ GameBox::GameBox(QWidget* Owner, Kind Which, const QString& Title, const QString
   auto* Words = new QHBoxLayout;
   Words->setSpacing(16);
   if (Which != Kind::Input) Words->addStretch();
-  if (Which == Kind::Question) {
-    auto* Die = Make<SvgBox>(this, "picDie", QStringLiteral(":/dice/105.svg"));
-    Die->setFixedSize(QuestionDie, QuestionDie);
-    Words->addWidget(Die);
-  }
+  if (Bears != Sign::None) Words->addWidget(MakeSign(Bears));
   Words->addWidget(lblText);
   Words->addStretch();
 
@@ -63,6 +61,14 @@ GameBox::GameBox(QWidget* Owner, Kind Which, const QString& Title, const QString
   FixButtonColours(*this);
   setMinimumWidth(LeastWidth());
   setFixedSize(sizeHint().expandedTo(minimumSize()));
+}
+
+QWidget* GameBox::MakeSign(Sign Bears) {
+  const bool Asks = Bears == Sign::Question;
+  auto* Made = Make<SvgBox>(this, "picSign", Asks ? ":/art/question.svg" : ":/art/warning.svg");
+  Made->setFixedSize(Made->sizeHint());
+  Made->setAccessibleName(Asks ? "Question" : "Warning");
+  return Made;
 }
 
 QLineEdit* GameBox::MakeInput() {
@@ -82,12 +88,11 @@ QHBoxLayout* GameBox::MakeAnswers(Kind Which) {
     for (const auto& [Letter, Button] : {std::pair(Qt::Key_Y, cmdYes), {Qt::Key_N, cmdNo}}) {
       connect(new QShortcut(Letter, this), &QShortcut::activated, Button, &QAbstractButton::click);
     }
-    cmdNo->setDefault(true);
-    cmdNo->setFocus();
+    SetFirst(cmdNo);
     return CentredRow({cmdYes, cmdNo}, 12);
   }
   cmdOK = Answer("cmdOK", QStringLiteral("OK"), Accepted);
-  cmdOK->setDefault(true);
+  SetFirst(cmdOK);
   if (Which == Kind::Message) return CentredRow({cmdOK}, 0);
   cmdCancel = Answer("cmdCancel", QStringLiteral("Cancel"), Rejected);
   txtAnswer->setFocus();
@@ -106,12 +111,12 @@ ButtonPlus* GameBox::Answer(const char* Name, const QString& Caption, int Result
   return Made;
 }
 
-void ShowMessage(QWidget* Table, const QString& Text) {
-  GameBox(OwnerOfBox(Table), GameBox::Kind::Message, ProductName, Text).exec();
+void ShowMessage(QWidget* Table, const QString& Text, Sign Bears) {
+  GameBox(OwnerOfBox(Table), GameBox::Kind::Message, ProductName, Text, Bears).exec();
 }
 
-bool AskQuestion(QWidget* Table, const QString& Text, const QString& Title) {
-  return GameBox(OwnerOfBox(Table), GameBox::Kind::Question, Title, Text).exec() == QDialog::Accepted;
+bool AskQuestion(QWidget* Table, const QString& Text, const QString& Title, Sign Bears) {
+  return GameBox(OwnerOfBox(Table), GameBox::Kind::Question, Title, Text, Bears).exec() == QDialog::Accepted;
 }
 
 QString AskText(QWidget* Table, const QString& Prompt, const QString& Title, const QString& Preset) {

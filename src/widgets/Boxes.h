@@ -12,6 +12,9 @@ namespace blunko {
 /// The product's name: default title of the message boxes.
 inline const QString ProductName = QStringLiteral("Tollmoor Blunko");
 
+/// What a box bears beside its text.
+enum class Sign { None, Question, Warning };
+
 /// A modal box: a text and the buttons that answer it, in the game's own type. It stands in the middle of its owner,
 /// wide enough for its title, and its lines are of like length.
 class GameBox : public PlacedDialog {
@@ -19,7 +22,7 @@ class GameBox : public PlacedDialog {
 
  public:
   enum class Kind { Message, Question, Input };
-  GameBox(QWidget* Owner, Kind Which, const QString& Title, const QString& Text);
+  GameBox(QWidget* Owner, Kind Which, const QString& Title, const QString& Text, Sign Bears = Sign::None);
 
   QLabel* lblText;
   QLineEdit* txtAnswer = nullptr;  ///< of an input box; takes only letters that the game's files can carry
@@ -30,6 +33,7 @@ class GameBox : public PlacedDialog {
   ButtonPlus* cmdNo = nullptr;
 
  private:
+  QWidget* MakeSign(Sign Bears);
   int LeastWidth() const;
   QLineEdit* MakeInput();
   QHBoxLayout* MakeAnswers(Kind Which);
@@ -40,9 +44,9 @@ class GameBox : public PlacedDialog {
 /// is active.
 
 /// A text and an OK button under the product's name.
-void ShowMessage(QWidget* Table, const QString& Text);
+void ShowMessage(QWidget* Table, const QString& Text, Sign Bears = Sign::None);
 /// A question with Yes and No, which is what Enter and Esc answer; true for Yes.
-bool AskQuestion(QWidget* Table, const QString& Text, const QString& Title);
+bool AskQuestion(QWidget* Table, const QString& Text, const QString& Title, Sign Bears);
 /// One line of text to type, `Preset` in it; the empty string on Cancel.
 QString AskText(QWidget* Table, const QString& Prompt, const QString& Title, const QString& Preset);
 

@@ -15,7 +15,8 @@ constexpr int SmallestText = 9;  // px
 /// Of each typeface: its family, and those that stand in for it.
 constexpr const char* Families[] = {"Verdana,DejaVu Sans,Bitstream Vera Sans,sans-serif",
                                     "Comic Sans MS,Comic Neue,Comic Relief,DejaVu Sans,sans-serif",
-                                    "Courier New,Liberation Mono,DejaVu Sans Mono,monospace"};
+                                    "Courier New,Liberation Mono,DejaVu Sans Mono,monospace",
+                                    "DejaVu Serif,Bitstream Vera Serif,Georgia,serif"};
 
 /// The families from the first one on that is installed: for each that isn't, the toolkit would sort all fonts there
 /// are by how well they stand in for it.

@@ -62,6 +62,28 @@ inline QRadioButton* MakeOption(QWidget* Parent, const QString& Name, const QStr
   return Made;
 }
 
+/// Changes colours of a widget, and of what inherits them.
+inline void SetColours(QWidget& Widget, std::initializer_list<std::pair<QPalette::ColorRole, QColor>> Colours) {
+  QPalette All = Widget.palette();
+  for (const auto& [Role, Colour] : Colours) All.setColor(Role, Colour);
+  Widget.setPalette(All);
+}
+
+/// The button that Enter presses and the eye meets first.
+inline void SetFirst(ButtonPlus* Button) {
+  Button->setDefault(true);
+  Button->setHero();
+  Button->setFocus();
+}
+
+/// A title in the letters of the trophy's greeting.
+inline QLabel* MakeTitle(QWidget* Parent, const QString& Name, const QString& Caption, double Points,
+                         const QColor& Colour) {
+  QLabel* Made = MakeText(Parent, Name, Caption, FontOf(Typeface::Serif, Points, true));
+  SetColours(*Made, {{QPalette::WindowText, Colour}});
+  return Made;
+}
+
 /// What a screen reader calls the widget. It hears of it only when it changes.
 inline void SetName(QWidget& Widget, const QString& Name) {
   if (Widget.accessibleName() != Name) Widget.setAccessibleName(Name);
@@ -76,13 +98,6 @@ inline WordButton* MakeWordsOf(TickBox* Box, const QString& Name, const QString&
   Box->setAccessibleName(Caption);
   QObject::connect(Made, &QPushButton::clicked, Box, &QAbstractButton::click);
   return Made;
-}
-
-/// Changes colours of a widget, and of what inherits them.
-inline void SetColours(QWidget& Widget, std::initializer_list<std::pair<QPalette::ColorRole, QColor>> Colours) {
-  QPalette All = Widget.palette();
-  for (const auto& [Role, Colour] : Colours) All.setColor(Role, Colour);
-  Widget.setPalette(All);
 }
 
 /// Controls side by side in the middle of the form, this many pixels apart.

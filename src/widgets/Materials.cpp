@@ -19,12 +19,14 @@
 #include <cmath>
 #include <numeric>
 
+#include "widgets/Pictures.h"
 #include "widgets/TickBox.h"
 
 namespace blunko {
 
 namespace {
 
+const QColor PearlShade(222, 208, 178);
 constexpr qreal ButtonRadius = 6, RingLine = FocusRingWidth / 2.0;  // px
 
 /// A picture of the resources in the size in which it is shown.
@@ -32,6 +34,14 @@ QImage Read(const QString& Resource, const QSize& Size) {
   QImageReader Reader(Resource);
   Reader.setScaledSize(Size);
   return Reader.read();
+}
+
+/// A drawing of the resources, made once for each scale.
+QPixmap Kept(const QString& Resource, qreal Scale) {
+  const QString Key = QStringLiteral("%1 %2").arg(Resource).arg(Scale);
+  QPixmap Picture;
+  if (!QPixmapCache::find(Key, &Picture)) QPixmapCache::insert(Key, Picture = RenderSvg(Resource, Scale));
+  return Picture;
 }
 
 /// A line of the width along the inside of the place, from its colour at the upper left to that at the lower right.
@@ -128,6 +138,70 @@ void DrawNavy(QPainter& Painter, const QRectF& Place) {
   }
   const qreal Stretch = qMax(1.0, qMax(Place.width() / Whole.width(), Place.height() / Whole.height()));
   Painter.drawPixmap(Place, Cloth, QRectF(QPointF(), Place.size() / Stretch * Scale));
+}
+
+QPalette PaletteOn(Cloth Lining) {
+  const bool Dark = Lining == Cloth::Navy;
+  QPalette Colours(Paper, Dark ? Navy : Pearl);
+  Colours.setColor(QPalette::WindowText, Dark ? Ivory : Shade);
+  Colours.setColor(QPalette::Link, Dark ? Ivory : PaperInk);
+  Colours.setColor(QPalette::Base, Paper);
+  Colours.setColor(QPalette::Text, PaperInk);
+  Colours.setColor(QPalette::Highlight, Navy);
+  Colours.setColor(QPalette::HighlightedText, Ivory);
+  return Colours;
+}
+
+void DrawLining(QPainter& Painter, const QRectF& Place, Cloth Lining) {
+  if (Lining == Cloth::Navy) return DrawNavy(Painter, Place);
+  const qreal Tall = Place.height();
+  QLinearGradient Folds(Place.topLeft(), Place.topLeft() + QPointF(0.36, 1.1) * Tall);
+  const std::pair<double, double> Heights[] = {{0, 0.6},    {0.2, -0.2}, {0.3, 0.5},    {0.44, 0.1}, {0.62, -0.35},
+                                               {0.7, 0.55}, {0.8, 0},    {0.93, -0.45}, {1, 0.3}};
+  for (const auto& [At, Height] : Heights) {
+    Folds.setColorAt(At, Mixed(Pearl, Height > 0 ? Qt::white : PearlShade, qAbs(Height)));
+  }
+  Painter.fillRect(Place, Folds);
+  QLinearGradient Light(Place.topLeft(), Place.bottomRight());
+  Light.setColorAt(0, Thin(Qt::white, 0.45));
+  Light.setColorAt(0.5, Thin(Qt::white, 0));
+  Light.setColorAt(0.51, Thin(PearlShade, 0));
+  Light.setColorAt(1, Thin(PearlShade, 0.5));
+  Painter.fillRect(Place, Light);
+  const QPixmap Net = Kept(QStringLiteral(":/art/net.svg"), Painter.device()->devicePixelRatioF());
+  const QSizeF Mesh = Net.deviceIndependentSize();
+  for (qreal x = Place.left(); x < Place.right(); x += Mesh.width()) {
+    for (qreal y = Place.top(); y < Place.bottom(); y += Mesh.height()) Painter.drawPixmap(QPointF(x, y), Net);
+  }
+}
+
+void DrawFrame(QPainter& Painter, const QRectF& Opening) {
+  constexpr qreal Radius = 4, Deep = FrameWidth;
+  const QRectF Outer = Opening.adjusted(-Deep, -Deep, Deep, Deep);
+  Painter.setRenderHint(QPainter::Antialiasing);
+  Painter.setPen(Qt::NoPen);
+  Painter.setBrush(Thin(Shade, 0.11));
+  for (const double Reach : {6.0, 4.2, 2.8, 1.6, 0.8}) {
+    Painter.drawRoundedRect(Outer.adjusted(-Reach / 2, 0, Reach / 2, Reach / 2).translated(0, Reach / 2),
+                            Radius + Reach, Radius + Reach);
+  }
+  Painter.setBrush(WalnutDark);
+  Painter.drawRoundedRect(Outer, Radius, Radius);
+  const auto Corners = [](const QRectF& Of) {
+    return std::array{Of.topLeft(), Of.topRight(), Of.bottomRight(), Of.bottomLeft(), Of.topLeft()};
+  };
+  const auto Out = Corners(Outer.adjusted(1, 1, -1, -1)), In = Corners(Opening);
+  for (std::size_t i = 0; i < 4; ++i) {
+    QLinearGradient Light((Out[i] + Out[i + 1]) / 2, (In[i] + In[i + 1]) / 2);
+    const bool Lit = i == 0 || i == 3;
+    Light.setColorAt(0, Lit ? WalnutLit : WalnutDark);
+    Light.setColorAt(0.45, Walnut);
+    Light.setColorAt(1, Lit ? WalnutDark : Mixed(Walnut, WalnutLit, 0.7));
+    Painter.setBrush(Light);
+    Painter.drawPolygon(QPolygonF{Out[i], Out[i + 1], In[i + 1], In[i]});
+  }
+  DrawEdge(Painter, Opening.adjusted(-2, -2, 2, 2), 2, 1, WalnutDark, Shade);
+  DrawEdge(Painter, Opening.adjusted(-1, -1, 1, 1), 1, 1, Gilt, Brass);
 }
 
 void DrawPlate(QPainter& Painter, const QRectF& Place, qreal Radius, const QColor& Colour) {
@@ -253,6 +327,7 @@ void DrawFocusRing(QPainter& Painter, const QRectF& Outer, qreal Radius) {
 }
 
 void RingStandardControls() {
+  QApplication::setPalette(PaletteOn(Cloth::Pearl));
   auto* const Style = new RingStyle;
   Style->setParent(qApp);
   const auto Move = [Style, Ring = QPointer<QFocusFrame>()](QWidget*, QWidget* Now) mutable {
@@ -269,6 +344,7 @@ QString PaperStyle() {
   return QStringLiteral(
              "QComboBox, QLineEdit, QAbstractItemView { background: %1; color: %2; selection-background-color: %3;"
              "  selection-color: %4; border: 1px solid %5; border-radius: 3px; }"
+             "QComboBox:disabled, QLineEdit:disabled { background: transparent; color: #7a6b55; }"
              "QComboBox { padding: 1px 4px; }"
              "QComboBox::drop-down { border: none; width: 16px; }"
              "QComboBox::down-arrow { image: url(:/materials/down.svg); width: 9px; height: 9px; }"

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QImage>
+#include <QPalette>
 #include <QPixmap>
 
 class QPainter;
@@ -15,6 +16,8 @@ inline const QColor FormBlue(2, 127, 255);    ///< the ground of the score pad a
 inline const QColor Ivory(255, 246, 224);     ///< letters on navy
 inline const QColor Paper(250, 244, 230);     ///< the ground of lists and fields
 inline const QColor PaperInk(0, 0, 128);      ///< letters on it
+inline const QColor FeltRed(166, 2, 2);       ///< the felt of a tray that isn't the table's
+inline const QColor Pearl(244, 238, 226);     ///< pearl satin, where a contrast with it is reckoned
 inline const QColor Navy(15, 34, 80);         ///< navy satin, where a contrast with it is reckoned
 inline const QColor Brass(201, 163, 87);      ///< edges and hairlines
 inline const QColor Gilt(255, 217, 138);      ///< the line round what has the focus
@@ -39,6 +42,15 @@ QImage Blurred(const QImage& Picture, double Radius);
 
 /// A piece of navy satin, which may fill a window.
 void DrawNavy(QPainter& Painter, const QRectF& Place);
+/// What a window is lined with: letters on pearl are dark, on navy light.
+enum class Cloth { Pearl, Navy };
+/// The colours of what lies on it.
+QPalette PaletteOn(Cloth Lining);
+/// Draws the lining of a window.
+void DrawLining(QPainter& Painter, const QRectF& Place, Cloth Lining);
+/// A walnut frame with a brass line round an opening, `FrameWidth` px wide.
+void DrawFrame(QPainter& Painter, const QRectF& Opening);
+inline constexpr int FrameWidth = 8;
 /// A plate let into the ground, with a fine brass edge.
 void DrawPlate(QPainter& Painter, const QRectF& Place, qreal Radius, const QColor& Colour);
 /// The wooden frame of the trays and its shadow: what lies on the upper 391 x 200 px of the table.
@@ -61,7 +73,8 @@ inline constexpr int FocusRingWidth = 4;
 /// Draws that frame just within `Outer`: a light line inside a dark one, so that one of the two stands out from
 /// whatever it lies on.
 void DrawFocusRing(QPainter& Painter, const QRectF& Outer, qreal Radius);
-/// From now on such a frame lies around the toolkit's own lists, boxes and fields, too, while they have the focus.
+/// From now on such a frame lies around the toolkit's own lists, boxes and fields, too, while they have the focus, and
+/// all windows have the colours of pearl, whatever those of the desktop are.
 void RingStandardControls();
 
 /// Style sheet for the toolkit's own lists, fields, boxes and bars in a window: paper on whatever ground.

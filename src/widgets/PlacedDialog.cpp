@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QLayout>
+#include <QPainter>
 #include <QScreen>
 #include <QWheelEvent>
 
@@ -53,9 +54,20 @@ void ShowFocusOnLowScreen(QWidget& Window) {
   if (Seen.top() < Screen.top()) ShiftOnLowScreen(Window, Screen.top() - Seen.top());
 }
 
+PlacedDialog::PlacedDialog(QWidget* Owner, Cloth Satin, Qt::WindowFlags Flags) : QDialog(Owner, Flags), lining(Satin) {
+  if (lining != Cloth::Pearl) setPalette(PaletteOn(lining));
+}
+
+void PlacedDialog::paintEvent(QPaintEvent*) {
+  QPainter Painter(this);
+  DrawLining(Painter, rect(), lining);
+  for (const QWidget* Part : framed) DrawFrame(Painter, Part->geometry());
+}
+
 void PlacedDialog::setVisible(bool Visible) {
   const bool HasFocus = isActiveWindow();
   if (Visible && !isVisible()) {
+    if (lining == Cloth::Pearl && styleSheet().isEmpty()) setStyleSheet(PaperStyle());
     ensurePolished();
     if (layout() != nullptr) layout()->activate();
     if (!testAttribute(Qt::WA_Resized)) adjustSize();

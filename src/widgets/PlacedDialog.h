@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <QMargins>
 
+#include "widgets/Materials.h"
+
 namespace blunko {
 
 // Frames are reckoned here alone. What the toolkit tells of the frame of a window that has never been shown isn't true,
@@ -23,10 +25,11 @@ void ShiftOnLowScreen(QWidget& Window, int Down);
 /// Moves it so that what has the focus is seen.
 void ShowFocusOnLowScreen(QWidget& Window);
 
-/// A dialog that comes up at its place, frame included: in the middle of its owner's frame, unless it has another.
+/// A dialog that comes up at its place, frame included: in the middle of its owner's frame, unless it has another. It
+/// is lined with satin.
 class PlacedDialog : public QDialog {
  public:
-  using QDialog::QDialog;
+  explicit PlacedDialog(QWidget* Owner, Cloth Satin = Cloth::Pearl, Qt::WindowFlags Flags = {});
 
   void setVisible(bool Visible) override;
 
@@ -36,6 +39,12 @@ class PlacedDialog : public QDialog {
   void changeEvent(QEvent* Event) override;
   bool focusNextPrevChild(bool Next) override;
   void wheelEvent(QWheelEvent* Event) override;
+  void paintEvent(QPaintEvent* Event) override;
+
+  QList<QWidget*> framed;  ///< parts round which the dialog draws a frame of walnut
+
+ private:
+  Cloth lining;
 };
 
 }  // namespace blunko

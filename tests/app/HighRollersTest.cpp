@@ -12,7 +12,7 @@ namespace blunko::test {
 TEST_F(TheProgram, ABankedTurnGoesThroughTheRealDialogs) {
   Start();
   Run->State.Quitting = true;  // nobody is asked
-  Run->Rollers.CheckHighTurn("A name of more than sixteen letters", 1990);
+  Run->Rollers.CheckHighTurn(std::string(80, 'n'), 1990);
   Run->State.Quitting = false;
   Begin(2, false, "Player1");
   Next.Expect<GameBox>([&](GameBox& Box) {
@@ -34,8 +34,8 @@ TEST_F(TheProgram, ABankedTurnGoesThroughTheRealDialogs) {
   });
   Next.Expect<frmHighRollers>([&](frmHighRollers& Form) {
     ExpectUsable(Form);
-    const auto Shown = [&] { return Form.txtHSTSList->toPlainText().left(67); };
-    const QString Entered = QStringLiteral("A name of more than sixteen letters1990\n<b>Zöye%1& many letters1600");
+    const auto Shown = [&] { return Form.txtHSTSList->toPlainText().mid(50, 28); };
+    const QString Entered = QStringLiteral("nnnnn…1990\n<b>Zöye%1& man..1");
     EXPECT_EQ(Shown(), Entered);
     for (const QPlainTextEdit* Box : {Form.txtHSTSList, Form.txtBMoVList}) {
       EXPECT_EQ(Box->horizontalScrollBar()->maximum() + Box->verticalScrollBar()->maximum(), 0) << "all rows fit";
@@ -43,6 +43,7 @@ TEST_F(TheProgram, ABankedTurnGoesThroughTheRealDialogs) {
     Next.Press(&GameBox::cmdNo);
     Click(Form.lblReset);
     EXPECT_EQ(Shown(), Entered);
+    EXPECT_THAT(Next.Seen.back(), testing::StartsWith("Reset Lists?: ")) << "no icon";
     {
       const FileLock OfAnotherCopy(Run->Util.ListsPath());
       Next.Press(&GameBox::cmdYes);

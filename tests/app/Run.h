@@ -24,6 +24,7 @@
 #include "tests/support/Table.h"
 #include "widgets/Boxes.h"
 #include "widgets/Materials.h"
+#include "widgets/Pictures.h"
 
 namespace blunko::test {
 
@@ -112,7 +113,7 @@ class Answers : public QObject {
   }
   ~Answers() override { EXPECT_EQ(steps.size(), 0U) << "windows didn't come up"; }
 
-  /// What has come up: a title, and for a box ": " and its text.
+  /// What has come up: a title, and for a box its icon, if any, ": " and its text.
   Lines Seen;
 
   /// The next window is of this class and dealt with so.
@@ -133,8 +134,10 @@ class Answers : public QObject {
     auto* Shown = Event->type() == QEvent::Show ? qobject_cast<QWidget*>(Object) : nullptr;
     if (Shown != nullptr && Shown->isModal()) {
       const auto* Box = qobject_cast<GameBox*>(Shown);
+      const auto* Icon = Shown->findChild<SvgBox*>("picSign");
       const QString Text = Box != nullptr ? QStringLiteral(": ") + Box->lblText->text() : QString();
-      Seen.push_back((Shown->windowTitle() + Text).toStdString());
+      Seen.push_back(
+          (Shown->windowTitle() + (Icon != nullptr ? " " + Icon->accessibleName() : QString()) + Text).toStdString());
       QTimer::singleShot(0, Shown, [this, Shown] { Next(Shown); });
     }
     return false;

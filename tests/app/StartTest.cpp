@@ -9,8 +9,8 @@
 
 namespace blunko::test {
 
-const std::string Version = "Would you like to check for a new version of Tollmoor Blunko";
-const std::string QuitGame = "Quit?: Are you sure you want to quit the current game?";
+const std::string Version = " Question: Would you like to check for a new version of Tollmoor Blunko";
+const std::string QuitGame = "Quit? Question: Are you sure you want to quit the current game?";
 
 class Playing : public TheProgram {
  protected:
@@ -173,7 +173,8 @@ TEST(OpenInShell, HandsOnTheEnvironmentWithoutWhatTheGameSetForItself) {
 }
 
 TEST_F(TheProgram, AsksItsQuestionsAtTheFirstStartAndForTheVersionNowAndThen) {
-  const std::string Newer = "A newer version is available, would you like to go to the web site to download it?";
+  const std::string Newer =
+      " Question: A newer version is available, would you like to go to the web site to download it?";
   const struct {
     const char* Answers;  ///< yes, no, OK
     int Drawn;            ///< 0 at the first start
@@ -184,7 +185,7 @@ TEST_F(TheProgram, AsksItsQuestionsAtTheFirstStartAndForTheVersionNowAndThen) {
       {"yon", 0, "", Version},
       {"nn", 0, "", Version},
       {"", 5, "", ""},
-      {"yo", 1, "1.0.0\n", "You have the latest version."},
+      {"yo", 1, "1.0.0\n", "Blunko: You have the latest version."},
       {"yy", 1, "1.0.1\n", Newer, false},
       {"yo", 1, "<html>404", "An error has occurred. Please try again later."},
   };
@@ -197,7 +198,11 @@ TEST_F(TheProgram, AsksItsQuestionsAtTheFirstStartAndForTheVersionNowAndThen) {
     if (*Row.Newest != '\0') Run->Util = TbkUtil(Web.emplace(Ok + "\r\n" + Row.Newest).Address, Patience);
     Dice->Faces = {Row.Drawn};
     for (const char Answer : std::string_view(Row.Answers)) {
-      Next.Press(Answer == 'y' ? &GameBox::cmdYes : Answer == 'n' ? &GameBox::cmdNo : &GameBox::cmdOK);
+      Next.Expect<GameBox>([Answer](GameBox& Box) {
+        const bool IsShort = Box.lblText->text().size() < 30;
+        EXPECT_EQ(Box.lblText->height() < 2 * Box.lblText->fontMetrics().height(), IsShort) << "in one line";
+        Click(Answer == 'y' ? Box.cmdYes : Answer == 'n' ? Box.cmdNo : Box.cmdOK);
+      });
     }
     Next.Seen = {""};
     EXPECT_EQ(Run->Main(), Row.Starts);

@@ -82,7 +82,7 @@ class RecordingDesktop : public Desktop {
     Show();
     Note("box " + Text, OnBox);
   }
-  bool AskYesNo(const std::string& Text, const std::string& Title) override {
+  bool AskYesNo(const std::string& Text, const std::string& Title, bool) override {
     Show();
     Note("ask " + Title + ": " + Text, OnBox);
     return Answer;
