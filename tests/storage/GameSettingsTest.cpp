@@ -105,7 +105,7 @@ TEST_F(GameSettingsTest, AHandEditedSetupTakesTheDefaultForEachUnusableField) {
   // Count, names, computers and styles; the seats that they make.
   static const char* const Rows[][5] = {{"9", "A|", "False|", "00|", "A"},
                                         {"-3", "A|", "True|", "4|", "A*5"},
-                                        {" 2 ", "A|B", "False|True", "00|2", "A B*3"},
+                                        {" 2 ", "A|B", "False|True", "00", "A B*1"},
                                         {"3", "A|B|~|", "False|True|~|", "00|2|22|", "A B*3 Player3"},
                                         {"3", "A|", "True|", "x|", "A*1 Player2 Player3"},
                                         {"2", "A|B|", "true|True|", "1|7|", "A B*1"},

@@ -129,10 +129,12 @@ TEST_F(HighRollersTest, WhatCannotBeSavedStaysForTheRunAndGoesWithTheNextSaveOrA
     place.Chmod(ListsName, FileMode);
     place.Chmod("", FolderMode);
     std::optional<Unprivileged> Nobody(place);
+    testing::internal::CaptureStderr();
     std::optional<Copy> Run(place);
     Run->Turn("One", 1800);
     EXPECT_FALSE(Run->Rollers.ResetHighRollers());
     Run->Rollers.LoadHighRollers();
+    EXPECT_EQ(QString::fromStdString(testing::internal::GetCapturedStderr()).count("can't be saved"), 1);
     EXPECT_EQ(Run->Rollers.Lists().lstHSTS[0].Name, "One");
     Nobody.reset();
     place.Chmod("", 0755);
