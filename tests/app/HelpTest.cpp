@@ -74,7 +74,9 @@ TEST(Help, DialogsBlockEveryWindowButTheHelp) {
   const auto ClickBoth = [&](int Page, int Expected) {
     QTest::qWait(1);
     QTest::mouseClick(Other.windowHandle(), Qt::LeftButton, {}, Other.rect().center());
-    const QPoint Entry = Window.Contents.visualItemRect(Window.Contents.topLevelItem(Page)).center();
+    QTreeWidgetItem* const Row = Window.Contents.topLevelItem(Page);
+    Window.Contents.scrollToItem(Row);
+    const QPoint Entry = Window.Contents.visualItemRect(Row).center();
     QTest::mouseClick(Window.Help.windowHandle(), Qt::LeftButton, {},
                       Window.Contents.viewport()->mapTo(&Window.Help, Entry));
     EXPECT_EQ(Window.Shown(), HelpWindow::Pages[Page]);
