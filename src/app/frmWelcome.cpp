@@ -71,9 +71,7 @@ void frmWelcome::LayOut() {
 
 void frmWelcome::paintEvent(QPaintEvent* Event) {
   PlacedDialog::paintEvent(Event);
-  if (felt.devicePixelRatio() != devicePixelRatioF() || felt.isNull())
-    felt = Felt(DiceSize, FeltRed, devicePixelRatioF());
-  QPainter(this).drawPixmap(picDice->pos(), felt);
+  QPainter(this).drawPixmap(picDice->pos(), Felt(DiceSize, FeltRed, devicePixelRatioF()));
 }
 
 /// The box has changed by a click on it or on its label.

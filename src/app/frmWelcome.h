@@ -45,7 +45,6 @@ class frmWelcome : public PlacedDialog {
   const IniInfo& info;
   Desktop& desktop;
   SvgBox* picDice;
-  QPixmap felt;                     ///< under the dice
   bool WelcomeSwitchedOff = false;  ///< the box has been cleared while the dialog was open
 };
 

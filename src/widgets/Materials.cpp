@@ -36,14 +36,6 @@ QImage Read(const QString& Resource, const QSize& Size) {
   return Reader.read();
 }
 
-/// A drawing of the resources, made once for each scale.
-QPixmap Kept(const QString& Resource, qreal Scale) {
-  const QString Key = QStringLiteral("%1 %2").arg(Resource).arg(Scale);
-  QPixmap Picture;
-  if (!QPixmapCache::find(Key, &Picture)) QPixmapCache::insert(Key, Picture = RenderSvg(Resource, Scale));
-  return Picture;
-}
-
 /// A line of the width along the inside of the place, from its colour at the upper left to that at the lower right.
 void DrawEdge(QPainter& Painter, const QRectF& Place, qreal Radius, qreal Width, const QColor& Lit,
               const QColor& Dark) {
@@ -168,7 +160,7 @@ void DrawLining(QPainter& Painter, const QRectF& Place, Cloth Lining) {
   Light.setColorAt(0.51, Thin(PearlShade, 0));
   Light.setColorAt(1, Thin(PearlShade, 0.5));
   Painter.fillRect(Place, Light);
-  const QPixmap Net = Kept(QStringLiteral(":/art/net.svg"), Painter.device()->devicePixelRatioF());
+  const QPixmap Net = RenderSvg(QStringLiteral(":/art/net.svg"), Painter.device()->devicePixelRatioF());
   const QSizeF Mesh = Net.deviceIndependentSize();
   for (qreal x = Place.left(); x < Place.right(); x += Mesh.width()) {
     for (qreal y = Place.top(); y < Place.bottom(); y += Mesh.height()) Painter.drawPixmap(QPointF(x, y), Net);
@@ -176,32 +168,21 @@ void DrawLining(QPainter& Painter, const QRectF& Place, Cloth Lining) {
 }
 
 void DrawFrame(QPainter& Painter, const QRectF& Opening) {
-  constexpr qreal Radius = 4, Deep = FrameWidth;
-  const QRectF Outer = Opening.adjusted(-Deep, -Deep, Deep, Deep);
+  const auto Grown = [&](qreal By) { return Opening.adjusted(-By, -By, By, By); };
   Painter.setRenderHint(QPainter::Antialiasing);
   Painter.setPen(Qt::NoPen);
   Painter.setBrush(Thin(Shade, 0.11));
-  for (const double Reach : {6.0, 4.2, 2.8, 1.6, 0.8}) {
-    Painter.drawRoundedRect(Outer.adjusted(-Reach / 2, 0, Reach / 2, Reach / 2).translated(0, Reach / 2),
-                            Radius + Reach, Radius + Reach);
+  for (const qreal Reach : {3.0, 2.1, 1.4, 0.8, 0.4}) {
+    Painter.drawRoundedRect(Grown(FrameWidth + Reach).translated(0, Reach), FrameWidth, FrameWidth);
   }
   Painter.setBrush(WalnutDark);
-  Painter.drawRoundedRect(Outer, Radius, Radius);
-  const auto Corners = [](const QRectF& Of) {
-    return std::array{Of.topLeft(), Of.topRight(), Of.bottomRight(), Of.bottomLeft(), Of.topLeft()};
-  };
-  const auto Out = Corners(Outer.adjusted(1, 1, -1, -1)), In = Corners(Opening);
-  for (std::size_t i = 0; i < 4; ++i) {
-    QLinearGradient Light((Out[i] + Out[i + 1]) / 2, (In[i] + In[i + 1]) / 2);
-    const bool Lit = i == 0 || i == 3;
-    Light.setColorAt(0, Lit ? WalnutLit : WalnutDark);
-    Light.setColorAt(0.45, Walnut);
-    Light.setColorAt(1, Lit ? WalnutDark : Mixed(Walnut, WalnutLit, 0.7));
-    Painter.setBrush(Light);
-    Painter.drawPolygon(QPolygonF{Out[i], Out[i + 1], In[i + 1], In[i]});
+  Painter.drawRoundedRect(Grown(FrameWidth), 4, 4);
+  for (int Depth = 1; Depth < FrameWidth - 1; ++Depth) {  // it slopes towards the opening
+    const double Down = static_cast<double>(Depth) / FrameWidth;
+    DrawEdge(Painter, Grown(FrameWidth - Depth), 4 - 2 * Down, 1.2, Mixed(WalnutLit, WalnutDark, Down),
+             Mixed(WalnutDark, WalnutLit, 0.6 * Down));
   }
-  DrawEdge(Painter, Opening.adjusted(-2, -2, 2, 2), 2, 1, WalnutDark, Shade);
-  DrawEdge(Painter, Opening.adjusted(-1, -1, 1, 1), 1, 1, Gilt, Brass);
+  DrawEdge(Painter, Grown(1), 1, 1, Gilt, Brass);
 }
 
 void DrawPlate(QPainter& Painter, const QRectF& Place, qreal Radius, const QColor& Colour) {
@@ -350,6 +331,7 @@ QString PaperStyle() {
              "QComboBox::down-arrow { image: url(:/materials/down.svg); width: 9px; height: 9px; }"
              "QAbstractItemView { outline: none; }"
              "QAbstractItemView::item { height: 16px; padding-left: 3px; }"
+             "QTreeView::item { height: 14px; padding-left: 0; }"
              "QScrollBar:vertical { background: #e6dcc8; width: 11px; margin: 0; border: none; }"
              "QScrollBar::handle:vertical { background: #5a6f9e; border-radius: 4px; margin: 1px; min-height: 18px; }"
              "QScrollBar::add-line, QScrollBar::sub-line, QScrollBar::add-page, QScrollBar::sub-page {"
