@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
+#include <QWindow>
 
 #include <utility>
 
@@ -174,6 +175,7 @@ void PassOnWhatCounts(QAccessibleEvent* Event) {
   const bool Announces = Widget != nullptr && qobject_cast<Announcer*>(Widget->parentWidget()) != nullptr;
   if (Announces && Event->type() != QAccessible::ObjectShow) return;
   if (Widget != nullptr && Event->type() != QAccessible::Focus && IsOfTable(Widget)) return;
+  if (Widget != nullptr && Widget->window()->windowHandle() == nullptr) return;  // never shown: nobody has read it
   PassOn(*Event);
 }
 

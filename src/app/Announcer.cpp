@@ -9,7 +9,7 @@ namespace blunko {
 namespace {
 
 /// A reader asks for the words some time after it has heard that there are some, and others may have come by then.
-constexpr std::chrono::seconds TimeToAsk{5};
+constexpr std::chrono::seconds TimeToAsk{30};
 
 }  // namespace
 
