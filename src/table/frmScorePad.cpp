@@ -79,7 +79,8 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
 
 void frmScorePad::SetPosition() {
   Form_Activate();  // a change of size after the move would shift the frame
-  const QRect Table = FramePlace(*table);
+  // What hangs on the table is placed from its corner: on Wayland the table itself has no place.
+  const QRect Table = PlacesWindows() ? FramePlace(*table) : table->rect();
   int Left = Table.right() + 1 + Pixels(GapToTable);
   if (Left > table->screen()->geometry().right()) {
     Left = Table.left() - Pixels(GapToTable) - FramePlace(*this).width();
