@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QScreen>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -17,6 +18,9 @@ bool PlacesWindows() { return !QGuiApplication::platformName().startsWith(QLatin
 QMargins FrameOf(const QWidget& Window) {
   if (Window.windowType() == Qt::ToolTip) return {};
   if (const auto Told = FrameTold(Window)) return *Told;
+  if (QGuiApplication::platformName() != QLatin1String("xcb") && Window.isVisible()) {
+    return Window.windowHandle()->frameMargins();
+  }
   return Window.parentWidget() == nullptr ? FrameToCome(Window) : FrameOf(*Window.parentWidget()->window());
 }
 
