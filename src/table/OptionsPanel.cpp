@@ -61,8 +61,8 @@ OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QS
 QVBoxLayout* OptionsPanel::AddFrame(const QString& Caption) {
   auto* Box = Make<QGroupBox>(this, "fra" + Caption.chopped(1).remove(' '), Caption);
   auto* Inside = new QVBoxLayout(Box);
-  Inside->setContentsMargins(7, 6, 6, 6);
-  Inside->setSpacing(4);
+  Inside->setContentsMargins(9, 6, 9, 6);
+  Inside->setSpacing(6);  // with a row of 14 a pitch that all scales keep even
   frames->addWidget(Box);
   return Inside;
 }
@@ -121,7 +121,7 @@ void OptionsPanel::BuildLists() {
 
 void OptionsPanel::BuildSwatches() {
   auto* Grid = new QGridLayout;
-  Grid->setSpacing(3);
+  Grid->setSpacing(2);
   for (int i = 0; i < 8; ++i) {
     lblColor[i] = Make<Swatch>(this, QStringLiteral("lblColor(%1)").arg(i), QColor(SwatchColours[i]));
     lblColor[i]->setAccessibleName(QLatin1String(ColourNames[i]));
