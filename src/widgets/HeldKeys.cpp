@@ -34,6 +34,9 @@ void HeldKeys::BecomeStale() {
 bool HeldKeys::eventFilter(QObject* Receiver, QEvent* Event) {
   const bool IsOffer = Event->type() == QEvent::ShortcutOverride, IsRelease = Event->type() == QEvent::KeyRelease;
   if (!Receiver->isWindowType() || (!IsOffer && !IsRelease && Event->type() != QEvent::KeyPress)) return false;
+  // The toolkit's way to screen readers takes a key and sends a copy of it later: the key itself counts, before that.
+  if (IsOffer) qGuiApp->installEventFilter(this);
+  if (!Event->spontaneous()) return false;
   auto& Key = static_cast<QKeyEvent&>(*Event);
   const quint32 Place = PlaceOf(Key);
   if (IsRelease) {
