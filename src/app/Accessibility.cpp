@@ -115,7 +115,7 @@ class AccessibleRollers : public QAccessibleWidget {
   explicit AccessibleRollers(QPlainTextEdit* Rows) : QAccessibleWidget(Rows, QAccessible::StaticText) {}
 
   QString text(QAccessible::Text Kind) const override {
-    const QString Name = QAccessibleWidget::text(Kind);
+    QString Name = QAccessibleWidget::text(Kind);
     if (Kind != QAccessible::Name) return Name;
     QString Rows = static_cast<QPlainTextEdit*>(object())->toPlainText();
     static const QRegularExpression Dots(QStringLiteral("\\.+(?=\\d+$)"), QRegularExpression::MultilineOption);

@@ -11,7 +11,6 @@ namespace blunko {
 
 namespace {
 
-constexpr int LongestScore = 5;  // digits
 const QString LineEnd = QStringLiteral("\r\n");
 
 const char DefaultEntries[] =
