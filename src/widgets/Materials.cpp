@@ -219,7 +219,8 @@ QPixmap TrayFrame(qreal Scale) {
 }
 
 QPixmap Felt(const QSize& Size, const QColor& Colour, qreal Scale) {
-  const QString Key = QStringLiteral("felt %1 %2").arg(Scale).arg(Colour.rgb());
+  const QString Key =
+      QStringLiteral("felt %1 %2 %3 %4").arg(Size.width()).arg(Size.height()).arg(Scale).arg(Colour.rgb());
   QPixmap Dry;
   if (QPixmapCache::find(Key, &Dry)) return Dry;
   constexpr int LeastLight = 22;
