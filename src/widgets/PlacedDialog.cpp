@@ -17,9 +17,9 @@ bool PlacesWindows() { return !QGuiApplication::platformName().startsWith(QLatin
 
 QMargins FrameOf(const QWidget& Window) {
   if (Window.windowType() == Qt::ToolTip) return {};
-  if (const auto Told = FrameTold(Window)) return *Told;
-  if (QGuiApplication::platformName() != QLatin1String("xcb") && Window.isVisible()) {
-    return Window.windowHandle()->frameMargins();
+  if (Window.isVisible()) {  // a hidden window's is told as none by openbox
+    if (const auto Told = FrameTold(Window)) return *Told;
+    if (QGuiApplication::platformName() != QLatin1String("xcb")) return Window.windowHandle()->frameMargins();
   }
   return Window.parentWidget() == nullptr ? FrameToCome(Window) : FrameOf(*Window.parentWidget()->window());
 }
