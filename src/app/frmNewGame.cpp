@@ -43,6 +43,8 @@ QGroupBox* MakeChoice(QWidget* Form, const QString& Caption, std::array<QRadioBu
     Options[i] = MakeOption(Frame, Name + QString::number(i), Captions[i]);
     Places->addWidget(Options[i], i / Columns, i % Columns);
   }
+  for (QWidget* Part : Frame->findChildren<QWidget*>()) Part->setFont(Form->font());  // styled parts inherit none
+  Frame->setFont(Form->font());
   Frame->setStyleSheet(PaperStyle() + FrameStyle.arg(Brass.name()));
   // As much as is there, where a style would ask for more.
   const int Title = Frame->fontMetrics().horizontalAdvance(Caption) + 14;
