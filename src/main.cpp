@@ -33,7 +33,8 @@ int main(int argc, char** argv) {
                           qEnvironmentVariableIsSet("WAYLAND_DISPLAY") && qEnvironmentVariableIsSet("DISPLAY");
   if (PrefersX11) qputenv("QT_QPA_PLATFORM", "xcb;wayland");
   QImageReader::setAllocationLimit(64);  // MB of a background, decoded as small as can be, but not yet stretched
-  QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*=false"));  // a broken picture is no news
+  // A broken picture is no news, nor is a reader that asks for a window when it has gone.
+  QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*=false\nqt.accessibility.atspi=false"));
   const blunko::Folders Where = blunko::Folders::OfProgram();
   const blunko::IniInfo Info(Where.InfoPath());
   const int Scale = blunko::ReadScale(Info);
