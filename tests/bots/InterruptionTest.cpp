@@ -9,7 +9,7 @@ namespace blunko::test {
 /// reader can, in waits and behind boxes and dialogs.
 class Vandal {
  public:
-  explicit Vandal(std::uint32_t Seed) : chance(Seed) {
+  explicit Vandal(std::uint32_t Seed) : luck(Seed) {
     screen.OnEvents = screen.OnSleep = others.OnDialog = [this] { Deliver(); };
     screen.OnBox = [this] {
       if (screen.Log.back().find("contact Tollmoor") != std::string::npos) fault = "guard " + screen.Log.back();
@@ -30,7 +30,7 @@ class Vandal {
   }
 
  private:
-  int Pick(int Bound) { return static_cast<int>(chance() % static_cast<unsigned>(Bound)); }
+  int Pick(int Bound) { return static_cast<int>(luck.Chance() % static_cast<unsigned>(Bound)); }
 
   void Deliver() {
     screen.Log.clear();
@@ -82,8 +82,7 @@ class Vandal {
     table.Begin(Seats, 5000, Pick(2) == 0 ? 500 : 1000);
   }
 
-  std::minstd_rand chance;
-  Luck luck{chance};
+  Luck luck;
   Table table{nullptr, &luck};
   RecordingDesktop& screen = table.Screen;
   RecordingProgram& others = table.Others;

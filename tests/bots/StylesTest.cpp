@@ -45,7 +45,6 @@ TEST(Styles, PlayTheirTurnsByTheirNumbers) {
   } Rows[] = {
       {"Simple", "takes all, passes at 400", "115553", 500, 700, 6},
       {"Simple", "350 isn't enough: rolls the one die left and busts", "1151133", 500, 2050, 6},
-      {"Moron", "takes the first scorer and passes", "134622", 500, 100, 6},
       {"Moron", "all score: takes one after the other, then rolls", "111446155234623", 0, 1000, 6},
       {"Normal", "an early single one is taken alone, five dice are rolled", "11534622346", 500, 0, 11},
       {"Normal", "three twos are left for a single one", "12223423346", 500, 0, 11},
@@ -146,8 +145,7 @@ TEST(Styles, EndWithTheirGameAndReportWhatTheyCannotPlay) {
 }
 
 TEST(HandOver, AThousandGamesEndAsEverAndUseNoMoreStackThanOne) {
-  std::minstd_rand Chance(12345);
-  Luck Numbers(Chance);
+  Luck Numbers(12345);
   PlayingTable table(&Numbers);
   int Games = 0;
   std::uint64_t Signature = 0;

@@ -9,12 +9,11 @@ namespace blunko::test {
 TEST(FreshGame, ReadsAllSeats) {
   Table table;
   GameSetup Setup;
-  Setup.Seats[1] = {"Bot", true, Simple};
   Setup.Seats[7] = {"Last", true, Genius};
-  table.game.FreshGame(Setup);
-  Setup.Seats[1].Style = 0;
-  Setup.Seats[7].Style = 8;
-  table.game.FreshGame(Setup);
+  for (const std::uint8_t Style : std::array<std::uint8_t, 3>{Simple, 0, 8}) {
+    Setup.Seats[1] = {"Bot", true, Style};
+    table.game.FreshGame(Setup);
+  }
   EXPECT_EQ(table.m.NumPlayers, 2) << "one player is a game of two seats";
   EXPECT_EQ(table.m.PlayerStyle[1], Simple) << "a number that is no style leaves the seat's";
   EXPECT_EQ(table.m.PlayerStyle[7], Genius) << "seats beyond the number are read too";
@@ -187,10 +186,7 @@ TEST(Commands, NewGameAndTheEndAreAskedForAndClearUp) {
     bool GameRuns, PanelOpen, Yes;
     std::string Told;
   } Rows[] = {
-      {"no game, no question", CloseBox, 0, false, false, false, "exit"},
       {"Esc takes the other forms along", Escape, 0, false, false, false, "unload others; exit"},
-      {"No: play on", CloseBox, 0, true, false, false, "beep; " + Question},
-      {"Yes", Escape, 0, true, false, true, "unload others; beep; " + Question + "; exit"},
       {"Esc closes the panel first", Escape, 0, true, true, true, "cancel options; hide options"},
       {"the close box doesn't", CloseBox, 0, true, true, true, "beep; " + Question + "; exit"},
       {"F2: Yes", F2, 0, true, false, true, "beep; " + Question + "; new game"},

@@ -32,7 +32,7 @@ if "SESSION" in os.environ:
     from gi.repository import GLib
 
 
-def start(program, stderr=None, **environment):
+def start(program, stderr):
     """The program, listened to."""
     heard.clear()
     if not listeners:
@@ -42,7 +42,7 @@ def start(program, stderr=None, **environment):
         pyatspi.Registry.registerEventListener(lambda event: heard.append(event.any_data), "object:announcement")
         pyatspi.Registry.registerEventListener(lambda event: times.append(time.time()), "object")
     return subprocess.Popen([program], env={**os.environ, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-                                            "SDL_AUDIODRIVER": "dummy", **environment}, stderr=stderr)
+                                            "SDL_AUDIODRIVER": "dummy"}, stderr=stderr)
 
 
 def hear(seconds=0):
@@ -52,7 +52,7 @@ def hear(seconds=0):
         time.sleep(0.001)
 
 
-def wait_for(find, why, limit=30, fail=sys.exit):
+def wait_for(find, why, limit=30):
     end = time.time() + limit
     while time.time() < end:
         hear()
@@ -63,7 +63,7 @@ def wait_for(find, why, limit=30, fail=sys.exit):
         if found:
             return found
         time.sleep(0.05)
-    fail(f"waited in vain for {why}; heard: {heard}")
+    sys.exit(f"waited in vain for {why}; heard: {heard}")
 
 
 def everything(node, fits=lambda node: True):

@@ -98,7 +98,6 @@ TEST_F(GameSettingsTest, SavesTheSetupAsItsThreeTexts) {
             "defPlayerNameString=Player1|Deep|Player3|~|~|~|~|~|\n"
             "defPlayerIsCompString=False|True|False|~|~|~|~|~|\n"
             "defPlayerStyleString=00|5|22|33|44|55|66|77|\n");
-  EXPECT_EQ(ReadSetup(Info(), Load()), Three);
 }
 
 TEST_F(GameSettingsTest, AHandEditedSetupTakesTheDefaultForEachUnusableField) {

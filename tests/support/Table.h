@@ -37,8 +37,8 @@ class ScriptedDice : public NumberSource {
 };
 
 struct Luck : NumberSource, UniformSource {
-  std::minstd_rand& Chance;
-  explicit Luck(std::minstd_rand& Source) : Chance(Source) {}
+  std::minstd_rand Chance;
+  explicit Luck(std::uint32_t Seed) : Chance(Seed) {}
   std::int32_t UtilRandom(std::int32_t Bound) override {
     return 1 + static_cast<std::int32_t>(Chance() % static_cast<unsigned>(Bound));
   }
@@ -60,8 +60,8 @@ class RecordingDesktop : public Desktop {
 
   std::vector<std::string> Log;
   bool Answer = true;
-  bool TellsAll =
-      false;  ///< all that changes on the screen, when it gets there; else what a refresh does to the status
+  /// All that changes on the screen, when it gets there; else what a refresh does to the status.
+  bool TellsAll = false;
   std::function<void()> OnEvents, OnSleep, OnBox;
 
   void Refresh() override { Tell("status", t.lblStatus.Caption), Show(); }
