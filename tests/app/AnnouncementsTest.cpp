@@ -39,22 +39,6 @@ struct Listener : Table {
   }
 };
 
-TEST(Announcements, ARollIsToldByItsScorers) {
-  const std::pair<const char*, const char*> Rows[] = {
-      {"222346", "three twos score"},
-      {"122346", "a one scores"},
-      {"133335", "a one, four threes and a five score"},
-      {"123456", "a straight scores"},
-      {"223366", "three pairs score"},
-  };
-  for (const auto& [Faces, Words] : Rows) {
-    Table Seats;
-    Seats.Begin({"Ann", "Bob"});
-    Seats.Play(Faces);
-    EXPECT_EQ(ScorersInWords(Seats.m), Words);
-  }
-}
-
 TEST(Announcements, AGameAsAListenerHearsIt) {
   const std::pair<const char*, const char*> Rows[] = {
       {"S", "Ann 0, Normal 0 and Simple 0 points. Ann is on turn, 0 points this turn."},
@@ -81,6 +65,13 @@ TEST(Announcements, AGameAsAListenerHearsIt) {
       {"wait 2000", "Simple banks 0 and has 0 points."},
       {"x", "Ann is on turn with 0 points. Last Roll - Need 5050 To Take The Lead. Roll the dice."},
       {"x", ""},
+      {"123456", "Rolled one, two, three, four, five, six: a straight scores. Select Dice."},
+      {"@0", "Taken: 1500 points this turn. All dice score - You must roll."},
+      {"223366", "Rolled two, two, three, three, six, six: three pairs score. Select Dice."},
+      {"@0", "Taken: 2000 points this turn. All dice score - You must roll."},
+      {"133335", "Rolled one, three, three, three, three, five: a one, four threes and a five score. Select Dice."},
+      {"@1", "Taken: 2600 points this turn. Select Dice."},
+      {"12", "Rolled one, two: a one scores. Select Dice or Pass Dice."},
       {"bank 600", "Ann banks 600 and has 600 points. | Normal wins with 5000 points."},
       {"S", "Ann 600, Normal 5000 and Simple 0 points. No game is on."},
   };

@@ -120,7 +120,6 @@ TEST_F(Playing, EveryFaceOfTumblingDiceIsPaintedAtOnce) {
   Begin(2, false);
   Run->Screen.WaitFactor = 0.5;
   ASSERT_TRUE(QTest::qWaitForWindowExposed(Run->Form.get(), 2000));
-  Dice->Faces.clear();
   for (int i = 0; i < 36; ++i) Dice->Faces.push_back(i < 30 ? (i / 6 + i % 6) % 6 + 1 : 36 - i);
   Run->Form->Picture1[0]->installEventFilter(&Seen);
   Click(Run->Form->cmdRoll);
