@@ -32,7 +32,7 @@ if "SESSION" in os.environ:
     from gi.repository import GLib
 
 
-def start(program, stderr):
+def start(program, stderr=None, **environment):
     """The program, listened to."""
     heard.clear()
     if not listeners:
@@ -42,7 +42,7 @@ def start(program, stderr):
         pyatspi.Registry.registerEventListener(lambda event: heard.append(event.any_data), "object:announcement")
         pyatspi.Registry.registerEventListener(lambda event: times.append(time.time()), "object")
     return subprocess.Popen([program], env={**os.environ, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-                                            "SDL_AUDIODRIVER": "dummy"}, stderr=stderr)
+                                            "SDL_AUDIODRIVER": "dummy", **environment}, stderr=stderr)
 
 
 def hear(seconds=0):
