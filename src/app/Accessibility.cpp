@@ -191,6 +191,7 @@ void TableNews::Tell(const frmMain& Form) {
   for (QWidget* Widget : Form.findChildren<QWidget*>()) {
     if (!IsOfTable(Widget)) continue;
     const QAccessibleInterface& Now = *QAccessible::queryAccessibleInterface(Widget);
+    if (Now.role() == QAccessible::Grouping) continue;  // a mark's die tells by its name what the mark does
     const QAccessible::State State = Now.state();
     const bool There = !State.invisible, Disabled = State.disabled;
     Part& Old = told.try_emplace(Widget, Part{There, Disabled, Now.text(QAccessible::Name)}).first->second;
