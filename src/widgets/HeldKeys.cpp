@@ -4,11 +4,18 @@
 #include <QKeyEvent>
 #include <QWindow>
 
+#include <chrono>
 #include <utility>
 
 #include "widgets/X11.h"
 
 namespace blunko {
+
+namespace {
+
+constexpr std::chrono::milliseconds LookEvery{40};
+
+}  // namespace
 
 HeldKeys::HeldKeys(bool RepeatsAreMarked) : marked(RepeatsAreMarked) {
   qGuiApp->installEventFilter(this);
@@ -16,7 +23,10 @@ HeldKeys::HeldKeys(bool RepeatsAreMarked) : marked(RepeatsAreMarked) {
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState State) {
     // What another program has seen pressed is no command here.
     if (State == Qt::ApplicationActive) stale.merge(KeysDown().value_or(std::set<quint32>()));
+    Look();
   });
+  again.setSingleShot(true);
+  connect(&again, &QTimer::timeout, this, &HeldKeys::Look);
 }
 
 quint32 HeldKeys::PlaceOf(const QKeyEvent& Key) {
@@ -27,8 +37,15 @@ quint32 HeldKeys::PlaceOf(const QKeyEvent& Key) {
 void HeldKeys::BecomeStale() {
   stale.merge(pressed);
   pressed.clear();
-  // A key that was let go between two windows was let go unseen.
-  if (const auto Down = KeysDown()) std::erase_if(stale, [&](quint32 Key) { return !Down->contains(Key); });
+  Look();
+}
+
+/// A key that is let go between two windows is let go unseen.
+void HeldKeys::Look() {
+  const auto Down = KeysDown();
+  if (!Down) return;
+  std::erase_if(stale, [&](quint32 Key) { return !Down->contains(Key); });
+  if (!stale.empty()) again.start(LookEvery);
 }
 
 bool HeldKeys::eventFilter(QObject* Receiver, QEvent* Event) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 
 #include <optional>
 #include <set>
@@ -24,10 +25,12 @@ class HeldKeys : public QObject {
 
  private:
   void BecomeStale();
+  void Look();
 
   const bool marked;
   std::set<quint32> pressed;  ///< in the window that is active
   std::set<quint32> stale;    ///< since before it became active
+  QTimer again;               ///< for a look at those, as long as there are any
   /// Time of a press that has been offered as a shortcut: it may come once more, as itself.
   std::optional<quint64> offered;
 };
