@@ -150,8 +150,6 @@ TEST(OptionsPanel, DiceOfARunningGameComeBackInTheChosenSetWithTheChosenMarks) {
     EXPECT_EQ(Form.Picture1[0]->Picture(), 101);
     EXPECT_FALSE(Form.cmdRoll->isEnabled() || Form.picMarker[1]->isVisible());
     EXPECT_TRUE(Dressed.m.PauseComputer);
-    Dressed.m.ActionSet = "s";  // a computer has come that far meanwhile
-    Dressed.t.cmdRoll.Enabled = false;
     Dressed.Close(Save);
     for (const int First : {0, 10}) {
       for (int i = First; i < First + Dice; ++i) {
@@ -160,7 +158,9 @@ TEST(OptionsPanel, DiceOfARunningGameComeBackInTheChosenSetWithTheChosenMarks) {
       }
     }
     EXPECT_EQ(Form.picMarker[1]->isVisible(), Before.picMarker[1] && !Save);
-    EXPECT_FALSE(Form.cmdRoll->isEnabled() || Dressed.m.PauseComputer) << "as the game needs it now";
+    EXPECT_EQ(Dressed.t.cmdRoll.Enabled, Before.cmdRoll.Enabled);
+    EXPECT_FALSE(Dressed.m.PauseComputer);
+    EXPECT_EQ(Dressed.game.Fault(), "");
   }
 }
 
