@@ -17,6 +17,7 @@
 #include <thread>
 #include <vector>
 
+#include "bench/Quiet.h"
 #include "bots/ComputerPlayers.h"
 #include "util/UtilRandom.h"
 

@@ -2,6 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "bench/Quiet.h"
 #include "engine/Game.h"
 #include "engine/ScoreDice.h"
 

@@ -4,6 +4,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "bench/Quiet.h"
 #include "table/frmMain.h"
 #include "util/UtilRandom.h"
 

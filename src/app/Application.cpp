@@ -88,7 +88,6 @@ bool Application::Main() {
   State.TempFolder = folders.Temp.toStdString();
   ExtractSounds(folders.Temp);
   LoadForm();
-  Table.ClearAtStart();
   if (!Asks) ShowIcon();
   Form->show();
   return true;

@@ -2,8 +2,8 @@
 
 #include <QVBoxLayout>
 
-#include "storage/DayNumber.h"
 #include "storage/NameRule.h"
+#include "storage/Numbers.h"
 #include "util/HighRollers.h"
 #include "widgets/FormBuilder.h"
 #include "widgets/Materials.h"

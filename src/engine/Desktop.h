@@ -30,18 +30,4 @@ class Desktop {
   virtual void SetMousePointer(MousePointer Pointer) = 0;
 };
 
-/// A desktop on which nothing happens: no time passes, every question is answered with Yes.
-class QuietDesktop : public Desktop {
- public:
-  void Refresh() override {}
-  void Sleep(int) override {}
-  void PumpEvents() override {}
-  void WaitForEvents() override {}
-  void Beep() override {}
-  void PlaySoundFile(const std::string&, bool) override {}
-  void MessageBox(const std::string&) override {}
-  bool AskYesNo(const std::string&, const std::string&, bool) override { return true; }
-  void SetMousePointer(MousePointer) override {}
-};
-
 }  // namespace blunko

@@ -38,7 +38,6 @@ class Game {
   void OfferScores(HighRollersCheck& Lists) { rollers = &Lists; }
 
   // A fresh game and the end of one.
-  void ClearAtStart();
   void FreshGame(const GameSetup& Setup);
   void EndGame();
   /// Margin of victory: the highest banked score less the next highest.

@@ -1,19 +1,8 @@
 #include <algorithm>
 
 #include "engine/Game.h"
-#include "engine/ScoreDice.h"
 
 namespace blunko {
-
-void Game::ClearAtStart() {
-  m.DieScoreCode.fill(NoScore);
-  m.DieUp.fill(false);
-  m.TrayUsed.fill(false);
-  m.TurnScore = 0;
-  m.OutPlayer = Absent;
-  m.ScorePadShown = false;
-  m.CurrentPlayer = Absent;
-}
 
 void Game::FreshGame(const GameSetup& Setup) {
   ++m.GameNumber;

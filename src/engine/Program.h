@@ -37,21 +37,4 @@ class Program {
   virtual void Abort() = 0;
 };
 
-/// A program without dialogs: a game that ends isn't followed by another.
-class QuietProgram : public Program {
- public:
-  void Announce(GameEvent) override {}
-  void UpdateActivePlayer() override {}
-  void ShowScorePad() override {}
-  void FocusTable() override {}
-  void ShowCongrats() override {}
-  void ShowNewGame() override {}
-  void ShowOptions() override {}
-  void SettleOptions(bool) override {}
-  void HideOptions() override {}
-  void UnloadOtherForms() override {}
-  void ExitProgram() override {}
-  void Abort() override {}
-};
-
 }  // namespace blunko

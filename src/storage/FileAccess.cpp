@@ -156,8 +156,8 @@ FileLock::~FileLock() {
   close(handle);
 }
 
-void SaveTrouble::Tell(const QString& Path) {
-  if (std::exchange(told, true)) return;
+void TellUnsaved(const QString& Path, bool& Told) {
+  if (std::exchange(Told, true)) return;
   std::fprintf(stderr, "%s can't be saved: what is new is kept, and saved as soon as it can be\n", qPrintable(Path));
 }
 

@@ -54,13 +54,7 @@ class FileLock {
   int handle = -1;
 };
 
-/// Tells on standard error, once in the life of the object, that a file can't be saved.
-class SaveTrouble {
- public:
-  void Tell(const QString& Path);
-
- private:
-  bool told = false;
-};
+/// Tells on standard error that a file can't be saved, unless `Told` already, and notes it there.
+void TellUnsaved(const QString& Path, bool& Told);
 
 }  // namespace blunko

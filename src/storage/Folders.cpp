@@ -17,8 +17,6 @@ const QString FolderName = QStringLiteral("tollmoor-blunko");
 constexpr QFile::Permissions OwnerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
 constexpr qint64 LargestState = 1 << 20;  // bytes of a file
 
-bool CanWriteIn(const QString& Folder) { return QFileInfo(Folder).isDir() && QFileInfo(Folder).isWritable(); }
-
 /// Makes the folder and those above it that are missing, closed to everybody else.
 bool MakePrivate(const QString& Folder) {
   const QFileInfo Found(Folder);
@@ -48,28 +46,23 @@ Folders Folders::OfProgram() {
 }
 
 Folders Folders::Of(const QString& Path) {
-  Folders Found;
   const QFileInfo Executable(Path);
-  Found.Program = Executable.absolutePath();
-  Found.BaseName = Executable.completeBaseName();
-  Found.State = Found.Program;
-  Found.Temp = GetTempFolder();
-  const bool Installed = !InstalledFiles(Found.Program).isEmpty();
-  if (!Installed && CanWriteIn(Found.State)) return Found;
+  const QString Program = Executable.absolutePath();
+  const Folders Beside{Program, Executable.completeBaseName(), Program, GetTempFolder()};
+  const bool Installed = !InstalledFiles(Program).isEmpty();
+  if (!Installed && QFileInfo(Program).isWritable()) return Beside;
 
   const auto Own = [](QStandardPaths::StandardLocation Kind) {
     QString Folder = QStandardPaths::writableLocation(Kind) + QStringLiteral("/TollmoorBlunko");
     MakePrivate(Folder);
     return Folder;
   };
-  Folders Earlier = Found;
+  Folders Found = Beside;
   Found.State = Own(QStandardPaths::GenericConfigLocation);
+  const QString ListsInState = Found.ListsPath();
   if (Installed) Found.Data = Own(QStandardPaths::GenericDataLocation);
-  TakeOver(Earlier.InfoPath(), Found.InfoPath());
-  for (const QString& Folder : {Found.State, Earlier.State}) {
-    Earlier.State = Folder;
-    TakeOver(Earlier.ListsPath(), Found.ListsPath());
-  }
+  TakeOver(Beside.InfoPath(), Found.InfoPath());
+  for (const QString& Lists : {ListsInState, Beside.ListsPath()}) TakeOver(Lists, Found.ListsPath());
   return Found;
 }
 
@@ -90,7 +83,7 @@ QString GetTempFolder() {
   for (const QString& Parent : {IsPrivate(Runtime) ? Runtime : QString(), Cache}) {
     if (Parent.isEmpty()) continue;
     const QString Folder = Parent + QLatin1Char('/') + FolderName;
-    if (IsPrivate(Folder) || (MakePrivate(Folder) && IsPrivate(Folder))) return Folder + QLatin1Char('/');
+    if (MakePrivate(Folder) && IsPrivate(Folder)) return Folder + QLatin1Char('/');
   }
   if (QDir::tempPath().isEmpty()) return {};  // the one that the system names isn't there
   // A name that nobody can take beforehand; the next start finds the folder by its owner.

@@ -50,7 +50,6 @@ class GameSettings {
   std::uint32_t textColour = 0;
 
  public:
-  explicit GameSettings(const Folders& Where) : GameSettings(Where, IniInfo(Where.InfoPath())) {}
   /// Shares what `Info` has read.
   GameSettings(const Folders& Where, const IniInfo& Info);
 

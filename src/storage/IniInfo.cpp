@@ -3,7 +3,9 @@
 #include <QDateTime>
 #include <QList>
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 #include "storage/FileAccess.h"
 
@@ -90,17 +92,11 @@ QByteArray WithBytes(QByteArray Text, const QString& Key, const QByteArray& Valu
   return Text.insert(At, Open ? LineEnd + Line : Line);
 }
 
-/// A value as it came: letters or the bytes of a path.
-struct Written {
-  QString Key;
-  QString Letters;
-  std::optional<QByteArray> Path{};
-};
+/// What is written: its key, and how a text takes it in.
+using Written = std::pair<QString, std::function<QByteArray(const QByteArray&)>>;
 
 QByteArray WithAll(QByteArray Text, const QList<Written>& Values) {
-  for (const auto& [Key, Letters, Path] : Values) {
-    Text = Path ? WithBytes(Text, Key, *Path) : IniInfo::WithValue(Text, Key, Letters);
-  }
+  for (const auto& [Key, Into] : Values) Text = Into(Text);
   return Text;
 }
 
@@ -130,7 +126,7 @@ class IniInfo::File {
   bool known = false;      ///< the text is still right while the stamp is the same
   QList<Written> unsaved;  ///< values that the file hasn't taken yet
   int gathering = 0;
-  SaveTrouble trouble;
+  bool toldUnsaved = false;
 };
 
 QString IniInfo::FindValue(const QByteArray& Text, const QString& Key) {
@@ -150,7 +146,9 @@ QString IniInfo::ReadInfoValue(const QString& Key, const QString& Default) const
   return Value.isEmpty() ? Default : Value;
 }
 
-void IniInfo::WriteInfoValue(const QString& Key, const QString& Value) const { file->Write({Key, Value}); }
+void IniInfo::WriteInfoValue(const QString& Key, const QString& Value) const {
+  file->Write({Key, [=](const QByteArray& Text) { return WithValue(Text, Key, Value); }});
+}
 
 QByteArray IniInfo::ReadInfoPath(const QString& Key, const QByteArray& Default) const {
   const QByteArray Path = FindBytes(file->Text(), Key).left(LongestValue);
@@ -158,7 +156,8 @@ QByteArray IniInfo::ReadInfoPath(const QString& Key, const QByteArray& Default) 
 }
 
 void IniInfo::WriteInfoPath(const QString& Key, const QByteArray& Path) const {
-  if (Path.size() <= LongestValue) file->Write({Key, {}, Path});
+  if (Path.size() > LongestValue) return;
+  file->Write({Key, [=](const QByteArray& Text) { return WithBytes(Text, Key, Path); }});
 }
 
 WrittenTogether::WrittenTogether(const IniInfo& Info) : file(Info.file) { file->Gather(); }
@@ -175,7 +174,7 @@ const QByteArray& IniInfo::File::Text() {
 }
 
 void IniInfo::File::Write(const Written& Value) {
-  unsaved.removeIf([&Value](const Written& Old) { return Old.Key.compare(Value.Key, Qt::CaseInsensitive) == 0; });
+  unsaved.removeIf([&Value](const Written& Old) { return Old.first.compare(Value.first, Qt::CaseInsensitive) == 0; });
   unsaved << Value;
   known = false;
   if (gathering == 0) Save();
@@ -191,7 +190,7 @@ void IniInfo::File::Save() {
     const QByteArray New = WithAll(*Old, unsaved);
     if (New == *Old || (New.size() <= LargestFile && ReplaceFile(path, New))) return unsaved.clear();
   }
-  trouble.Tell(path);
+  TellUnsaved(path, toldUnsaved);
 }
 
 /// What the file holds: an empty text without one, nothing when it may be good but can't be had. What can't be an info

@@ -3,8 +3,8 @@
 #include <QDate>
 #include <QStringList>
 
-#include "storage/DayNumber.h"
 #include "storage/NameRule.h"
+#include "storage/Numbers.h"
 
 namespace blunko {
 
@@ -95,7 +95,7 @@ bool HighRollers::Save(const RollerLists& New) {
     unsaved.clear();
     return true;
   }
-  trouble.Tell(Path);
+  TellUnsaved(Path, toldUnsaved);
   return false;
 }
 

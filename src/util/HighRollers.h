@@ -71,7 +71,7 @@ class HighRollers : public HighRollersCheck {
   HighRollersScreen& screen;
   RollerLists lists = RollerLists::Default();
   std::vector<std::pair<WhichList, HighRoller>> unsaved;  ///< entries of `lists` that the file hasn't taken yet
-  SaveTrouble trouble;
+  bool toldUnsaved = false;
 };
 
 }  // namespace blunko

@@ -105,7 +105,7 @@ TEST(CustomizeSounds, EveryEntryOfTheListIsItsEventAndOKAloneWritesAll) {
     }
     Click(Button);
     for (const SoundEvent& Event : SoundEvents) {
-      EXPECT_EQ(GameSettings(At.Where).GetSound(Event.Name) == Own.toStdString(), Button == Form.cmdOK);
+      EXPECT_EQ(GameSettings(At.Where, At.Info).GetSound(Event.Name) == Own.toStdString(), Button == Form.cmdOK);
     }
     for (QWidget* Focus : {static_cast<QWidget*>(Form.lstEvents), static_cast<QWidget*>(Form.txtSound)}) {
       for (const auto Key : {Qt::Key_Delete, Qt::Key_8, Qt::Key_Backspace}) QTest::keyClick(Focus, Key);

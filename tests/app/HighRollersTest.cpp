@@ -4,7 +4,7 @@
 
 #include "app/frmHighRollers.h"
 #include "app/frmViewHRListYN.h"
-#include "storage/DayNumber.h"
+#include "storage/Numbers.h"
 #include "tests/app/Run.h"
 
 namespace blunko::test {

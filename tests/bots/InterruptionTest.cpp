@@ -24,7 +24,6 @@ class Vandal {
 
   /// Plays until the program quits or the steps are used up. Returns what went wrong, empty if nothing did.
   std::string Play(int Steps) {
-    game.ClearAtStart();
     for (stepsLeft = Steps; stepsLeft > 0 && !table.m.Quitting && fault.empty(); --stepsLeft) Act();
     return fault;
   }

@@ -12,7 +12,7 @@ namespace blunko::test {
 struct GameSettingsTest : testing::Test {
   GameSettingsTest() { place.Put("Background/Satin.jpg", "a picture"); }
 
-  GameSettings Load() const { return GameSettings(Folders{place.Path(), "Game", place.Path(), "/tmp/own/"}); }
+  GameSettings Load() const { return GameSettings({place.Path(), "Game", place.Path(), "/tmp/own/"}, Info()); }
   GameSettings Load(const QByteArray& Keys) const {
     place.Put("Game.ini", "[Info]\n" + Keys);
     return Load();

@@ -120,7 +120,7 @@ class RecordingDesktop : public Desktop {
 
 /// Writes the calls into the log of the desktop, and that a computer's turn has begun; a dialog does what the test
 /// gives it to do.
-struct RecordingProgram : QuietProgram, ComputerSeats, HighRollersCheck {
+struct RecordingProgram : Program, ComputerSeats, HighRollersCheck {
   explicit RecordingProgram(std::vector<std::string>& Lines) : Log(Lines) {}
 
   std::vector<std::string>& Log;
@@ -138,6 +138,8 @@ struct RecordingProgram : QuietProgram, ComputerSeats, HighRollersCheck {
     if (OnEvent) OnEvent(Event);
   }
   void UpdateActivePlayer() override { ++PadUpdates; }
+  void ShowScorePad() override {}
+  void FocusTable() override {}
   void RunComputerTurn() override { Log.push_back("computer turn"); }
   void CheckHighTurn(const std::string& Name, std::int16_t Score) override {
     Open("high turn " + Name + " " + std::to_string(Score));

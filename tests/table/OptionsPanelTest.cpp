@@ -24,7 +24,7 @@ struct Home {
     Green.fill(Qt::darkGreen);
     for (const char* Name : {"Satin.jpg", "Forest.jpg"}) Green.save(Picture(Name));
     Folder.Put("Game.ini", "[Info]\n" + InfoText);
-    Settings.emplace(Where);
+    Settings.emplace(Where, IniInfo(Where.InfoPath()));
   }
   QString Picture(const QString& Name) const { return Folder.Path("Background/" + Name); }
 };
@@ -106,7 +106,7 @@ TEST(OptionsPanel, TrayColoursFollowTheMomentAtWhichASetIsPainted) {
     Dressed.Play("123446", 0);
     EXPECT_NE(FindDiceSet(Dressed.Box(1)->Picture() - 2), nullptr) << "a two doesn't look like another face";
     EXPECT_EQ(Dressed.Form.Wears.Trays, End);
-    const GameSettings Kept(Dressed.Where);
+    const GameSettings Kept(Dressed.Where, IniInfo(Dressed.Where.InfoPath()));
     EXPECT_EQ(Kept.DieColour, Base) << "a set off the list stays in the settings";
     EXPECT_EQ(Kept.ComputerSpeed, 7) << "and so does a speed that no choice stands for";
   }
@@ -176,7 +176,8 @@ TEST(OptionsPanel, APictureThatVanishedIsNotSaved) {
     return Table.grab().toImage().pixelColor(0, 0) == Table.palette().color(QPalette::Window);
   })) << "plain";
   Dressed.Close(true);
-  EXPECT_EQ(GameSettings(Dressed.Where).Background, Dressed.Picture("Satin.jpg")) << "the next start finds one";
+  EXPECT_EQ(GameSettings(Dressed.Where, IniInfo(Dressed.Where.InfoPath())).Background, Dressed.Picture("Satin.jpg"))
+      << "the next start finds one";
 }
 
 }  // namespace blunko::test

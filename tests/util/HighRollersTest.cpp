@@ -3,7 +3,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-#include "storage/DayNumber.h"
+#include "storage/Numbers.h"
 #include "tests/support/Place.h"
 #include "util/HighRollers.h"
 
