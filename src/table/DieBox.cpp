@@ -4,51 +4,37 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <utility>
+
 #include "widgets/Materials.h"
 
 namespace blunko {
 
-namespace {
-
 constexpr qreal RingRadius = 10;           // px
 constexpr QRect FeltPlace(0, 0, 359, 50);  // in a tray: its right and lower edges are the frame's
-
-int ButtonNumber(Qt::MouseButton Button) {
-  switch (Button) {
-    case Qt::RightButton: return 2;
-    case Qt::MiddleButton: return 4;
-    default: return 1;
-  }
-}
-
-}  // namespace
 
 DieBox::DieBox(int Index, Bitmaps& Pictures, QWidget* Parent)
     : QAbstractButton(Parent), index(Index), bitmaps(Pictures) {
   setAttribute(Qt::WA_Hover);
   setFocusPolicy(Qt::TabFocus);
   hide();
-  connect(this, &QAbstractButton::clicked, this, [this] { emit mouseUp(index, ButtonNumber(Qt::LeftButton)); });
+  connect(this, &QAbstractButton::clicked, this, [this] { emit mouseUp(index, Qt::LeftButton); });
 }
 
 void DieBox::setPicture(int Number) {
-  if (picture == Number) return;
-  picture = Number;
+  if (std::exchange(picture, Number) == Number) return;
   setVisible(picture != 0);
   parentWidget()->update();  // its shadow, too
 }
 
 void DieBox::setTakeable(bool Takeable) {
-  if (takeable == Takeable) return;
-  takeable = Takeable;
+  if (std::exchange(takeable, Takeable) == Takeable) return;
   setCursor(takeable ? Qt::PointingHandCursor : Qt::ArrowCursor);
   update();
 }
 
 void DieBox::setPale(bool Pale) {
-  if (pale == Pale) return;
-  pale = Pale;
-  parentWidget()->update();
+  if (std::exchange(pale, Pale) != Pale) parentWidget()->update();
 }
 
 void DieBox::paintEvent(QPaintEvent*) {
@@ -82,7 +68,7 @@ void DieBox::mouseReleaseEvent(QMouseEvent* Event) {
   QAbstractButton::mouseReleaseEvent(Event);
   Event->accept();
   if (Event->button() == Qt::LeftButton) return;
-  if (hitButton(Event->position().toPoint())) emit mouseUp(index, ButtonNumber(Event->button()));
+  if (hitButton(Event->position().toPoint())) emit mouseUp(index, Event->button());
 }
 
 /// Left and Right go from die to die within the row.
@@ -96,8 +82,7 @@ void DieBox::keyPressEvent(QKeyEvent* Event) {
 }
 
 void DiceTray::setBackColor(const QColor& Colour) {
-  if (backColor == Colour) return;
-  backColor = Colour;
+  if (std::exchange(backColor, Colour) == Colour) return;
   felt = {};
   update();
 }
@@ -115,7 +100,7 @@ void DiceTray::paintEvent(QPaintEvent*) {
 void DiceTray::mousePressEvent(QMouseEvent* Event) { Event->accept(); }
 
 void DiceTray::mouseReleaseEvent(QMouseEvent* Event) {
-  if (rect().contains(Event->position().toPoint())) emit mouseUp(ButtonNumber(Event->button()));
+  if (rect().contains(Event->position().toPoint())) emit mouseUp(Event->button());
 }
 
 }  // namespace blunko

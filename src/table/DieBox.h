@@ -26,7 +26,7 @@ class DieBox : public QAbstractButton {
   void DrawShadow(QPainter& Painter) const;
 
  signals:
-  /// `Button`: 1 left, 2 right, 4 middle.
+  /// `Button`: 1 left, 2 right, 4 middle, as the toolkit numbers them; any other one is the game's to read.
   void mouseUp(int Index, int Button);
 
  protected:
