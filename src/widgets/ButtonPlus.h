@@ -20,7 +20,6 @@ class ButtonPlus : public QPushButton {
   void setHero();
 
   QSize sizeHint() const override;
-  QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void paintEvent(QPaintEvent* Event) override;

@@ -2,31 +2,25 @@
 
 #include <QPainter>
 
+#include <utility>
+
+#include "widgets/Letters.h"
+#include "widgets/Materials.h"
 #include "widgets/Pictures.h"
 
 namespace blunko {
 
-namespace {
-
-const QColor LoudRed(176, 0, 24);
-constexpr int Side = 3;  // px, for the edges of the letters
-
-}  // namespace
-
 void FitLabel::setForeColor(const QColor& Colour) {
-  if (foreColor == Colour) return;
-  foreColor = Colour;
-  update();
+  if (std::exchange(foreColor, Colour) != Colour) update();
 }
 
 void FitLabel::setLoud(bool Loud) {
-  if (loud == Loud) return;
-  loud = Loud;
-  update();
+  if (std::exchange(loud, Loud) != Loud) update();
 }
 
 void FitLabel::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
+  constexpr int Side = 3;  // px, for the edges of the letters
   const QRectF Room = QRectF(contentsRect()).adjusted(Side, 0, -Side, 0);
   QFont Font = font();
   if (loud) {
@@ -34,7 +28,7 @@ void FitLabel::paintEvent(QPaintEvent*) {
     Font.setBold(true);
   }
   const QColor Ink = loud ? LoudRed : foreColor;
-  words.Draw(Painter, Room, alignment(), text(), Font, Ink, GroundUnder(*this, ground, Ink));
+  DrawLetters(Painter, Room, alignment(), text(), Font, Ink, GroundUnder(*this, ground, Ink));
 }
 
 }  // namespace blunko

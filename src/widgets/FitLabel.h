@@ -2,8 +2,6 @@
 
 #include <QLabel>
 
-#include "widgets/Letters.h"
-
 namespace blunko {
 
 class StretchedPicture;
@@ -30,7 +28,6 @@ class FitLabel : public QLabel {
   QColor foreColor = Qt::black;
   StretchedPicture* ground = nullptr;
   bool loud = false;
-  Letters words;
 };
 
 }  // namespace blunko

@@ -1,19 +1,20 @@
 #include "widgets/Letters.h"
 
 #include <QFontMetricsF>
-#include <QImage>
 #include <QPainter>
 
 #include <cmath>
 
 #include "widgets/Fonts.h"
 #include "widgets/Materials.h"
+#include "widgets/Pictures.h"
 
 namespace blunko {
 
 namespace {
 
 constexpr qreal Narrowest = 0.85;  // letters are narrowed so far before they get smaller; the smallest even further
+constexpr int Reach = 5;           // px, of shadow and light beyond the letters
 constexpr double Plain = 7, Least = 4.5;  // contrasts: from the one on no edge, from the other on a hint of a shadow
 
 /// The part of black to white, 0 to 1, that a grey of the luminance has on the screen.
@@ -30,10 +31,30 @@ double StrengthFor(const QColor& Ink, const QColor& Ground) {
   return qBound(0.0, Dark ? 1 - There / qMax(Here, 0.01) : (There - Here) / qMax(1 - Here, 0.01), 1.0);
 }
 
+/// The shadow or light itself, at full strength next to the letters.
+QPixmap EdgeOf(const QString& Text, const QFont& Font, const QColor& Colour, qreal Stretch, qreal Scale) {
+  const QFontMetricsF Metrics(Font);
+  const QSizeF Size(Metrics.horizontalAdvance(Text) * Stretch + 2 * Reach,
+                    std::ceil(Metrics.ascent()) + Metrics.descent() + 2 * Reach);
+  QPixmap Picture = EmptyPicture(Size + QSizeF(1, 1) / Scale, Scale), Edge = Picture;
+  QPainter Painter(&Picture);
+  Painter.translate(Reach, Reach + std::ceil(Metrics.ascent()));
+  Painter.scale(Stretch, 1);
+  Painter.setFont(Font);
+  Painter.setPen(Colour);
+  Painter.drawText(QPointF(), Text);
+  Painter.end();
+  const QImage Soft = Blurred(Picture.toImage(), 2.6 * Scale);
+  Painter.begin(&Edge);
+  for (int Coat = 0; Coat < 12; ++Coat) Painter.drawImage(QPoint(), Soft);
+  Painter.end();
+  return Edge;
+}
+
 }  // namespace
 
-void Letters::Draw(QPainter& Painter, const QRectF& Room, Qt::Alignment Side, const QString& Text, const QFont& Font,
-                   const QColor& Ink, const QColor& Ground) {
+void DrawLetters(QPainter& Painter, const QRectF& Room, Qt::Alignment Side, const QString& Text, const QFont& Font,
+                 const QColor& Ink, const QColor& Ground) {
   if (Text.trimmed().isEmpty()) return;
   const QFont Fitted = FittedFont(Font, Text, Room.width() / Narrowest);
   const QFontMetricsF Metrics(Fitted);
@@ -58,13 +79,11 @@ void Letters::Draw(QPainter& Painter, const QRectF& Room, Qt::Alignment Side, co
   const double Standing = Contrast(Ink, Ground);
   const QColor Edge = BestGround(Ink);
   if (Standing < Least) {
-    const Looks Now{Text, Fitted, Edge.rgb(), Stretch, Scale};
-    if (!(Now == drawn)) {
-      drawn = Now;
-      Render();
-    }
+    const QString Looks = QStringLiteral("letters %1 %2 %3 ").arg(Edge.name()).arg(Stretch).arg(Scale);
+    const QPixmap Behind =
+        Cached(Looks + Fitted.key() + Text, [&] { return EdgeOf(Text, Fitted, Edge, Stretch, Scale); });
     Painter.setOpacity(Ink.alphaF() * StrengthFor(Ink, Ground));
-    Painter.drawPixmap(QPointF(-Reach, -Reach - std::ceil(Metrics.ascent())), edge);
+    Painter.drawPixmap(QPointF(-Reach, -Reach - std::ceil(Metrics.ascent())), Behind);
     Painter.setOpacity(1);
   }
   Painter.scale(Stretch, 1);
@@ -75,28 +94,6 @@ void Letters::Draw(QPainter& Painter, const QRectF& Room, Qt::Alignment Side, co
   }
   Write(Ink);
   Painter.restore();
-}
-
-void Letters::Render() {
-  const QFontMetricsF Metrics(drawn.Font);
-  const QSizeF Size(Metrics.horizontalAdvance(drawn.Text) * drawn.Stretch + 2 * Reach,
-                    std::ceil(Metrics.ascent()) + Metrics.descent() + 2 * Reach);
-  QImage Picture((Size * drawn.Scale).toSize() + QSize(1, 1), QImage::Format_ARGB32_Premultiplied);
-  Picture.setDevicePixelRatio(drawn.Scale);
-  Picture.fill(Qt::transparent);
-  QPainter Painter(&Picture);
-  Painter.translate(Reach, Reach + std::ceil(Metrics.ascent()));
-  Painter.scale(drawn.Stretch, 1);
-  Painter.setFont(drawn.Font);
-  Painter.setPen(QColor(drawn.Edge));
-  Painter.drawText(QPointF(), drawn.Text);
-  Painter.end();
-  edge = QPixmap(Picture.size());
-  edge.setDevicePixelRatio(drawn.Scale);
-  edge.fill(Qt::transparent);
-  const QImage Soft = Blurred(Picture, 2.6 * drawn.Scale);
-  Painter.begin(&edge);
-  for (int Coat = 0; Coat < 12; ++Coat) Painter.drawImage(QPoint(), Soft);  // full strength next to the letters
 }
 
 }  // namespace blunko

@@ -7,11 +7,7 @@
 
 namespace blunko {
 
-namespace {
-
 constexpr int Margin = FocusRingWidth + 1;  // px
-
-}  // namespace
 
 LinkLabel::LinkLabel(const QString& Caption, QWidget* Parent) : QPushButton(Caption, Parent) {
   QFont Font = FontOf(Typeface::Verdana, 9.75);

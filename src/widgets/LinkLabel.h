@@ -13,7 +13,6 @@ class LinkLabel : public QPushButton {
   explicit LinkLabel(const QString& Caption, QWidget* Parent = nullptr);
 
   QSize sizeHint() const override;
-  QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void paintEvent(QPaintEvent* Event) override;

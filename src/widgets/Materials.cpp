@@ -9,13 +9,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
-#include <QPixmapCache>
 #include <QPointer>
 #include <QProxyStyle>
 #include <QRadioButton>
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 #include <numeric>
 
@@ -123,11 +120,8 @@ void DrawNavy(QPainter& Painter, const QRectF& Place) {
   const qreal Scale = Painter.device()->devicePixelRatioF();
   const QString Key = QStringLiteral("navy %1").arg(Scale);
   constexpr QSizeF Whole(393, 513);
-  QPixmap Cloth;
-  if (!QPixmapCache::find(Key, &Cloth)) {
-    Cloth = QPixmap::fromImage(Read(QStringLiteral(":/materials/navy.jpg"), (Whole * Scale).toSize()));
-    QPixmapCache::insert(Key, Cloth);
-  }
+  const QPixmap Cloth = Cached(
+      Key, [&] { return QPixmap::fromImage(Read(QStringLiteral(":/materials/navy.jpg"), (Whole * Scale).toSize())); });
   const qreal Stretch = qMax(1.0, qMax(Place.width() / Whole.width(), Place.height() / Whole.height()));
   Painter.drawPixmap(Place, Cloth, QRectF(QPointF(), Place.size() / Stretch * Scale));
 }
@@ -221,34 +215,28 @@ QPixmap TrayFrame(qreal Scale) {
 QPixmap Felt(const QSize& Size, const QColor& Colour, qreal Scale) {
   const QString Key =
       QStringLiteral("felt %1 %2 %3 %4").arg(Size.width()).arg(Size.height()).arg(Scale).arg(Colour.rgb());
-  QPixmap Dry;
-  if (QPixmapCache::find(Key, &Dry)) return Dry;
-  constexpr int LeastLight = 22;
-  const bool Black = qMax(Colour.red(), qMax(Colour.green(), Colour.blue())) < LeastLight;
-  const QColor Dye = Black ? QColor(LeastLight, LeastLight, LeastLight) : Colour;
-  const QImage Grey = Read(QStringLiteral(":/materials/felt.jpg"), (QSizeF(Size) * Scale).toSize())
-                          .convertToFormat(QImage::Format_Grayscale8);
-  std::int64_t Sum = 0;
-  for (int y = 0; y < Grey.height(); ++y) {
-    const uchar* const Line = Grey.constScanLine(y);
-    Sum = std::accumulate(Line, Line + Grey.width(), Sum);
-  }
-  const double Mean = static_cast<double>(Sum) / Grey.width() / Grey.height();
-  std::array<QRgb, 256> Dyed;
-  for (int i = 0; i < 256; ++i) {
-    const auto Part = [&](int Full) { return qMin(255, qRound(Full * i / Mean)); };
-    Dyed[i] = qRgb(Part(Dye.red()), Part(Dye.green()), Part(Dye.blue()));
-  }
-  QImage Cloth(Grey.size(), QImage::Format_RGB32);
-  for (int y = 0; y < Grey.height(); ++y) {
-    const uchar* const Line = Grey.constScanLine(y);
-    std::transform(Line, Line + Grey.width(), reinterpret_cast<QRgb*>(Cloth.scanLine(y)),
-                   [&](uchar At) { return Dyed[At]; });
-  }
-  Cloth.setDevicePixelRatio(Scale);
-  Dry = QPixmap::fromImage(std::move(Cloth));
-  QPixmapCache::insert(Key, Dry);
-  return Dry;
+  return Cached(Key, [&] {
+    constexpr int LeastLight = 22;
+    const bool Black = qMax(Colour.red(), qMax(Colour.green(), Colour.blue())) < LeastLight;
+    const QColor Dye = Black ? QColor(LeastLight, LeastLight, LeastLight) : Colour;
+    QImage Cloth = Read(QStringLiteral(":/materials/felt.jpg"), (QSizeF(Size) * Scale).toSize())
+                       .convertToFormat(QImage::Format_Grayscale8);
+    std::int64_t Sum = 0;
+    for (int y = 0; y < Cloth.height(); ++y) {
+      const uchar* const Line = Cloth.constScanLine(y);
+      Sum = std::accumulate(Line, Line + Cloth.width(), Sum);
+    }
+    const double Mean = static_cast<double>(Sum) / Cloth.width() / Cloth.height();
+    QList<QRgb> Dyed(256);  // of each grey
+    for (int i = 0; i < 256; ++i) {
+      const auto Part = [&](int Full) { return qMin(255, qRound(Full * i / Mean)); };
+      Dyed[i] = qRgb(Part(Dye.red()), Part(Dye.green()), Part(Dye.blue()));
+    }
+    Cloth.reinterpretAsFormat(QImage::Format_Indexed8);
+    Cloth.setColorTable(Dyed);
+    Cloth.setDevicePixelRatio(Scale);
+    return QPixmap::fromImage(std::move(Cloth));
+  });
 }
 
 QColor DrawButton(QPainter& Painter, const QRectF& Face, const ButtonLook& Look) {

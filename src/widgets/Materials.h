@@ -20,6 +20,7 @@ inline const QColor FeltRed(166, 2, 2);       ///< the felt of a tray that isn't
 inline const QColor Pearl(244, 238, 226);     ///< pearl satin, where a contrast with it is reckoned
 inline const QColor Navy(15, 34, 80);         ///< navy satin, where a contrast with it is reckoned
 inline const QColor Brass(201, 163, 87);      ///< edges and hairlines
+inline const QColor LoudRed(176, 0, 24);      ///< letters that cry out
 inline const QColor Gilt(255, 217, 138);      ///< the line round what has the focus
 inline const QColor Shade(10, 12, 26);        ///< what lies in the shadow
 inline const QColor WalnutLit(176, 118, 74);  ///< the edge of the wood towards the light

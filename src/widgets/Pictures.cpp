@@ -35,12 +35,17 @@ QPixmap RenderSvg(const QString& Resource, qreal Scale, QSize Size) {
   QSvgRenderer Svg(Resource);
   if (!Svg.isValid()) return {};
   if (Size.isEmpty()) Size = Svg.defaultSize();
-  QPixmap Picture((QSizeF(Size) * Scale).toSize());
-  Picture.fill(Qt::transparent);
+  QPixmap Picture = EmptyPicture(Size, Scale);
   QPainter Painter(&Picture);
-  Svg.render(&Painter);
+  Svg.render(&Painter, QRectF(QPointF(), Picture.deviceIndependentSize()));
   Painter.end();
+  return Picture;
+}
+
+QPixmap EmptyPicture(const QSizeF& Size, qreal Scale) {
+  QPixmap Picture((Size * Scale).toSize());
   Picture.setDevicePixelRatio(Scale);
+  Picture.fill(Qt::transparent);
   return Picture;
 }
 
@@ -55,21 +60,16 @@ const QPixmap& Bitmaps::ShadowOf(int Number, qreal Scale) {
   if (!New) return Entry->second;
   const QPixmap& Picture = Get(Number, Scale);
   const QSizeF Size = Picture.deviceIndependentSize() + QSizeF(ShadowRoom, ShadowRoom);
-  QPixmap& Both = Entry->second;
-  Both = QPixmap((Size * Scale).toSize());
-  Both.setDevicePixelRatio(Scale);
-  Both.fill(Qt::transparent);
+  QPixmap& Both = Entry->second = EmptyPicture(Size, Scale);
   // A wide one, and one where the die touches the felt.
   for (const auto& [Place, Blur, Strength] : {std::tuple(QPointF(7, 8), 4.0, 0.66), {QPointF(2.4, 3.2), 1.6, 0.62}}) {
-    QImage Shadow(Both.size(), QImage::Format_ARGB32_Premultiplied);
-    Shadow.setDevicePixelRatio(Scale);
-    Shadow.fill(Qt::transparent);
+    QPixmap Shadow = EmptyPicture(Size, Scale);
     QPainter Painter(&Shadow);
     Painter.drawPixmap(Place, Picture);
     Painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     Painter.fillRect(QRectF(QPointF(), Size), Thin(Qt::black, Strength));
     Painter.end();
-    QPainter(&Both).drawImage(QPoint(), Blurred(Shadow, Blur * Scale));
+    QPainter(&Both).drawImage(QPoint(), Blurred(Shadow.toImage(), Blur * Scale));
   }
   return Both;
 }

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QPixmap>
+#include <QPixmapCache>
 #include <QString>
 #include <QThreadPool>
 #include <QWidget>
@@ -22,6 +23,17 @@ inline constexpr int LampBitmap = 200;  ///< burns round a mark
 /// Renders an SVG of the program's resources at its own logical size, or at `Size`, for a screen of the given scale.
 /// A null picture when there is no such resource.
 QPixmap RenderSvg(const QString& Resource, qreal Scale, QSize Size = {});
+
+/// A transparent picture to draw on, of a size in logical pixels.
+QPixmap EmptyPicture(const QSizeF& Size, qreal Scale);
+
+/// The picture of this name: drawn once, and again when the toolkit's cache has dropped it meanwhile.
+template <typename Draw>
+QPixmap Cached(const QString& Name, Draw Drawn) {
+  QPixmap Picture;
+  if (!QPixmapCache::find(Name, &Picture)) QPixmapCache::insert(Name, Picture = Drawn());
+  return Picture;
+}
 
 /// The numbered bitmaps, rendered once per scale. A number without a picture gives a null one.
 class Bitmaps {

@@ -6,11 +6,7 @@
 
 namespace blunko {
 
-namespace {
-
 constexpr int Side = 15;  // px, of the square
-
-}  // namespace
 
 TickBox::TickBox(QWidget* Parent) : QCheckBox(Parent) { setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); }
 

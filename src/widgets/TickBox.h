@@ -13,7 +13,6 @@ class TickBox : public QCheckBox {
   explicit TickBox(QWidget* Parent = nullptr);
 
   QSize sizeHint() const override;
-  QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   bool hitButton(const QPoint& Position) const override { return rect().contains(Position); }

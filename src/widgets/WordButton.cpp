@@ -2,16 +2,11 @@
 
 #include <QPainter>
 
+#include "widgets/Letters.h"
 #include "widgets/Materials.h"
 #include "widgets/Pictures.h"
 
 namespace blunko {
-
-namespace {
-
-constexpr qreal Radius = 5;  // px
-
-}  // namespace
 
 WordButton::WordButton(const QString& Caption, QWidget* Parent) : QPushButton(Caption, Parent) {
   setAttribute(Qt::WA_Hover);
@@ -30,20 +25,19 @@ QSize WordButton::sizeHint() const {
 }
 
 void WordButton::paintEvent(QPaintEvent*) {
+  constexpr qreal Radius = 5;  // px
   QPainter Painter(this);
   if (isEnabled() && (underMouse() || isDown())) {
-    QColor Tint = BestGround(foreColor);
-    Tint.setAlphaF(isDown() ? 0.6F : 0.4F);
     Painter.setRenderHint(QPainter::Antialiasing);
     Painter.setPen(Qt::NoPen);
-    Painter.setBrush(Tint);
+    Painter.setBrush(Thin(BestGround(foreColor), isDown() ? 0.6 : 0.4));
     Painter.drawRoundedRect(rect(), Radius, Radius);
   }
   if (hasFocus()) DrawFocusRing(Painter, rect(), Radius);
-  QColor Ink = foreColor;
-  if (testAttribute(Qt::WA_ForceDisabled)) Ink.setAlphaF(0.5F);  // not faded together with a table that stands still
+  // Not faded together with a table that stands still.
+  const QColor Ink = Thin(foreColor, testAttribute(Qt::WA_ForceDisabled) ? 0.5 : 1);
   const QRectF Room = QRectF(rect()).adjusted(FocusRingWidth, 0, -FocusRingWidth, 0);
-  words.Draw(Painter, Room, Qt::AlignCenter, text(), font(), Ink, GroundUnder(*this, ground, Ink));
+  DrawLetters(Painter, Room, Qt::AlignCenter, text(), font(), Ink, GroundUnder(*this, ground, Ink));
 }
 
 }  // namespace blunko

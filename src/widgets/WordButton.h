@@ -2,8 +2,6 @@
 
 #include <QPushButton>
 
-#include "widgets/Letters.h"
-
 namespace blunko {
 
 class StretchedPicture;
@@ -21,7 +19,6 @@ class WordButton : public QPushButton {
   void setPicture(StretchedPicture* Picture) { ground = Picture; }
 
   QSize sizeHint() const override;
-  QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void paintEvent(QPaintEvent* Event) override;
@@ -29,7 +26,6 @@ class WordButton : public QPushButton {
  private:
   QColor foreColor = Qt::black;
   StretchedPicture* ground = nullptr;
-  Letters words;
 };
 
 }  // namespace blunko
