@@ -41,11 +41,8 @@ class HelpWindow : public QWidget {
   QTreeWidget* Contents;
   HelpPage* Page;
   ButtonPlus* cmdContents;  ///< folds the contents away, and out again
-  ButtonPlus* cmdBack;
-  ButtonPlus* cmdForward;
+  ButtonPlus *cmdBack, *cmdForward, *cmdFindPrevious, *cmdFindNext;
   QLineEdit* txtFind;
-  ButtonPlus* cmdFindPrevious;
-  ButtonPlus* cmdFindNext;
   QLabel* lblFound;
 
  signals:

@@ -14,12 +14,8 @@
 
 namespace blunko {
 
-namespace {
-
 constexpr QSize DieSize(48, 48);  // px
 const QColor ButtonColour(132, 186, 255);
-
-}  // namespace
 
 void DieButton::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
@@ -71,9 +67,6 @@ DieButton* frmAbout::MakeDie(const QString& Name, const QString& File) {
 }
 
 void frmAbout::LayOut() {
-  auto* Column = new QVBoxLayout(this);
-  Column->setContentsMargins(18, 14, 18, 14);
-  Column->setSpacing(4);
   auto* Head = new QGridLayout;
   Head->setHorizontalSpacing(18);
   Head->addWidget(Picture1, 0, 0, 3, 1, Qt::AlignCenter);
@@ -81,16 +74,11 @@ void frmAbout::LayOut() {
   Head->addWidget(Label2, 1, 1);
   Head->addWidget(Label_Version, 2, 1);
   Head->addWidget(Picture2, 0, 2, 3, 1, Qt::AlignCenter);
-  Column->addLayout(Head);
-  Column->addSpacing(10);
-  Column->addWidget(Label1);
-  for (LinkLabel* Link : {lblURL, lblMail}) Column->addWidget(Link, 0, Qt::AlignHCenter);
-  Column->addSpacing(10);
-  for (QLabel* Line : {lblDisclaimer, Label4}) Column->addWidget(Line);
-  Column->addSpacing(12);
   for (ButtonPlus* Button : {cmdOK, cmdCredits}) Button->setMinimumWidth(110);
-  Column->addLayout(CentredRow({cmdOK, cmdCredits}, 12));
-  Column->setSizeConstraint(QLayout::SetFixedSize);
+  Stack(this, {18, 14, 18, 14}, 4,
+        {Head, 10, Label1, CentredRow({lblURL}, 0), CentredRow({lblMail}, 0), 10, lblDisclaimer, Label4, 12,
+         CentredRow({cmdOK, cmdCredits}, 12)})
+      ->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void frmAbout::Picture1_Click() {

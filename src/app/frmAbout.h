@@ -32,18 +32,10 @@ class frmAbout : public PlacedDialog {
  public:
   frmAbout(const Folders& Where, const GameSettings& Options, Desktop& Screen, QWidget* Main);
 
-  QLabel* Label3;
-  QLabel* Label2;
-  QLabel* Label1;
-  QLabel* Label_Version;
-  LinkLabel* lblURL;
-  LinkLabel* lblMail;
-  QLabel* lblDisclaimer;
-  QLabel* Label4;
-  DieButton* Picture1;
-  DieButton* Picture2;
-  ButtonPlus* cmdOK;
-  ButtonPlus* cmdCredits;
+  QLabel *Label1, *Label2, *Label3, *Label4, *Label_Version, *lblDisclaimer;
+  LinkLabel *lblURL, *lblMail;
+  DieButton *Picture1, *Picture2;
+  ButtonPlus *cmdOK, *cmdCredits;
 
  private:
   LinkLabel* MakeLink(const QString& Name, const QString& Shown, const QString& Target);

@@ -13,14 +13,10 @@
 
 namespace blunko {
 
-namespace {
-
 constexpr int FormWidth = 5865, FormHeight = 7695;  // twips, inside the frame
 constexpr int EngravingTime = 500;                  // ms
 constexpr int GreetingTop = 8;                      // px
 const QColor PlateColour(0, 0, 128);
-
-}  // namespace
 
 frmCongrats::frmCongrats(const QString& Winner, std::string& FormMessage, Desktop& Screen, const GameOptions& Settings,
                          frmMain& Main)
@@ -36,27 +32,17 @@ frmCongrats::frmCongrats(const QString& Winner, std::string& FormMessage, Deskto
   Placed(Image2, {{0, 0}, Image2->sizeHint()});
   Image1 = Make<SvgBox>(this, "Image1", ":/art/greeting.svg");
   Placed(Image1, {{(width() - Image1->sizeHint().width()) / 2, GreetingTop}, Image1->sizeHint()});
-  BuildPlate();
-  BuildButtons();
-  FixButtonColours(*this);
-}
-
-void frmCongrats::BuildPlate() {
   lblWinner = MakeText<FitLabel>(this, "lblWinner", "Engraving...", FontOf(Typeface::ComicSans, 14.25, true));
   Placed(lblWinner, TwipsRect(1695, 6120, 2565, 375));
   lblWinner->setForeColor(Qt::yellow);
   SetColours(*lblWinner, {{QPalette::Window, PlateColour}});
+  BuildButtons();
+  FixButtonColours(*this);
 }
 
 void frmCongrats::BuildButtons() {
-  cmdSameGame = MakeButton(this, "cmdSameGame", "Same Game", [this] {
-    desktop.Beep();
-    Leave("SameGame");
-  });
-  cmdDifferentGame = MakeButton(this, "cmdDifferentGame", "Different Game", [this] {
-    desktop.Beep();
-    Leave("DifferentGame");
-  });
+  cmdSameGame = MakeButton(this, "cmdSameGame", "Same Game", [this] { Leave("SameGame"); });
+  cmdDifferentGame = MakeButton(this, "cmdDifferentGame", "Different Game", [this] { Leave("DifferentGame"); });
   cmdQuit = MakeButton(this, "cmdQuit", "Quit", [this] { Leave("Quit"); });
   int Left = 150;
   for (ButtonPlus* Button : {cmdSameGame, cmdDifferentGame, cmdQuit}) {
@@ -70,6 +56,7 @@ void frmCongrats::BuildButtons() {
 
 void frmCongrats::Leave(const char* Word) {
   message = Word;
+  if (message != "Quit") desktop.Beep();
   accept();
 }
 

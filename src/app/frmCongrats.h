@@ -22,12 +22,9 @@ class frmCongrats : public PlacedDialog {
   frmCongrats(const QString& Winner, std::string& FormMessage, Desktop& Screen, const GameOptions& Settings,
               frmMain& Main);
 
-  SvgBox* Image2;  ///< the trophy
-  SvgBox* Image1;  ///< the arched greeting
+  SvgBox *Image1, *Image2;  ///< the arched greeting, and the trophy
   FitLabel* lblWinner;
-  ButtonPlus* cmdSameGame;
-  ButtonPlus* cmdDifferentGame;
-  ButtonPlus* cmdQuit;
+  ButtonPlus *cmdSameGame, *cmdDifferentGame, *cmdQuit;
 
  protected:
   void Place() override;
@@ -35,7 +32,6 @@ class frmCongrats : public PlacedDialog {
   void changeEvent(QEvent* Event) override;
 
  private:
-  void BuildPlate();
   void BuildButtons();
   void Leave(const char* Word);
   void Form_Activate();

@@ -13,14 +13,10 @@
 
 namespace blunko {
 
-namespace {
-
 constexpr int StepTime = 41;  // ms: more than 40 pass between two steps
 constexpr QSize ScrollSize(320, 260);
 const QColor TextColour(255, 255, 0);
 constexpr int TextFlags = Qt::AlignHCenter | Qt::TextWordWrap;
-
-}  // namespace
 
 ScrollBox::ScrollBox(QWidget* Parent) : QWidget(Parent) {
   setFont(FontOf(Typeface::ComicSans, 12));
@@ -66,14 +62,9 @@ frmCredits::frmCredits(QWidget* Owner) : PlacedDialog(Owner) {
   SetFirst(cmdOK);
   FixButtonColours(*this);
 
-  auto* Column = new QVBoxLayout(this);
-  Column->setContentsMargins(16 + FrameWidth, 12, 16 + FrameWidth, 12);
-  Column->setSpacing(10 + FrameWidth);
   framed = {picScroll};
-  Column->addWidget(Label1);
-  Column->addWidget(picScroll, 0, Qt::AlignCenter);
-  Column->addWidget(cmdOK, 0, Qt::AlignCenter);
-  Column->setSizeConstraint(QLayout::SetFixedSize);
+  Stack(this, {16 + FrameWidth, 12, 16 + FrameWidth, 12}, 10 + FrameWidth, {Label1, picScroll, CentredRow({cmdOK}, 0)})
+      ->setSizeConstraint(QLayout::SetFixedSize);
 
   steps.setTimerType(Qt::PreciseTimer);
   steps.setInterval(StepTime);

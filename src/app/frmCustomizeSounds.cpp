@@ -14,13 +14,9 @@
 
 namespace blunko {
 
-namespace {
-
 constexpr int ListWidth = 240;  // px
 const std::string NothingPicked = "¤¤¤";
 const QColor ButtonColour(137, 189, 255);
-
-}  // namespace
 
 frmCustomizeSounds::frmCustomizeSounds(std::string& FormMessage, GameSettings& Options, Desktop& Screen, QWidget* Owner)
     : PlacedDialog(Owner, Cloth::Pearl,

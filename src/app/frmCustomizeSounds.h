@@ -25,10 +25,7 @@ class frmCustomizeSounds : public PlacedDialog {
 
   QListWidget* lstEvents;
   QLineEdit* txtSound;
-  ButtonPlus* cmdBrowse;
-  ButtonPlus* cmdTest;
-  ButtonPlus* cmdOK;
-  ButtonPlus* cmdCancel;
+  ButtonPlus *cmdBrowse, *cmdTest, *cmdOK, *cmdCancel;
 
  protected:
   bool eventFilter(QObject* Watched, QEvent* Event) override;

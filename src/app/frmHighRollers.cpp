@@ -10,8 +10,6 @@
 
 namespace blunko {
 
-namespace {
-
 constexpr int NameColumn = 16;        // letters, dots included
 constexpr int ScoreColumn = 5;        // digits
 constexpr qsizetype LongestRow = 60;  // letters
@@ -19,13 +17,10 @@ constexpr int Spare = 4, Border = 9;  // px in the text boxes
 constexpr double ListPoints = 9.75;
 const QColor ListGround(0, 0, 128);
 
-}  // namespace
-
 frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Main)
-    : PlacedDialog(Main, Cloth::Navy), rollers(Lists), desktop(Screen), table(Main) {
+    : PlacedDialog(Main, Cloth::Navy), rollers(Lists), desktop(Screen) {
   setObjectName("frmHighRollers");
   setWindowTitle("Tollmoor Blunko - High Rollers");
-  setWindowIcon(table->windowIcon());
   SetColours(*this, {{QPalette::WindowText, Qt::yellow}, {QPalette::Link, Qt::yellow}});
   Image1 = Make<SvgBox>(this, "Image1", ":/art/rollers_top.svg");
   Image2 = Make<SvgBox>(this, "Image2", ":/art/rollers_bottom.svg");
@@ -57,15 +52,9 @@ void frmHighRollers::LayOut() {
   auto* Bottom = new QGridLayout;  // one cell: the button in the middle, the link at the left
   Bottom->addWidget(lblReset, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
   Bottom->addWidget(cmdOK, 0, 0, Qt::AlignCenter);
-  auto* Outer = new QVBoxLayout(this);
-  Outer->setContentsMargins(14 + FrameWidth, 10, 14 + FrameWidth, 12);
-  Outer->setSpacing(8);
-  Outer->addWidget(Image1, 0, Qt::AlignHCenter);
-  Outer->addLayout(Columns);
-  Outer->addSpacing(FrameWidth);
-  Outer->addWidget(Image2, 0, Qt::AlignHCenter);
-  Outer->addLayout(Bottom);
-  Outer->setSizeConstraint(QLayout::SetFixedSize);
+  Stack(this, {14 + FrameWidth, 10, 14 + FrameWidth, 12}, 8,
+        {CentredRow({Image1}, 0), Columns, FrameWidth, CentredRow({Image2}, 0), Bottom})
+      ->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 QPlainTextEdit* frmHighRollers::MakeList(const QString& Name, const QString& Description) {
@@ -84,7 +73,7 @@ QPlainTextEdit* frmHighRollers::MakeList(const QString& Name, const QString& Des
   return Made;
 }
 
-void frmHighRollers::Place() { PlaceFrame(*this, FramePlace(*table).topLeft()); }
+void frmHighRollers::Place() { PlaceFrame(*this, FramePlace(*parentWidget()).topLeft()); }
 
 void frmHighRollers::ShowHighRollerLists() {
   rollers.LoadHighRollers();

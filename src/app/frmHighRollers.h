@@ -24,12 +24,9 @@ class frmHighRollers : public PlacedDialog {
   /// `Count` full stops, none if it is below 1.
   static QString DotString(int Count);
 
-  QLabel* lblHSTS;
-  QLabel* lblBMoV;
-  QPlainTextEdit* txtHSTSList;
-  QPlainTextEdit* txtBMoVList;
-  SvgBox* Image1;
-  SvgBox* Image2;
+  QLabel *lblHSTS, *lblBMoV;
+  QPlainTextEdit *txtHSTSList, *txtBMoVList;
+  SvgBox *Image1, *Image2;
   LinkLabel* lblReset;
   ButtonPlus* cmdOK;
 
@@ -44,7 +41,6 @@ class frmHighRollers : public PlacedDialog {
 
   HighRollers& rollers;
   Desktop& desktop;
-  QWidget* table;
 };
 
 }  // namespace blunko

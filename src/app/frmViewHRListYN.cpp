@@ -10,17 +10,10 @@
 
 namespace blunko {
 
-namespace {
-
-constexpr int SmallestWidth = 370;  // px
-
-}  // namespace
-
 frmViewHRListYN::frmViewHRListYN(std::string& FormMessage, Desktop& Screen, const IniInfo& Info, QWidget* Main)
     : PlacedDialog(Main, Cloth::Navy), message(FormMessage), desktop(Screen), info(Info) {
   setObjectName("frmViewHRListYN");
   setWindowTitle("Way to go !!!");
-  setWindowIcon(Main->windowIcon());
 
   const QStringList Fields = QString::fromStdString(message).split(FieldSeparator);
   lblWayToGo = MakeTitle(this, "lblWayToGo", "Great Job, " + Fields.value(0) + "!!!", 15.75, Gilt);
@@ -41,13 +34,10 @@ frmViewHRListYN::frmViewHRListYN(std::string& FormMessage, Desktop& Screen, cons
 
 void frmViewHRListYN::LayOut() {
   for (ButtonPlus* Button : {cmdYes, cmdNo}) Button->setMinimumWidth(100);
-  auto* Outer = new QVBoxLayout(this);
-  Outer->setContentsMargins(18, 14, 18, 12);
-  Outer->setSpacing(12);
-  Outer->addWidget(lblWayToGo);
-  Outer->addWidget(lblMessage);
-  Outer->addLayout(CentredRow({cmdYes, cmdNo}, 16));
-  Outer->addLayout(CentredRow({lblCheck, lblDontAsk}, 0));
+  constexpr int SmallestWidth = 370;  // px
+  const auto* Outer =
+      Stack(this, {18, 14, 18, 12}, 12,
+            {lblWayToGo, lblMessage, CentredRow({cmdYes, cmdNo}, 16), CentredRow({lblCheck, lblDontAsk}, 0)});
   const int Width = qMax(SmallestWidth, Outer->minimumSize().width());
   setFixedSize(Width, Outer->totalHeightForWidth(Width));
 }

@@ -21,10 +21,8 @@ class frmViewHRListYN : public PlacedDialog {
  public:
   frmViewHRListYN(std::string& FormMessage, Desktop& Screen, const IniInfo& Info, QWidget* Main);
 
-  QLabel* lblWayToGo;
-  QLabel* lblMessage;
-  ButtonPlus* cmdYes;
-  ButtonPlus* cmdNo;
+  QLabel *lblWayToGo, *lblMessage;
+  ButtonPlus *cmdYes, *cmdNo;
   TickBox* lblCheck;  ///< empty at first: on a day for which it is ticked, nobody is asked
   WordButton* lblDontAsk;
 

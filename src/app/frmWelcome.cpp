@@ -11,14 +11,10 @@
 
 namespace blunko {
 
-namespace {
-
 const QColor TipsColour(165, 205, 255);
 const QColor ExitColour(145, 195, 255);
 constexpr QSize ButtonSize(300, 36);  // px, at least
 constexpr QSize DiceSize(344, 92);    // px: with its frame no wider than the table
-
-}  // namespace
 
 frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
     : PlacedDialog(Main), info(Info), desktop(Screen) {
@@ -46,27 +42,15 @@ frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
 }
 
 void frmWelcome::LayOut() {
-  auto* Column = new QVBoxLayout(this);
-  Column->setContentsMargins(14 + FrameWidth, 12 + FrameWidth, 14 + FrameWidth, 12);
-  Column->setSpacing(6);
   picDice = Make<SvgBox>(this, "picDice", QStringLiteral(":/art/welcome.svg"));
   picDice->setFixedSize(DiceSize);
   framed = {picDice};
-  Column->addWidget(picDice, 0, Qt::AlignCenter);
-  Column->addSpacing(FrameWidth);
-  Column->addWidget(Label1);
-  Column->addWidget(Label2);
-  Column->addSpacing(10);
-  for (ButtonPlus* Choice : {cmdLearn, cmdPoints, cmdTips, cmdWebSite}) {
-    Choice->setMinimumSize(ButtonSize);
-    Column->addWidget(Choice, 0, Qt::AlignCenter);
-  }
-  Column->addSpacing(6);
-  cmdExit->setMinimumSize(ButtonSize);
-  Column->addWidget(cmdExit, 0, Qt::AlignCenter);
-  Column->addSpacing(6);
-  Column->addLayout(CentredRow({lblCheck, lblShowWelcome}, 0));
-  Column->setSizeConstraint(QLayout::SetFixedSize);
+  for (ButtonPlus* Choice : {cmdLearn, cmdPoints, cmdTips, cmdWebSite, cmdExit}) Choice->setMinimumSize(ButtonSize);
+  Stack(this, {14 + FrameWidth, 12 + FrameWidth, 14 + FrameWidth, 12}, 6,
+        {picDice, FrameWidth, Label1, Label2, 10, CentredRow({cmdLearn}, 0), CentredRow({cmdPoints}, 0),
+         CentredRow({cmdTips}, 0), CentredRow({cmdWebSite}, 0), 6, CentredRow({cmdExit}, 0), 6,
+         CentredRow({lblCheck, lblShowWelcome}, 0)})
+      ->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void frmWelcome::paintEvent(QPaintEvent* Event) {

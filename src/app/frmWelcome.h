@@ -20,13 +20,8 @@ class frmWelcome : public PlacedDialog {
  public:
   frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main);
 
-  QLabel* Label1;
-  QLabel* Label2;
-  ButtonPlus* cmdLearn;
-  ButtonPlus* cmdPoints;
-  ButtonPlus* cmdTips;
-  ButtonPlus* cmdWebSite;
-  ButtonPlus* cmdExit;
+  QLabel *Label1, *Label2;
+  ButtonPlus *cmdLearn, *cmdPoints, *cmdTips, *cmdWebSite, *cmdExit;
   TickBox* lblCheck;
   WordButton* lblShowWelcome;
 

@@ -42,15 +42,12 @@ class OptionsPanel : public QWidget {
   void Close();
 
   std::array<QRadioButton*, 3> optComputerSpeed;
-  QCheckBox* chkSortDice;
-  QCheckBox* chkMarkScorers;
+  QCheckBox *chkSortDice, *chkMarkScorers;
   std::array<QRadioButton*, 2> optSound;  ///< 0 off, 1 on
-  ButtonPlus* cmdCustomizeSounds;
   QComboBox* cboDiceColor;
   QListWidget* lstSkin;
   std::array<Swatch*, 8> lblColor;
-  ButtonPlus* ARCmdSaveOptions;
-  ButtonPlus* ARCmdCancelOptions;
+  ButtonPlus *cmdCustomizeSounds, *ARCmdSaveOptions, *ARCmdCancelOptions;
 
  signals:
   /// The sounds are to be chosen, in a dialog over the panel.

@@ -27,10 +27,7 @@ class GameBox : public PlacedDialog {
   QLabel* lblText;
   QLineEdit* txtAnswer = nullptr;  ///< of an input box; takes only letters that the game's files can carry
   // The buttons that a box of the kind has.
-  ButtonPlus* cmdOK = nullptr;
-  ButtonPlus* cmdCancel = nullptr;
-  ButtonPlus* cmdYes = nullptr;
-  ButtonPlus* cmdNo = nullptr;
+  ButtonPlus *cmdOK = nullptr, *cmdCancel = nullptr, *cmdYes = nullptr, *cmdNo = nullptr;
 
  private:
   QWidget* MakeSign(Sign Bears);

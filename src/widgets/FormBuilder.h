@@ -4,9 +4,11 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QString>
+#include <QVBoxLayout>
 
 #include <initializer_list>
 #include <utility>
+#include <variant>
 
 #include "widgets/ButtonPlus.h"
 #include "widgets/Fonts.h"
@@ -108,6 +110,21 @@ inline QHBoxLayout* CentredRow(std::initializer_list<QWidget*> Controls, int Gap
   for (QWidget* Control : Controls) Row->addWidget(Control);
   Row->addStretch();
   return Row;
+}
+
+/// Fills a form from the top down with controls, rows of them, and pixels of nothing; `Gap` px lie between them
+/// besides.
+inline QVBoxLayout* Stack(QWidget* Form, const QMargins& Edges, int Gap,
+                          std::initializer_list<std::variant<QWidget*, QLayout*, int>> Parts) {
+  auto* Column = new QVBoxLayout(Form);
+  Column->setContentsMargins(Edges);
+  Column->setSpacing(Gap);
+  for (const auto& Part : Parts) {
+    if (const auto* Control = std::get_if<QWidget*>(&Part)) Column->addWidget(*Control);
+    if (const auto* Row = std::get_if<QLayout*>(&Part)) Column->addLayout(*Row);
+    if (const auto* Space = std::get_if<int>(&Part)) Column->addSpacing(*Space);
+  }
+  return Column;
 }
 
 }  // namespace blunko
