@@ -74,13 +74,12 @@ bool Application::Main() {
   State.PlayToScore = static_cast<std::int16_t>(Settings.ReadPlayToScore());
   State.BreakInScore = static_cast<std::int16_t>(Settings.ReadBreakInScore());
   Util.UtilSetFolder(QFileInfo(folders.ListsPath()).path());
-  StartQuestions Questions(Settings, Screen, Util);
   const bool FirstStart = !Settings.Scanned;
   const bool Asks = FirstStart || Numbers->UtilRandom(LaterStartsPerVersionCheck) == 1;
   if (Asks) {
     ShowIcon();
-    Questions.SurveyHardware();
-    if (!Questions.CheckForUpdate()) return false;
+    SurveyHardware(Settings, Screen, Util);
+    if (!CheckForUpdate(Screen, Util)) return false;
   }
   State.Quitting = false;
   Uniform = UniformGenerator(static_cast<std::uint64_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000));

@@ -16,7 +16,6 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
-#include "app/OpenInShell.h"
 #include "widgets/FormBuilder.h"
 #include "widgets/Pictures.h"
 #include "widgets/PlacedDialog.h"
@@ -72,7 +71,7 @@ HelpWindow::HelpWindow(const QString& Folder, const QWidget* Beside) : folder(Fo
   ConnectControls();
   ConnectKeys();
   FixButtonColours(*this);
-  FillContents();
+  for (const QString& Name : Pages) AddPage(Name);
   setStyleSheet(PaperStyle());
   PlaceBeside(Beside);
 }
@@ -80,7 +79,7 @@ HelpWindow::HelpWindow(const QString& Folder, const QWidget* Beside) : folder(Fo
 void HelpWindow::BuildPage() {
   Page = Make<HelpPage>(this, "Page");
   Page->setAccessibleName("Page");
-  Page->setOpenLinks(false);
+  Page->setOpenExternalLinks(true);
   Page->setTextInteractionFlags(Page->textInteractionFlags() | Qt::TextSelectableByKeyboard);  // a caret, for readers
   Page->setWordWrapMode(QTextOption::WordWrap);  // no table column narrower than its words
   Page->setFont(FontOf(Typeface::Verdana, 9.75));
@@ -158,7 +157,6 @@ void HelpWindow::ConnectControls() {
     if (Here.hasSelection() && Here.charFormat().isAnchor()) emit told(Here.selectedText() + ", link");
   });
   connect(Page, &QTextBrowser::sourceChanged, lblFound, &QLabel::clear);
-  connect(Page, &QTextBrowser::anchorClicked, this, &HelpWindow::Follow);
   connect(txtFind, &QLineEdit::returnPressed, this, [this] { Find(false); });
   connect(txtFind, &QLineEdit::textChanged, lblFound, &QLabel::clear);
   connect(Contents, &QTreeWidget::currentItemChanged, this, &HelpWindow::GoTo);
@@ -183,10 +181,6 @@ void HelpWindow::ConnectKeys() {
 
 void HelpWindow::GoTo(const QTreeWidgetItem* Entry) {
   if (Entry != nullptr) Page->setSource(Entry->data(0, AddressRole).toUrl());
-}
-
-void HelpWindow::FillContents() {
-  for (const QString& Name : Pages) AddPage(Name);
 }
 
 /// The headings of a page, as they stand there.
@@ -237,9 +231,7 @@ void HelpWindow::resizeEvent(QResizeEvent* Event) {
 }
 
 QUrl HelpWindow::AddressOf(const QString& Topic) const {
-  QUrl Address = QUrl::fromLocalFile(folder + QLatin1Char('/') + Topic.section(QLatin1Char('#'), 0, 0));
-  if (Topic.contains(QLatin1Char('#'))) Address.setFragment(Topic.section(QLatin1Char('#'), 1));
-  return Address;
+  return QUrl::fromLocalFile(folder + QLatin1Char('/')).resolved(QUrl(Topic));
 }
 
 void HelpWindow::ShowTopic(const QString& Topic) {
@@ -250,15 +242,6 @@ void HelpWindow::ShowTopic(const QString& Topic) {
   Page->setFocus();
   lblFound->clear();
   Page->setSource(AddressOf(Topic));  // the window has its size by now, or the anchor would miss its place
-}
-
-/// Pages open here, everything else in the system's own programs.
-void HelpWindow::Follow(const QUrl& Link) {
-  if (Link.isLocalFile()) {
-    Page->setSource(Link);
-  } else {
-    OpenInShell(Link.toString());
-  }
 }
 
 /// The page itself doesn't know its new address yet when it tells of it.

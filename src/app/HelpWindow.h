@@ -60,12 +60,10 @@ class HelpWindow : public QWidget {
   void LayOut();
   void ConnectControls();
   void ConnectKeys();
-  void FillContents();
   void AddPage(const QString& Name);
   void PlaceBeside(const QWidget* Table);
   void GoTo(const QTreeWidgetItem* Entry);
   QUrl AddressOf(const QString& Topic) const;
-  void Follow(const QUrl& Link);
   void MarkInContents(const QUrl& Source);
   void PlaceCaret(const QUrl& Source);
   void Find(bool Backward);

@@ -7,11 +7,7 @@
 
 namespace blunko {
 
-namespace {
-
 const QString Schemes[] = {QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("mailto")};
-
-}  // namespace
 
 void OpenInShell(const QString& Target) { QDesktopServices::openUrl(QUrl(Target)); }
 

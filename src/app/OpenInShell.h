@@ -18,7 +18,6 @@ class KeptVariables : public QObject {
  public:
   explicit KeptVariables(QStringList Variables);
   ~KeptVariables() override;
-  Q_DISABLE_COPY_MOVE(KeptVariables)
 
  private slots:
   void Open(const QUrl& Address);

@@ -8,12 +8,8 @@
 
 namespace blunko {
 
-namespace {
-
 /// The table in its frame, with the options beside it.
 constexpr QSize LargestWindow(530, 560);  // logical pixels
-
-}  // namespace
 
 double FittingScale(int PerCent, const QSize& Screen) {
   const double Fitting =

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 namespace blunko {
 
@@ -21,24 +20,15 @@ inline const QString Joke[] = {
     QStringLiteral("The barman sighs, takes away all five glasses and hands them to the next guest.\n\"Blunko!\""),
 };
 
-/// A block of the credits: a heading and the people under it.
-struct CreditsBlock {
-  QString Heading;
-  QStringList Lines;
-};
-
-inline const CreditsBlock Credits[] = {
-    {QStringLiteral("Game Design:"), {QStringLiteral("Corin Ashgrove")}},
-    {QStringLiteral("Programming:"),
-     {QStringLiteral("Marit Sandvold"), QStringLiteral("Jory Pellen"), QStringLiteral("Ottoline Wake")}},
-    {QStringLiteral("Dice Design:"), {QStringLiteral("Benno Farthing")}},
-    {QStringLiteral("Copy Edit:"), {QStringLiteral("Hester Quillam"), QStringLiteral("Piers Lindenow")}},
-    {QStringLiteral("Q&A:"),
-     {QStringLiteral("Alba Thornecroft"), QStringLiteral("Desmond Okelo"), QStringLiteral("Fenna Zijlmaker"),
-      QStringLiteral("Gideon Marsh-Tully"), QStringLiteral("Ilse Brandvik"), QStringLiteral("Kenji Morisawa-Bell"),
-      QStringLiteral("Lotte Abendrot"), QStringLiteral("Mungo Teasdale"), QStringLiteral("Nadia Ferrowe"),
-      QStringLiteral("Orla Kinsellagh"), QStringLiteral("Rufus Tanglewood"), QStringLiteral("Sunniva Hale"),
-      QStringLiteral("Tobias Winterbourn"), QStringLiteral("Yara Castelmon")}},
-};
+/// The credits, up to the host of the web site: blocks of a heading and the people under it.
+inline const QString Credits = QStringLiteral(
+    "Game Design:\nCorin Ashgrove\n\n"
+    "Programming:\nMarit Sandvold\nJory Pellen\nOttoline Wake\n\n"
+    "Dice Design:\nBenno Farthing\n\n"
+    "Copy Edit:\nHester Quillam\nPiers Lindenow\n\n"
+    "Q&A:\nAlba Thornecroft\nDesmond Okelo\nFenna Zijlmaker\nGideon Marsh-Tully\nIlse Brandvik\n"
+    "Kenji Morisawa-Bell\nLotte Abendrot\nMungo Teasdale\nNadia Ferrowe\nOrla Kinsellagh\n"
+    "Rufus Tanglewood\nSunniva Hale\nTobias Winterbourn\nYara Castelmon\n\n"
+    "Visit Tollmoor Games\non the web at\n");
 
 }  // namespace blunko

@@ -71,13 +71,7 @@ frmCredits::frmCredits(QWidget* Owner) : PlacedDialog(Owner) {
   connect(&steps, &QTimer::timeout, this, &frmCredits::Step);
 }
 
-QString frmCredits::CreditsText() {
-  QStringList Blocks;
-  for (const CreditsBlock& Block : Credits)
-    Blocks += Block.Heading + QLatin1Char('\n') + Block.Lines.join(QLatin1Char('\n'));
-  Blocks += QStringLiteral("Visit Tollmoor Games\non the web at\n") + QUrl(WebSite).host();
-  return Blocks.join(QStringLiteral("\n\n"));
-}
+QString frmCredits::CreditsText() { return Credits + QUrl(WebSite).host(); }
 
 void frmCredits::showEvent(QShowEvent* Event) {
   PlacedDialog::showEvent(Event);
@@ -88,8 +82,7 @@ void frmCredits::showEvent(QShowEvent* Event) {
 /// Starts the scrolling: the text stands just below the lower edge.
 void frmCredits::ScrollCredits() {
   if (!isVisible()) return;
-  textHeight = picScroll->TextHeight();
-  if (textHeight == 0) {
+  if (picScroll->TextHeight() == 0) {
     ShowMessage(this, QStringLiteral("Error scrolling text"), Sign::Warning);
     reject();
     return;
@@ -100,7 +93,8 @@ void frmCredits::ScrollCredits() {
 }
 
 void frmCredits::Step() {
-  if (--picScroll->Top < -textHeight) picScroll->Top = picScroll->height();  // gone at the upper edge: again from below
+  const bool Gone = --picScroll->Top < -picScroll->TextHeight();  // at the upper edge
+  if (Gone) picScroll->Top = picScroll->height();
   picScroll->update();
 }
 

@@ -58,7 +58,6 @@ class frmCredits : public PlacedDialog {
   void Step();
 
   QTimer steps;
-  int textHeight = 0;  ///< of the text
 };
 
 }  // namespace blunko
