@@ -54,13 +54,13 @@ inline void ExpectAsKept(QWidget& Form, const QString& State = {}) {
   for (QWidget* Part : Form.findChildren<QWidget*>(QRegularExpression("^(?!qt_).+"))) {
     if (!Part->isVisible() || Part->window() != &Form) continue;
     const QAccessibleInterface& Told = *QAccessible::queryAccessibleInterface(Part);
-    const QPalette& Colours = Part->palette();
+    const bool ToolkitPaints = Part->metaObject()->className()[0] == 'Q';  // ours have colours of their own
     QDebug(&Found.emplace_back()).noquote()
         << Part->objectName() << Told.role() << '"' + Told.text(QAccessible::Name) + '"'
         << Told.text(QAccessible::Description) << (Told.state().invisible ? "unseen" : "")
         << (Told.state().disabled ? "off" : "") << (Told.state().checked ? "checked" : "")
         << QRect(Part->mapTo(&Form, QPoint()), Part->size()) << Part->font().key().section(',', 2, 5)
-        << Colours.color(Part->foregroundRole()).name() << "on" << Colours.color(Part->backgroundRole()).name();
+        << (ToolkitPaints ? Part->palette().color(Part->foregroundRole()).name() : QString());
   }
   for (QString& Line : Found) Line = Line.simplified();
   QString All = Found.join('\n') + '\n';

@@ -44,7 +44,7 @@ struct IniInfoTest : testing::Test {
 };
 
 TEST_F(IniInfoTest, WritesAtOnceOrTogetherAndLeavesNothingBeside) {
-  const Unprivileged Nobody(place);
+  std::optional<Unprivileged> Nobody(place);
   place.Put("real.ini", "");
   place.Chmod("real.ini", 0600);
   ASSERT_TRUE(QFile::link("real.ini", path));
@@ -67,7 +67,10 @@ TEST_F(IniInfoTest, WritesAtOnceOrTogetherAndLeavesNothingBeside) {
   EXPECT_EQ(place.Names(), (QStringList{"real.ini", "real.ini.lock.damaged1", "real.ini.saving.damaged1", "x.ini"}));
   QThread::msleep(50);
   EXPECT_EQ(Info.ReadInfoValue("Names"), "B");
+  Nobody.reset();
+  const uint Owner = QFileInfo(path).ownerId();
   ReplaceFile(path, "[Info]\nNames=C\nEmpty=\n");
+  EXPECT_EQ(QFileInfo(path).ownerId(), Owner) << "also where the administrator saves it";
   EXPECT_EQ(Info.ReadInfoValue("Names"), "C") << "another copy's, of the same length";
 }
 

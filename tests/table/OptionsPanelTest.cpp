@@ -164,17 +164,18 @@ TEST(OptionsPanel, DiceOfARunningGameComeBackInTheChosenSetWithTheChosenMarks) {
   }
 }
 
-TEST(OptionsPanel, APictureThatVanishedIsNotSaved) {
+TEST(OptionsPanel, APictureThatIsNoneLeavesThePlainTableAndOneThatVanishedIsReplaced) {
   DressedTable Dressed("");
   OptionsPanel& Panel = *Dressed.Panel;
   Dressed.Form.cmdOptions->click();
   EXPECT_EQ(Panel.lstSkin->currentRow(), 2) << "(None), Forest, Satin";
-  QFile::remove(Dressed.Picture("Forest.jpg"));
+  Dressed.Folder.Put("Background/Forest.jpg", "no picture");
   Panel.lstSkin->setCurrentRow(1);
   QWidget& Table = *Dressed.Form.Image1;
   EXPECT_TRUE(QTest::qWaitFor([&] {
     return Table.grab().toImage().pixelColor(0, 0) == Table.palette().color(QPalette::Window);
   })) << "plain";
+  QFile::remove(Dressed.Picture("Forest.jpg"));
   Dressed.Close(true);
   EXPECT_EQ(GameSettings(Dressed.Where, IniInfo(Dressed.Where.InfoPath())).Background, Dressed.Picture("Satin.jpg"))
       << "the next start finds one";

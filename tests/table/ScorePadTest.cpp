@@ -22,7 +22,7 @@ TEST_F(ScorePad, TellsTheSeatOnTurnByColourAndInGreyAndComputersBySlantedNames) 
     m.CurrentPlayer = static_cast<std::uint8_t>(OnTurn);
     ++m.PlayerScore[0];
     Pad.UpdateActivePlayer();
-    const QImage Grey = Pad.grab().toImage().convertToFormat(QImage::Format_Grayscale8);
+    const QImage Grey = Pad.grab().scaled(Pad.size()).toImage().convertToFormat(QImage::Format_Grayscale8);
     for (int i = 0; i < 4; ++i) {
       SCOPED_TRACE(i);
       const FitLabel *Name = Label(QStringLiteral("lblPlayer(%1)").arg(i)),

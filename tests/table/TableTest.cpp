@@ -236,8 +236,9 @@ TEST_F(TheTable, NoTextIsCut) {
     t.lblStatus.Caption = Status;
     Form.ShowControls();
     for (FitLabel* Label : Form.picGameTray->findChildren<FitLabel*>()) {
-      const QRect Ink = QRegion(Label->grab().createMaskFromColor(Qt::red, Qt::MaskOutColor)).boundingRect();
-      const bool Whole = Ink.width() > 4 && Label->rect().adjusted(0, 0, -1, 0).contains(Ink);
+      const QPixmap Seen = Label->grab();
+      const QRect Ink = QRegion(Seen.createMaskFromColor(Qt::red, Qt::MaskOutColor)).boundingRect();
+      const bool Whole = Ink.width() > 4 && Seen.rect().adjusted(0, 0, -1, 0).contains(Ink);
       EXPECT_TRUE(Whole || Label->text().isEmpty()) << Label->objectName().toStdString();
     }
   }
