@@ -43,12 +43,6 @@ QList<QImage> IconPictures() {
   return All;
 }
 
-QIcon GameIcon(const QList<QImage>& Pictures) {
-  QIcon Icon;
-  for (const QImage& Picture : Pictures) Icon.addPixmap(QPixmap::fromImage(Picture));
-  return Icon;
-}
-
 }  // namespace
 
 Application::Application(const Folders& Where, const IniInfo& Info, std::unique_ptr<NumberSource> Dice)
@@ -69,7 +63,11 @@ Application::~Application() = default;
 bool Application::Main() {
   InstallAccessibility();
   auto Pictures = std::async(IconPictures);  // while the window is built
-  const auto ShowIcon = [&Pictures] { QApplication::setWindowIcon(GameIcon(Pictures.get())); };
+  const auto ShowIcon = [&Pictures] {
+    QIcon Icon;
+    for (const QImage& Picture : Pictures.get()) Icon.addPixmap(QPixmap::fromImage(Picture));
+    QApplication::setWindowIcon(Icon);
+  };
   State.HelpFile = folders.Shipped(QStringLiteral("help")).toStdString();
   State.PlayToScore = static_cast<std::int16_t>(Settings.ReadPlayToScore());
   State.BreakInScore = static_cast<std::int16_t>(Settings.ReadBreakInScore());
@@ -176,7 +174,8 @@ OptionsPanel& Application::Options() {
     }
     options = new OptionsPanel(*Form, Table, Settings, Pictures);
     connect(options, &OptionsPanel::told, speaker, [this](const QString& Text) { speaker->Answer(Text); });
-    connect(options, &OptionsPanel::customizeSoundsAsked, options, [this] { CustomizeSounds(); });
+    connect(options, &OptionsPanel::customizeSoundsAsked, options,
+            [this] { frmCustomizeSounds(State.FormMessage, Settings, Screen, Form.get()).exec(); });
   }
   return *options;
 }
@@ -245,8 +244,6 @@ void Application::ExitProgram() {
   Form->hide();
   QCoreApplication::exit();
 }
-
-void Application::CustomizeSounds() { frmCustomizeSounds(State.FormMessage, Settings, Screen, Form.get()).exec(); }
 
 void Application::Abort() { std::_Exit(EXIT_FAILURE); }
 

@@ -55,8 +55,6 @@ class Application : public QObject, public Program, private HighRollersScreen {
   void UnloadOtherForms() override;
   void ExitProgram() override;
   void Abort() override;
-  /// Shows the dialog of the sounds over the active window, and waits.
-  void CustomizeSounds();
 
   Folders folders;
   IniInfo InfoFile;

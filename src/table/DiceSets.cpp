@@ -34,22 +34,18 @@ static_assert(std::ranges::all_of(Sets, [](const DiceSet& Set) { return IsDiceSe
 constexpr const char* Offered[] = {"Blue",  "Red",    "Clouds",  "Antique",  "Marbles", "Patriot",
                                    "Pablo", "Clocks", "Bubbles", "Computer", "Digital"};
 
-template <typename Test>
-const DiceSet* Find(Test Fits) {
-  const auto Found = std::find_if(std::begin(Sets), std::end(Sets), Fits);
-  return Found == std::end(Sets) ? nullptr : &*Found;
-}
-
 }  // namespace
 
 std::span<const char* const> OfferedDiceSets() { return Offered; }
 
 const DiceSet* FindDiceSet(int Base) {
-  return Find([Base](const DiceSet& Set) { return Set.Base == Base; });
+  const auto* const Found = std::ranges::find(Sets, Base, &DiceSet::Base);
+  return Found == std::end(Sets) ? nullptr : Found;
 }
 
 const DiceSet* FindDiceSet(const QString& Name) {
-  return Find([&Name](const DiceSet& Set) { return Name == QLatin1String(Set.Name); });
+  const auto* const Found = std::ranges::find(Sets, Name, [](auto& Set) { return QLatin1String(Set.Name); });
+  return Found == std::end(Sets) ? nullptr : Found;
 }
 
 QColor StartColour(int Base) {

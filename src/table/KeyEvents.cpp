@@ -4,22 +4,14 @@
 
 namespace blunko {
 
-namespace {
-
 // Places of keys on the board, as X11 and Wayland number them. Elsewhere the same numbers are other keys.
 constexpr quint32 PlaceOf1 = 10, PlaceOf6 = 15, PlaceOfR = 27, PlaceOfP = 33, PlaceOfS = 39, PlaceOfL = 46;
-
-quint32 PlaceOf(const QKeyEvent& Event, const QString& Platform) {
-  const bool Known = Platform == QLatin1String("xcb") || Platform.startsWith(QLatin1String("wayland"));
-  return Known ? Event.nativeScanCode() : 0;
-}
-
-}  // namespace
 
 std::int16_t KeyCodeOf(const QKeyEvent& Event, const QString& Platform) {
   const int Key = Event.key();
   const bool NumPad = Event.modifiers().testFlag(Qt::KeypadModifier);
-  const quint32 Place = PlaceOf(Event, Platform);
+  const bool Known = Platform == QLatin1String("xcb") || Platform.startsWith(QLatin1String("wayland"));
+  const quint32 Place = Known ? Event.nativeScanCode() : 0;
   // The row above the letters counts by its place: not every keyboard has the digits there without Shift.
   if (Place >= PlaceOf1 && Place <= PlaceOf6) return static_cast<std::int16_t>(Digit1 + Place - PlaceOf1);
   if (Key >= Qt::Key_0 && Key <= Qt::Key_9)

@@ -18,8 +18,6 @@
 
 namespace blunko {
 
-namespace {
-
 constexpr int PanelWidth = 2385, PanelHeight = 7695;  // twips; the table covers the rest of the panel
 constexpr int StripWidth = 1890;                      // twips, of the panel on the screen
 
@@ -33,8 +31,6 @@ const QString FrameStyle = QStringLiteral(
 // Entry 6 shows a purer cyan than the text gets.
 constexpr QRgb SwatchColours[] = {0x000000, 0xFF0000, 0x00FF00, 0xFFFF00, 0x0000FF, 0xFF00FF, 0x00FFFF, 0xFFFFFF};
 const char* const ColourNames[] = {"Black", "Red", "Green", "Yellow", "Blue", "Magenta", "Cyan", "White"};
-
-}  // namespace
 
 OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QStringList BackgroundFolders)
     : QWidget(&Main), form(Main), game(Table), settings(Options), backgrounds(std::move(BackgroundFolders)) {

@@ -3,8 +3,6 @@
 #include <QMenu>
 #include <QPainter>
 
-#include <functional>
-
 #include "engine/TableControls.h"
 #include "widgets/Fonts.h"
 #include "widgets/FormBuilder.h"
@@ -60,19 +58,6 @@ class FrameBox : public QWidget {
   QPixmap drawn;
 };
 
-/// A mark with the lamp that burns round it.
-class MarkBox : public BitmapBox {
- public:
-  MarkBox(QWidget* Lamp, Bitmaps& Pictures, QWidget* Parent) : BitmapBox(MarkerBitmap, Pictures, Parent), lamp(Lamp) {}
-  void setVisible(bool Visible) override {
-    lamp->setVisible(Visible);
-    BitmapBox::setVisible(Visible);
-  }
-
- private:
-  QWidget* lamp;
-};
-
 }  // namespace
 
 TableParts::TableParts() : QWidget(nullptr, Qt::Window) {
@@ -109,18 +94,19 @@ void TableParts::PlaceTrays() {
   SetName(*picTray2, QStringLiteral("Dice set aside"));
   for (int i = 0; i < 6; ++i) {
     for (const int Index : {i, 10 + i}) {
-      auto* Box = Make<DieBox>(Index < 10 ? picTray1 : picTray2, QStringLiteral("Picture1(%1)").arg(Index), Index,
-                               std::ref(Pictures));
+      auto* Box =
+          Make<DieBox>(Index < 10 ? picTray1 : picTray2, QStringLiteral("Picture1(%1)").arg(Index), Index, Pictures);
       Picture1[Index < 10 ? i : 6 + i] = Placed(Box, TwipsRect(DieBoxLeft[i], DieTop, DieSide, DieSide));
     }
-    auto* Lamp = Make<BitmapBox>(picGameTray, QStringLiteral("picLamp(%1)").arg(i), LampBitmap, std::ref(Pictures));
-    Placed(Lamp, QRect(Pixels(MarkerLeft[i]) - 21, 12, 45, 44));
-    auto* Mark = Make<MarkBox>(picGameTray, QStringLiteral("picMarker(%1)").arg(i), Lamp, std::ref(Pictures));
-    SetName(*Mark, QStringLiteral("Mark over die %1").arg(i + 1));
-    picMarker[i] =
-        Placed(Mark, QRect(Pixels(MarkerLeft[i]), Pixels(MarkerTop), Pixels(MarkerSide), Pixels(MarkerSide)));
+    const auto Mark = [&](const QString& Name, int Bitmap, const QRect& Place) {
+      return Placed(Make<BitmapBox>(picGameTray, Name.arg(i), Bitmap, Pictures), Place);
+    };
+    picLamp[i] = Mark("picLamp(%1)", LampBitmap, QRect(Pixels(MarkerLeft[i]) - 21, 12, 45, 44));
+    picMarker[i] = Mark("picMarker(%1)", MarkerBitmap,
+                        QRect(Pixels(MarkerLeft[i]), Pixels(MarkerTop), Pixels(MarkerSide), Pixels(MarkerSide)));
+    SetName(*picMarker[i], QStringLiteral("Mark over die %1").arg(i + 1));
   }
-  pctDivider = Placed(Make<BitmapBox>(picTray2, QStringLiteral("pctDivider"), DividerBitmap, std::ref(Pictures)),
+  pctDivider = Placed(Make<BitmapBox>(picTray2, QStringLiteral("pctDivider"), DividerBitmap, Pictures),
                       TwipsRect(0, DividerTop, DividerWidth, DividerHeight));
   SetName(*pctDivider, QStringLiteral("Divider"));
   picSampleDice = Tray(QStringLiteral("picSampleDice"), SampleTop, Pixels(SampleTop - Tray2Top));

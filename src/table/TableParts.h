@@ -22,9 +22,9 @@ class TableParts : public QWidget {
   QWidget* picGameTray;
   StretchedPicture* Image1;
   DiceTray *picTray1, *picTray2;
-  DiceTray* picSampleDice;           ///< covers the lower tray while the options panel is open
-  std::array<DieBox*, 12> Picture1;  ///< 0 to 5 the table, 6 to 11 the tray slots
-  std::array<QWidget*, 6> picMarker;
+  DiceTray* picSampleDice;                     ///< covers the lower tray while the options panel is open
+  std::array<DieBox*, 12> Picture1;            ///< 0 to 5 the table, 6 to 11 the tray slots
+  std::array<QWidget*, 6> picMarker, picLamp;  ///< a mark, and the lamp that burns round it
   QWidget* pctDivider;
   ButtonPlus *ARCmdNewGame, *cmdRoll, *cmdPassDice, *cmdOptions, *cmdHighRollers, *cmdExit;
   FitLabel *lblStatus, *lblLastRoll, *Label1, *lblPlayer, *lblTurnScoreLabel, *lblTurnScore;

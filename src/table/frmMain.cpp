@@ -45,29 +45,26 @@ void frmMain::ConnectControls() {
       Handle([=, this] { game.PersonClicksTray(Row, static_cast<std::int16_t>(Button)); });
     });
   }
-  const auto Pressed = [this](QPushButton* Button, auto Run) {
-    connect(Button, &QPushButton::clicked, this, [=, this] { Handle(Run); });
-  };
-  const auto Chosen = [this](QAction* Entry, auto Run) {
-    connect(Entry, &QAction::triggered, this, [=, this] { Handle(Run); });
+  const auto On = [this](auto* Control, auto Signal, auto Run) {
+    connect(Control, Signal, this, [=, this] { Handle(Run); });
   };
   const auto Ask = [this](void (frmMain::*Signal)()) {
     return [=, this] { game.Command([=, this] { emit(this->*Signal)(); }); };
   };
   const auto OpenOptions = [this] { game.cmdOptions_Click(); };
   const auto Close = [this] { game.PersonCloses(); };
-  Pressed(cmdRoll, [this] { game.PersonRolls(); });
-  Pressed(cmdPassDice, [this] { game.PersonPasses(); });
-  Pressed(ARCmdNewGame, [this] { game.ARCmdNewGame_Click(); });
-  Pressed(cmdOptions, OpenOptions);
-  Pressed(cmdHighRollers, Ask(&frmMain::highRollersAsked));
-  Pressed(cmdExit, Close);
-  Chosen(mnuNewGame, [this] { game.PersonBeginsGame(); });
-  Chosen(mnuOptions, OpenOptions);
-  Chosen(mnuExit, Close);
-  Chosen(mnuHowToPlay, Ask(&frmMain::howToPlayAsked));
-  Chosen(mnuGoHelp, Ask(&frmMain::helpAsked));
-  Chosen(mnuAbout, Ask(&frmMain::aboutAsked));
+  On(cmdRoll, &QPushButton::clicked, [this] { game.PersonRolls(); });
+  On(cmdPassDice, &QPushButton::clicked, [this] { game.PersonPasses(); });
+  On(ARCmdNewGame, &QPushButton::clicked, [this] { game.ARCmdNewGame_Click(); });
+  On(cmdOptions, &QPushButton::clicked, OpenOptions);
+  On(cmdHighRollers, &QPushButton::clicked, Ask(&frmMain::highRollersAsked));
+  On(cmdExit, &QPushButton::clicked, Close);
+  On(mnuNewGame, &QAction::triggered, [this] { game.PersonBeginsGame(); });
+  On(mnuOptions, &QAction::triggered, OpenOptions);
+  On(mnuExit, &QAction::triggered, Close);
+  On(mnuHowToPlay, &QAction::triggered, Ask(&frmMain::howToPlayAsked));
+  On(mnuGoHelp, &QAction::triggered, Ask(&frmMain::helpAsked));
+  On(mnuAbout, &QAction::triggered, Ask(&frmMain::aboutAsked));
 }
 
 void frmMain::ShowControls() {
@@ -78,24 +75,30 @@ void frmMain::ShowControls() {
   Show(ARCmdNewGame, t.ARCmdNewGame);
   Show(cmdRoll, t.cmdRoll);
   Show(cmdPassDice, t.cmdPassDice);
-  EnableTray(picTray1, t.picTray1.Enabled);
-  EnableTray(picTray2, t.picTray2.Enabled);
+  for (const auto& [Tray, Enabled] : {std::pair(picTray1, t.picTray1.Enabled), {picTray2, t.picTray2.Enabled}}) {
+    if (!Enabled) focus.Leave(Tray);
+    Tray->setEnabled(Enabled);
+  }
   const bool PersonPlays = game.PersonMayPlay() && !t.Rolling;
+  for (int i = 0; i < 12; ++i) {
+    const bool OnTable = i < 6;
+    const int Index = OnTable ? i : 4 + i;
+    const int Picture = OnTable && Wears.SampleSet != 0 ? Wears.SampleSet + i + 1 : t.Picture1(Index);
+    if (Picture == 0) focus.Leave(Picture1[i]);
+    Picture1[i]->setPicture(Picture);
+    Picture1[i]->setTakeable(PersonPlays && game.CanTake(Index));
+    Picture1[i]->setPale(OnTable && t.Busted && !Wears.Covered);
+  }
   for (int i = 0; i < 6; ++i) {
-    ShowDie(i, Wears.SampleSet == 0 ? t.Picture1(i) : Wears.SampleSet + i + 1);
-    ShowDie(6 + i, t.Picture1(10 + i));
-    Picture1[i]->setTakeable(PersonPlays && game.CanTake(i));
-    Picture1[6 + i]->setTakeable(PersonPlays && game.CanTake(10 + i));
-    Picture1[i]->setPale(t.Busted && !Wears.Covered);
-    picMarker[i]->setVisible(t.picMarker[i] && !Wears.Covered);
+    for (QWidget* Part : {picLamp[i], picMarker[i]}) Part->setVisible(t.picMarker[i] && !Wears.Covered);
   }
   pctDivider->move(Pixels(t.pctDivider.Left), pctDivider->y());
   pctDivider->setVisible(t.pctDivider.Visible);
-  lblStatus->setLoud(t.lblStatus.Loud);
-  Show(lblStatus, t.lblStatus.Caption, t.lblStatus.Visible, Pixels(t.lblStatus.Top));
-  Show(lblLastRoll, t.lblLastRoll.Caption, t.lblLastRoll.Visible, lblLastRoll->y());
-  Show(lblPlayer, t.lblPlayer.Caption, t.lblPlayer.Visible, lblPlayer->y());
-  Show(lblTurnScore, t.lblTurnScore.Caption, t.lblTurnScore.Visible, lblTurnScore->y());
+  lblStatus->move(lblStatus->x(), Pixels(t.lblStatus.Top));
+  Show(lblStatus, t.lblStatus);
+  Show(lblLastRoll, t.lblLastRoll);
+  Show(lblPlayer, t.lblPlayer);
+  Show(lblTurnScore, t.lblTurnScore);
   DrawDress();
   DescribeDice();
   // The handlers may not return to the event loop for a while: what was marked for painting is painted now.
@@ -108,10 +111,10 @@ void frmMain::Show(ButtonPlus* Widget, const Button& Control) {
   Widget->setVisible(Control.Visible);
 }
 
-void frmMain::Show(FitLabel* Widget, const std::string& Caption, bool Visible, int Top) {
-  Widget->setText(QString::fromStdString(Caption));
-  Widget->setVisible(Visible);
-  Widget->move(Widget->x(), Top);
+void frmMain::Show(FitLabel* Widget, const Label& Control) {
+  Widget->setText(QString::fromStdString(Control.Caption));
+  Widget->setVisible(Control.Visible);
+  Widget->setLoud(Control.Loud);
 }
 
 /// What a screen reader says of the dice: "Die 3: five, scores".
@@ -128,16 +131,6 @@ void frmMain::DescribeDice() {
     if (Counts) Name += OnTable ? ", scores" : ", can be taken back";
     if (Face != 0) SetName(*Picture1[i], Name);  // an empty box isn't there
   }
-}
-
-void frmMain::EnableTray(DiceTray* Tray, bool Enabled) {
-  if (!Enabled) focus.Leave(Tray);
-  Tray->setEnabled(Enabled);
-}
-
-void frmMain::ShowDie(std::size_t Box, int Picture) {
-  if (Picture == 0) focus.Leave(Picture1[Box]);
-  Picture1[Box]->setPicture(Picture);
 }
 
 void frmMain::ShowBackground() { Image1->Load(Wears.Background == NoBackground ? QString() : Wears.Background); }

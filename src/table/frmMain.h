@@ -72,11 +72,9 @@ class frmMain : public TableParts {
  private:
   void ConnectControls();
   void Show(ButtonPlus* Widget, const Button& Control);
-  void Show(FitLabel* Widget, const std::string& Caption, bool Visible, int Top);
+  void Show(FitLabel* Widget, const Label& Control);
   void DrawDress();
   void DescribeDice();
-  void EnableTray(DiceTray* Tray, bool Enabled);
-  void ShowDie(std::size_t Box, int Picture);
 
   Game& game;
   TableFocus focus;
