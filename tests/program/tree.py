@@ -92,8 +92,7 @@ def find(name, role="button"):
     return next((n for n in showing() if n.getRoleName().removeprefix("push ") == role and fits(n.name or "")), None)
 
 
-def is_on(name):
-    button = find(name)
+def is_on(button):
     return button is not None and button.getState().contains(pyatspi.STATE_SENSITIVE)
 
 
@@ -102,14 +101,17 @@ def line_at_caret(node):
     return text.getTextAtOffset(text.caretOffset, pyatspi.TEXT_BOUNDARY_LINE_START)[0]
 
 
-def could_press(name, role="button"):
+def do(node):
     """Presses it, if it is there and can be pressed."""
-    node = find(name, role)
     actions = node.queryAction() if node else None
     for i in range(actions.nActions if actions else 0):
         if actions.getName(i).lower() in ("press", "toggle", "check"):
             return actions.doAction(i)
     return False
+
+
+def could_press(name, role="button"):
+    return do(find(name, role))
 
 
 def press(name, role="button"):
