@@ -55,20 +55,11 @@ bool Game::PersonCloses() {
 }
 
 void Game::Form_KeyUp(std::int16_t KeyCode, std::int16_t Shift) {
-  const auto ClickFace = [this](int Face) {
+  const int Face = KeyCode - (KeyCode < NumPad1 ? Digit1 : NumPad1) + 1;
+  if (Face >= 1 && Face <= 6) {
     for (std::int16_t i = 0; i < Dice; ++i) {
-      if (m.DieUp[i] && m.DieFace[i] == Face) {
-        PersonClicksDie(i, LeftButton);
-        return;
-      }
+      if (m.DieUp[i] && m.DieFace[i] == Face) return PersonClicksDie(i, LeftButton);
     }
-  };
-  if (KeyCode >= Digit1 && KeyCode <= Digit6) {
-    ClickFace(KeyCode - Digit1 + 1);
-    return;
-  }
-  if (KeyCode >= NumPad1 && KeyCode <= NumPad6) {
-    ClickFace(KeyCode - NumPad1 + 1);
     return;
   }
   switch (KeyCode) {

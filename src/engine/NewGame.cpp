@@ -68,9 +68,7 @@ void Game::GiveUpGame() {
   t.lblTurnScore.Caption.clear();
   t.pctDivider.Visible = false;
   HideMarkers();
-  for (int i = 0; i < Dice; ++i) t.Picture1(i) = t.Picture1(10 + i) = 0;
-  m.ShownFace.fill(0);
-  m.TrayFace.fill(0);
+  ClearDice();
   t.picTray1.Enabled = t.picTray2.Enabled = false;
 }
 

@@ -1,5 +1,5 @@
+#include <algorithm>
 #include <array>
-#include <utility>
 
 #include "engine/Game.h"
 #include "engine/ScoreDice.h"
@@ -96,17 +96,7 @@ void Game::RollDice(std::uint8_t NumDiceUp) {
   desktop.Refresh();
 }
 
-void Game::Bubble(std::int16_t SortHowMany) {
-  bool Swapped = true;
-  for (int Limit = SortHowMany - 1; Swapped; --Limit) {
-    Swapped = false;
-    for (int i = 0; i < Limit; ++i) {
-      if (m.DieFace[i] <= m.DieFace[i + 1]) continue;
-      std::swap(m.DieFace[i], m.DieFace[i + 1]);
-      Swapped = true;
-    }
-  }
-}
+void Game::Bubble(std::int16_t SortHowMany) { std::sort(m.DieFace.begin(), m.DieFace.begin() + SortHowMany); }
 
 std::int32_t Game::RandomNumber(std::uint8_t Bound) { return numbers.UtilRandom(Bound); }
 

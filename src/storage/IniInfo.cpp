@@ -20,8 +20,6 @@ const QByteArray ByteOrderMark = "\xEF\xBB\xBF";
 
 bool IsUtf8(const QByteArray& Text) { return Text.startsWith(ByteOrderMark); }
 
-bool IsSection(const QByteArray& Line) { return Line.trimmed().startsWith('['); }
-
 /// A comment may stand behind the bracket.
 bool IsOurSection(const QByteArray& Line) {
   const QByteArray Name = Line.mid(Line.indexOf('[') + 1);
@@ -47,7 +45,7 @@ Spot FindSpot(const QByteArray& Text, const QByteArray& Key) {
     const qsizetype LineEnd = Text.indexOf('\n', From);
     End = LineEnd < 0 ? Text.size() : LineEnd + 1;
     const QByteArray Line = Text.mid(From, End - From);
-    if (IsSection(Line)) {
+    if (Line.trimmed().startsWith('[')) {
       Inside = IsOurSection(Line) && New.At < 0;
       if (Inside) New.At = End;
     } else if (Inside && HoldsKey(Line, Key)) {
@@ -106,15 +104,16 @@ QByteArray WithAll(QByteArray Text, const QList<Written>& Values) {
 class IniInfo::File {
  public:
   explicit File(const QString& Path) : path(Path) {}
-  ~File() {
-    if (!unsaved.isEmpty()) Save();
-  }
+  ~File() { Save(); }
   Q_DISABLE_COPY_MOVE(File)
 
   const QByteArray& Text();
   void Write(const Written& Value);
   void Gather() { ++gathering; }
-  void Release();
+  void Release() {
+    --gathering;
+    Save();
+  }
 
  private:
   void Save();
@@ -177,18 +176,15 @@ void IniInfo::File::Write(const Written& Value) {
   unsaved.removeIf([&Value](const Written& Old) { return Old.first.compare(Value.first, Qt::CaseInsensitive) == 0; });
   unsaved << Value;
   known = false;
-  if (gathering == 0) Save();
-}
-
-void IniInfo::File::Release() {
-  if (--gathering == 0 && !unsaved.isEmpty()) Save();
+  Save();
 }
 
 void IniInfo::File::Save() {
+  if (gathering > 0 || unsaved.isEmpty()) return;
   const FileLock Lock(path);
   if (const auto Old = Lock.IsHeld() ? Load(true) : std::nullopt) {
     const QByteArray New = WithAll(*Old, unsaved);
-    if (New == *Old || (New.size() <= LargestFile && ReplaceFile(path, New))) return unsaved.clear();
+    if (New == *Old || ReplaceFile(path, New)) return unsaved.clear();
   }
   TellUnsaved(path, toldUnsaved);
 }

@@ -5,7 +5,6 @@
 #include "app/OpenInShell.h"
 #include "app/Scale.h"
 #include "tests/app/Run.h"
-#include "tests/support/Server.h"
 
 namespace blunko::test {
 
@@ -184,17 +183,17 @@ TEST_F(TheProgram, AsksItsQuestionsAtTheFirstStartAndForTheVersionNowAndThen) {
       {"yon", 0, "", Version},
       {"nn", 0, "", Version},
       {"", 5, "", ""},
-      {"yo", 1, "1.0.0\n", "Blunko: You have the latest version."},
-      {"yy", 1, "1.0.1\n", Newer, false},
-      {"yo", 1, "<html>404", "An error has occurred. Please try again later."},
+      {"yo", 1, "1.0.0", "Blunko: You have the latest version."},
+      {"yy", 1, "1.0.1", Newer, false},
+      {"yo", 1, "2.0", "An error has occurred. Please try again later."},
   };
   for (const auto& Row : Rows) {
     SCOPED_TRACE(&Row - Rows);
     const Shell Browser;
     if (Row.Drawn == 0) QFile::remove(Folder.Path("game.ini"));
     Create();
-    std::optional<Server> Web;
-    if (*Row.Newest != '\0') Run->Util = TbkUtil(Web.emplace(Ok + "\r\n" + Row.Newest).Address, Patience);
+    Run->Util = TbkUtil("http://x/", 5000, Folder.Put("asker", QByteArray("#!/bin/sh\necho '") + Row.Newest + "'"));
+    Folder.Chmod("asker", 0755);
     Dice->Faces = {Row.Drawn};
     for (const char Answer : std::string_view(Row.Answers)) {
       Next.Expect<GameBox>([Answer](GameBox& Box) {
