@@ -184,7 +184,7 @@ void IniInfo::File::Save() {
   const FileLock Lock(path);
   if (const auto Old = Lock.IsHeld() ? Load(true) : std::nullopt) {
     const QByteArray New = WithAll(*Old, unsaved);
-    if (New == *Old || ReplaceFile(path, New)) return unsaved.clear();
+    if (New == *Old || (New.size() <= LargestFile && ReplaceFile(path, New))) return unsaved.clear();
   }
   TellUnsaved(path, toldUnsaved);
 }
