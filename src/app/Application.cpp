@@ -92,10 +92,8 @@ bool Application::Main() {
 
 /// Makes the table's window, dresses it as the settings say, and connects it with the rest.
 void Application::LoadForm() {
-  Dress Clothes;
-  Clothes.Trays = StartColour(Settings.DieColour);
-  Clothes.Background = Settings.Background;
-  Clothes.TextColour = Settings.TextColour();
+  const Dress Clothes{
+      .Trays = StartColour(Settings.DieColour), .TextColour = Settings.TextColour(), .Background = Settings.Background};
   Form = std::make_unique<frmMain>(Table, Clothes);
   speaker = new Announcer(Form.get());
   Form->ShowControls();

@@ -48,7 +48,18 @@ frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& S
   connect(Picture1, &QAbstractButton::clicked, this, &frmAbout::Picture1_Click);
   connect(Picture2, &QAbstractButton::clicked, this, &frmAbout::Picture2_Click);
   FixButtonColours(*this);
-  LayOut();
+  auto* Head = new QGridLayout;
+  Head->setHorizontalSpacing(18);
+  Head->addWidget(Picture1, 0, 0, 3, 1, Qt::AlignCenter);
+  Head->addWidget(Label3, 0, 1);
+  Head->addWidget(Label2, 1, 1);
+  Head->addWidget(Label_Version, 2, 1);
+  Head->addWidget(Picture2, 0, 2, 3, 1, Qt::AlignCenter);
+  for (ButtonPlus* Button : {cmdOK, cmdCredits}) Button->setMinimumWidth(110);
+  Stack(this, {18, 14, 18, 14}, 4,
+        {Head, 10, Label1, CentredRow({lblURL}, 0), CentredRow({lblMail}, 0), 10, lblDisclaimer, Label4, 12,
+         CentredRow({cmdOK, cmdCredits}, 12)})
+      ->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 LinkLabel* frmAbout::MakeLink(const QString& Name, const QString& Shown, const QString& Target) {
@@ -64,21 +75,6 @@ DieButton* frmAbout::MakeDie(const QString& Name, const QString& File) {
   Made->setFixedSize(DieSize);
   Made->setAccessibleName(Name == "Picture1" ? "Left die" : "Right die");
   return Made;
-}
-
-void frmAbout::LayOut() {
-  auto* Head = new QGridLayout;
-  Head->setHorizontalSpacing(18);
-  Head->addWidget(Picture1, 0, 0, 3, 1, Qt::AlignCenter);
-  Head->addWidget(Label3, 0, 1);
-  Head->addWidget(Label2, 1, 1);
-  Head->addWidget(Label_Version, 2, 1);
-  Head->addWidget(Picture2, 0, 2, 3, 1, Qt::AlignCenter);
-  for (ButtonPlus* Button : {cmdOK, cmdCredits}) Button->setMinimumWidth(110);
-  Stack(this, {18, 14, 18, 14}, 4,
-        {Head, 10, Label1, CentredRow({lblURL}, 0), CentredRow({lblMail}, 0), 10, lblDisclaimer, Label4, 12,
-         CentredRow({cmdOK, cmdCredits}, 12)})
-      ->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void frmAbout::Picture1_Click() {

@@ -40,7 +40,6 @@ class frmAbout : public PlacedDialog {
  private:
   LinkLabel* MakeLink(const QString& Name, const QString& Shown, const QString& Target);
   DieButton* MakeDie(const QString& Name, const QString& File);
-  void LayOut();
   void Picture1_Click();
   void Picture2_Click();
 

@@ -29,10 +29,6 @@ frmViewHRListYN::frmViewHRListYN(std::string& FormMessage, Desktop& Screen, cons
   lblDontAsk = MakeWordsOf(lblCheck, "lblDontAsk", "Don't ask me this again today.");
   connect(lblCheck, &QAbstractButton::clicked, this, &frmViewHRListYN::lblCheck_Click);
   FixButtonColours(*this);
-  LayOut();
-}
-
-void frmViewHRListYN::LayOut() {
   for (ButtonPlus* Button : {cmdYes, cmdNo}) Button->setMinimumWidth(100);
   constexpr int SmallestWidth = 370;  // px
   const auto* Outer =

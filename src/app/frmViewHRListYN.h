@@ -27,7 +27,6 @@ class frmViewHRListYN : public PlacedDialog {
   WordButton* lblDontAsk;
 
  private:
-  void LayOut();
   void Leave(const char* Word);
   void lblCheck_Click();
 

@@ -38,10 +38,6 @@ frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
   lblCheck->setChecked(Stored.isEmpty() || Stored == QLatin1String("1"));
   connect(lblCheck, &QAbstractButton::clicked, this, &frmWelcome::lblCheck_Click);
   FixButtonColours(*this);
-  LayOut();
-}
-
-void frmWelcome::LayOut() {
   picDice = Make<SvgBox>(this, "picDice", QStringLiteral(":/art/welcome.svg"));
   picDice->setFixedSize(DiceSize);
   framed = {picDice};

@@ -34,7 +34,6 @@ class frmWelcome : public PlacedDialog {
   void paintEvent(QPaintEvent* Event) override;
 
  private:
-  void LayOut();
   void lblCheck_Click();
 
   const IniInfo& info;

@@ -48,7 +48,9 @@ OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QS
   BuildLists();
   BuildSwatches();
   BuildCommands();
-  ColourControls();
+  FixButtonColours(*this);
+  // A style sheet keeps the panel's colours from being inherited.
+  for (auto* Option : findChildren<QAbstractButton*>()) Option->setPalette(palette());
   lower();
   hide();
 }
@@ -149,13 +151,6 @@ void OptionsPanel::paintEvent(QPaintEvent*) {
   Shadow.setColorAt(1, Thin(Shade, 0.6));
   Painter.fillRect(Edge - Deep, 0, Deep, height(), Shadow);
   Painter.fillRect(Edge - 1, 0, 1, height(), Brass);
-}
-
-void OptionsPanel::ColourControls() {
-  FixButtonColours(*this);
-  // A style sheet keeps the panel's colours from being inherited.
-  for (auto* Option : findChildren<QRadioButton*>()) Option->setPalette(palette());
-  for (auto* Option : findChildren<QCheckBox*>()) Option->setPalette(palette());
 }
 
 /// The list of the backgrounds ends with a whole row, whatever height the style gives a row.

@@ -64,7 +64,6 @@ class OptionsPanel : public QWidget {
   void BuildLists();
   void BuildSwatches();
   void BuildCommands();
-  void ColourControls();
   void ShowWholeRows();
   void ShowSampleDice();
   void SnapshotOptions();

@@ -52,10 +52,7 @@ GameBox::GameBox(QWidget* Owner, Kind Which, const QString& Title, const QString
   Words->addWidget(lblText);
   Words->addStretch();
 
-  auto* Column = new QVBoxLayout(this);
-  Column->setContentsMargins(20, 18, 20, 14);
-  Column->setSpacing(16);
-  Column->addLayout(Words);
+  auto* Column = Stack(this, {20, 18, 20, 14}, 16, {Words});
   if (Which == Kind::Input) Column->addWidget(MakeInput());
   Column->addLayout(MakeAnswers(Which));
   FixButtonColours(*this);
