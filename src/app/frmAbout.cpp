@@ -57,7 +57,7 @@ frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& S
   Head->addWidget(Picture2, 0, 2, 3, 1, Qt::AlignCenter);
   for (ButtonPlus* Button : {cmdOK, cmdCredits}) Button->setMinimumWidth(110);
   Stack(this, {18, 14, 18, 14}, 4,
-        {Head, 10, Label1, CentredRow({lblURL}, 0), CentredRow({lblMail}, 0), 10, lblDisclaimer, Label4, 12,
+        {Head, 10, Label1, CentredRow({lblURL}), CentredRow({lblMail}), 10, lblDisclaimer, Label4, 12,
          CentredRow({cmdOK, cmdCredits}, 12)})
       ->setSizeConstraint(QLayout::SetFixedSize);
 }

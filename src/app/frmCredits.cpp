@@ -63,7 +63,7 @@ frmCredits::frmCredits(QWidget* Owner) : PlacedDialog(Owner) {
   FixButtonColours(*this);
 
   framed = {picScroll};
-  Stack(this, {16 + FrameWidth, 12, 16 + FrameWidth, 12}, 10 + FrameWidth, {Label1, picScroll, CentredRow({cmdOK}, 0)})
+  Stack(this, {16 + FrameWidth, 12, 16 + FrameWidth, 12}, 10 + FrameWidth, {Label1, picScroll, CentredRow({cmdOK})})
       ->setSizeConstraint(QLayout::SetFixedSize);
 
   steps.setTimerType(Qt::PreciseTimer);

@@ -53,7 +53,7 @@ void frmHighRollers::LayOut() {
   Bottom->addWidget(lblReset, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
   Bottom->addWidget(cmdOK, 0, 0, Qt::AlignCenter);
   Stack(this, {14 + FrameWidth, 10, 14 + FrameWidth, 12}, 8,
-        {CentredRow({Image1}, 0), Columns, FrameWidth, CentredRow({Image2}, 0), Bottom})
+        {CentredRow({Image1}), Columns, FrameWidth, CentredRow({Image2}), Bottom})
       ->setSizeConstraint(QLayout::SetFixedSize);
 }
 

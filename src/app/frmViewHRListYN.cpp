@@ -33,7 +33,7 @@ frmViewHRListYN::frmViewHRListYN(std::string& FormMessage, Desktop& Screen, cons
   constexpr int SmallestWidth = 370;  // px
   const auto* Outer =
       Stack(this, {18, 14, 18, 12}, 12,
-            {lblWayToGo, lblMessage, CentredRow({cmdYes, cmdNo}, 16), CentredRow({lblCheck, lblDontAsk}, 0)});
+            {lblWayToGo, lblMessage, CentredRow({cmdYes, cmdNo}, 16), CentredRow({lblCheck, lblDontAsk})});
   const int Width = qMax(SmallestWidth, Outer->minimumSize().width());
   setFixedSize(Width, Outer->totalHeightForWidth(Width));
 }

@@ -42,10 +42,10 @@ frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
   picDice->setFixedSize(DiceSize);
   framed = {picDice};
   for (ButtonPlus* Choice : {cmdLearn, cmdPoints, cmdTips, cmdWebSite, cmdExit}) Choice->setMinimumSize(ButtonSize);
-  Stack(this, {14 + FrameWidth, 12 + FrameWidth, 14 + FrameWidth, 12}, 6,
-        {picDice, FrameWidth, Label1, Label2, 10, CentredRow({cmdLearn}, 0), CentredRow({cmdPoints}, 0),
-         CentredRow({cmdTips}, 0), CentredRow({cmdWebSite}, 0), 6, CentredRow({cmdExit}, 0), 6,
-         CentredRow({lblCheck, lblShowWelcome}, 0)})
+  Stack(
+      this, {14 + FrameWidth, 12 + FrameWidth, 14 + FrameWidth, 12}, 6,
+      {picDice, FrameWidth, Label1, Label2, 10, CentredRow({cmdLearn}), CentredRow({cmdPoints}), CentredRow({cmdTips}),
+       CentredRow({cmdWebSite}), 6, CentredRow({cmdExit}), 6, CentredRow({lblCheck, lblShowWelcome})})
       ->setSizeConstraint(QLayout::SetFixedSize);
 }
 

@@ -90,7 +90,7 @@ QHBoxLayout* GameBox::MakeAnswers(Kind Which) {
   }
   cmdOK = Answer("cmdOK", QStringLiteral("OK"), Accepted);
   SetFirst(cmdOK);
-  if (Which == Kind::Message) return CentredRow({cmdOK}, 0);
+  if (Which == Kind::Message) return CentredRow({cmdOK});
   cmdCancel = Answer("cmdCancel", QStringLiteral("Cancel"), Rejected);
   txtAnswer->setFocus();
   return CentredRow({cmdOK, cmdCancel}, 12);

@@ -13,20 +13,19 @@ namespace blunko {
 namespace {
 
 constexpr int CaptionSpace = 8;  // px at either side
-const QColor Body(52, 72, 124), HeroBody(21, 44, 98);
 
 /// The style of that name is the plain look of a desktop that has no theme.
 bool IsThemeActive() { return QApplication::style()->name() != QLatin1String("windows"); }
 
 }  // namespace
 
-ButtonPlus::ButtonPlus(const QString& Caption, QWidget* Parent) : QPushButton(Caption, Parent), body(Body) {
+ButtonPlus::ButtonPlus(const QString& Caption, QWidget* Parent) : QPushButton(Caption, Parent), body(ButtonNavy) {
   setFont(FontOf(Typeface::Verdana, 9.75));
   setAttribute(Qt::WA_Hover);
   setAutoDefault(true);  // Enter presses it, too
 }
 
-void ButtonPlus::setBackColor(const QColor& Colour) { setBody(Mixed(Body, Colour, 0.2)); }
+void ButtonPlus::setBackColor(const QColor& Colour) { setBody(Mixed(ButtonNavy, Colour, 0.2)); }
 
 void ButtonPlus::setBody(const QColor& Colour) {
   body = Colour;
@@ -35,7 +34,7 @@ void ButtonPlus::setBody(const QColor& Colour) {
 
 void ButtonPlus::setHero() {
   hero = true;
-  setBody(HeroBody);
+  setBody(HeroNavy);
 }
 
 QSize ButtonPlus::sizeHint() const {

@@ -103,7 +103,7 @@ inline WordButton* MakeWordsOf(TickBox* Box, const QString& Name, const QString&
 }
 
 /// Controls side by side in the middle of the form, this many pixels apart.
-inline QHBoxLayout* CentredRow(std::initializer_list<QWidget*> Controls, int Gap) {
+inline QHBoxLayout* CentredRow(std::initializer_list<QWidget*> Controls, int Gap = 0) {
   auto* Row = new QHBoxLayout;
   Row->setSpacing(Gap);
   Row->addStretch();

@@ -23,7 +23,6 @@ namespace blunko {
 
 namespace {
 
-const QColor PearlShade(222, 208, 178);
 constexpr qreal ButtonRadius = 6, RingLine = FocusRingWidth / 2.0;  // px
 
 /// A picture of the resources in the size in which it is shown.
@@ -248,7 +247,7 @@ QColor DrawButton(QPainter& Painter, const QRectF& Face, const ButtonLook& Look)
   };
   QLinearGradient Light(Face.topLeft(), Face.bottomLeft());
   if (!Look.On) {  // sunk: its upper edge lies in the shade, the lower one catches the light
-    const QColor Body = Mixed(Look.Base, QColor(128, 132, 142), 0.45);
+    const QColor Body = Mixed(Look.Base, Slate, 0.45);
     Light.setColorAt(0, Body.darker(135));
     Light.setColorAt(0.16, Body.darker(106));
     Light.setColorAt(1, Body.lighter(108));
@@ -314,15 +313,15 @@ QString PaperStyle() {
   return QStringLiteral(
              "QComboBox, QLineEdit, QAbstractItemView { background: %1; color: %2; selection-background-color: %3;"
              "  selection-color: %4; border: 1px solid %5; border-radius: 3px; }"
-             "QComboBox:disabled, QLineEdit:disabled { background: transparent; color: #7a6b55; }"
+             "QComboBox:disabled, QLineEdit:disabled { background: transparent; color: %6; }"
              "QComboBox { padding: 1px 4px; }"
              "QComboBox::drop-down { border: none; width: 16px; }"
              "QComboBox::down-arrow { image: url(:/materials/down.svg); width: 9px; height: 9px; }"
              "QAbstractItemView { outline: none; }"
              "QAbstractItemView::item { height: 16px; padding-left: 3px; }"
              "QTreeView::item { height: 14px; padding-left: 0; }"
-             "QScrollBar:vertical { background: #e6dcc8; width: 11px; margin: 0; border: none; }"
-             "QScrollBar::handle:vertical { background: #5a6f9e; border-radius: 4px; margin: 1px; min-height: 18px; }"
+             "QScrollBar:vertical { background: %7; width: 11px; margin: 0; border: none; }"
+             "QScrollBar::handle:vertical { background: %8; border-radius: 4px; margin: 1px; min-height: 18px; }"
              "QScrollBar::add-line, QScrollBar::sub-line, QScrollBar::add-page, QScrollBar::sub-page {"
              "  background: none; height: 0; }"
              "QRadioButton::indicator, QCheckBox::indicator { width: 14px; height: 14px; }"
@@ -330,7 +329,8 @@ QString PaperStyle() {
              "QRadioButton::indicator:checked { image: url(:/materials/radio_on.svg); }"
              "QCheckBox::indicator { image: url(:/materials/check.svg); }"
              "QCheckBox::indicator:checked { image: url(:/materials/check_on.svg); }")
-      .arg(Paper.name(), PaperInk.name(), Navy.lighter(160).name(), Ivory.name(), Brass.name());
+      .arg(Paper.name(), PaperInk.name(), Navy.lighter(160).name(), Ivory.name(), Brass.name(), PaperFaded.name(),
+           PaperWorn.name(), NavyMatt.name());
 }
 
 }  // namespace blunko

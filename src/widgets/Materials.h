@@ -12,20 +12,27 @@ namespace blunko {
 // What all windows are made of, so that they look like one piece: pearl and navy satin, walnut, brass, felt and paper,
 // in one light from the upper left.
 
-inline const QColor FormBlue(2, 127, 255);    ///< the ground of the score pad and of the dialogs that celebrate
-inline const QColor Ivory(255, 246, 224);     ///< letters on navy
-inline const QColor Paper(250, 244, 230);     ///< the ground of lists and fields
-inline const QColor PaperInk(0, 0, 128);      ///< letters on it
-inline const QColor FeltRed(166, 2, 2);       ///< the felt of a tray that isn't the table's
-inline const QColor Pearl(244, 238, 226);     ///< pearl satin, where a contrast with it is reckoned
-inline const QColor Navy(15, 34, 80);         ///< navy satin, where a contrast with it is reckoned
-inline const QColor Brass(201, 163, 87);      ///< edges and hairlines
-inline const QColor LoudRed(176, 0, 24);      ///< letters that cry out
-inline const QColor Gilt(255, 217, 138);      ///< the line round what has the focus
-inline const QColor Shade(10, 12, 26);        ///< what lies in the shadow
-inline const QColor WalnutLit(176, 118, 74);  ///< the edge of the wood towards the light
-inline const QColor Walnut(91, 52, 32);       ///< wood
-inline const QColor WalnutDark(42, 22, 12);   ///< its edge away from the light
+inline const QColor FormBlue(2, 127, 255);      ///< the ground of the score pad and of the dialogs that celebrate
+inline const QColor Ivory(255, 246, 224);       ///< letters on navy
+inline const QColor Paper(250, 244, 230);       ///< the ground of lists and fields
+inline const QColor PaperInk(0, 0, 128);        ///< letters on it
+inline const QColor PaperFaded(122, 107, 85);   ///< letters that can't be changed at the moment
+inline const QColor PaperWorn(230, 220, 200);   ///< the way of a list's handle
+inline const QColor FeltRed(166, 2, 2);         ///< the felt of a tray that isn't the table's
+inline const QColor Pearl(244, 238, 226);       ///< pearl satin, where a contrast with it is reckoned
+inline const QColor Navy(15, 34, 80);           ///< navy satin, where a contrast with it is reckoned
+inline const QColor NavyMatt(90, 111, 158);     ///< the handle
+inline const QColor ButtonNavy(52, 72, 124);    ///< the body of buttons
+inline const QColor HeroNavy(21, 44, 98);       ///< of those that a window is there for
+inline const QColor Slate(128, 132, 142);       ///< what a body fades to when it is off
+inline const QColor PearlShade(222, 208, 178);  ///< the folds of pearl satin
+inline const QColor Brass(201, 163, 87);        ///< edges and hairlines
+inline const QColor LoudRed(176, 0, 24);        ///< letters that cry out
+inline const QColor Gilt(255, 217, 138);        ///< the line round what has the focus
+inline const QColor Shade(10, 12, 26);          ///< what lies in the shadow
+inline const QColor WalnutLit(176, 118, 74);    ///< the edge of the wood towards the light
+inline const QColor Walnut(91, 52, 32);         ///< wood
+inline const QColor WalnutDark(42, 22, 12);     ///< its edge away from the light
 
 /// How light a colour is: 0 for black to 1 for white, as contrasts are reckoned.
 double Luminance(const QColor& Colour);
