@@ -55,30 +55,26 @@ OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QS
   hide();
 }
 
-/// A box with a caption; returns what its controls stand in.
-QVBoxLayout* OptionsPanel::AddFrame(const QString& Caption) {
+/// A box with a caption; returns what the controls stand in.
+QVBoxLayout* OptionsPanel::AddFrame(const QString& Caption, std::initializer_list<QWidget*> Controls) {
   auto* Box = Make<QGroupBox>(this, "fra" + Caption.chopped(1).remove(' '), Caption);
   auto* Inside = new QVBoxLayout(Box);
   Inside->setContentsMargins(9, 6, 9, 6);
   Inside->setSpacing(6);  // with a row of 14 a pitch that all scales keep even
+  for (QWidget* Control : Controls) Inside->addWidget(Control);
   frames->addWidget(Box);
   return Inside;
 }
 
 void OptionsPanel::BuildSwitches() {
-  const auto AddTo = [](QVBoxLayout* Frame, auto* Made) {
-    Frame->addWidget(Made);
-    return Made;
-  };
-  auto* Speed = AddFrame(QStringLiteral("Speed:"));
   const QString Speeds[] = {QStringLiteral("Normal"), QStringLiteral("Fast"), QStringLiteral("Ridiculous")};
   for (int i = 0; i < 3; ++i) {
-    const QString Name = QStringLiteral("optComputerSpeed(%1)").arg(i);
-    optComputerSpeed[i] = AddTo(Speed, MakeOption(this, Name, Speeds[i]));
+    optComputerSpeed[i] = MakeOption(this, QStringLiteral("optComputerSpeed(%1)").arg(i), Speeds[i]);
   }
-  auto* Misc = AddFrame(QStringLiteral("Misc:"));
-  chkSortDice = AddTo(Misc, Make<QCheckBox>(this, QStringLiteral("chkSortDice"), QStringLiteral("Sort Dice")));
-  chkMarkScorers = AddTo(Misc, Make<QCheckBox>(this, QStringLiteral("chkMarkScorers"), QStringLiteral("Mark Points")));
+  AddFrame(QStringLiteral("Speed:"), {optComputerSpeed[0], optComputerSpeed[1], optComputerSpeed[2]});
+  chkSortDice = Make<QCheckBox>(this, QStringLiteral("chkSortDice"), QStringLiteral("Sort Dice"));
+  chkMarkScorers = Make<QCheckBox>(this, QStringLiteral("chkMarkScorers"), QStringLiteral("Mark Points"));
+  AddFrame(QStringLiteral("Misc:"), {chkSortDice, chkMarkScorers});
 
   auto* Sound = AddFrame(QStringLiteral("Sound FX:"));
   auto* OnOff = new QHBoxLayout;
@@ -88,8 +84,9 @@ void OptionsPanel::BuildSwitches() {
     OnOff->addWidget(optSound[i]);
   }
   Sound->addLayout(OnOff);
-  cmdCustomizeSounds = AddTo(Sound, MakeButton(this, QStringLiteral("cmdCustomizeSounds"), QStringLiteral("Customize"),
-                                               [this] { form.Command([this] { emit customizeSoundsAsked(); }); }));
+  cmdCustomizeSounds = MakeButton(this, QStringLiteral("cmdCustomizeSounds"), QStringLiteral("Customize"),
+                                  [this] { form.Command([this] { emit customizeSoundsAsked(); }); });
+  Sound->addWidget(cmdCustomizeSounds);
   cmdCustomizeSounds->setFixedHeight(CommandHeight);
 }
 

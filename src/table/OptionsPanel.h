@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include <array>
+#include <initializer_list>
 
 #include "engine/Game.h"
 #include "storage/GameSettings.h"
@@ -59,7 +60,7 @@ class OptionsPanel : public QWidget {
   void paintEvent(QPaintEvent* Event) override;
 
  private:
-  QVBoxLayout* AddFrame(const QString& Caption);
+  QVBoxLayout* AddFrame(const QString& Caption, std::initializer_list<QWidget*> Controls = {});
   void BuildSwitches();
   void BuildLists();
   void BuildSwatches();
