@@ -98,9 +98,4 @@ void frmCredits::Step() {
   picScroll->update();
 }
 
-void frmCredits::done(int Result) {
-  StopScrolling();
-  PlacedDialog::done(Result);
-}
-
 }  // namespace blunko

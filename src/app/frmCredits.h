@@ -41,8 +41,6 @@ class frmCredits : public PlacedDialog {
   /// The credits as they scroll: blocks of lines with an empty line between them.
   static QString CreditsText();
 
-  /// Stops for good.
-  void StopScrolling() { steps.stop(); }
   bool IsScrolling() const { return steps.isActive(); }
 
   QLabel* Label1;
@@ -51,7 +49,6 @@ class frmCredits : public PlacedDialog {
 
  protected:
   void showEvent(QShowEvent* Event) override;
-  void done(int Result) override;
 
  private:
   void ScrollCredits();

@@ -91,11 +91,7 @@ void frmCustomizeSounds::Form_Load() {
   FixButtonColours(*this);
 }
 
-std::string frmCustomizeSounds::DefaultFile(int Index) const {
-  return settings.DefaultSound(SoundEvents[static_cast<std::size_t>(Index)].Name);
-}
-
-std::string& frmCustomizeSounds::ChosenFile() { return EventFile[static_cast<std::size_t>(lstEvents->currentRow())]; }
+std::string& frmCustomizeSounds::ChosenFile() { return EventFile[lstEvents->currentRow()]; }
 
 void frmCustomizeSounds::lstEvents_Click() {
   txtSound->setText(FileNameOnly(QFile::decodeName(QByteArray::fromStdString(ChosenFile()))));
@@ -113,7 +109,7 @@ void frmCustomizeSounds::cmdBrowse_Click() {
 /// sounds while that is one of the game's.
 std::string frmCustomizeSounds::PickFile(const QString& Title) {
   QString Begin = QFile::decodeName(QByteArray::fromStdString(ChosenFile()));
-  if (ChosenFile() == DefaultFile(lstEvents->currentRow())) {
+  if (ChosenFile() == settings.DefaultSound(SoundEvents[lstEvents->currentRow()].Name)) {
     Begin = QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
     if (!QFileInfo(Begin).isDir()) Begin = QDir::homePath();
   }
@@ -140,7 +136,7 @@ bool frmCustomizeSounds::eventFilter(QObject* Watched, QEvent* Event) {
 
 void frmCustomizeSounds::Form_KeyUp(std::int16_t KeyCode) {
   if (KeyCode != Backspace) return;
-  for (std::size_t i = 0; i < SoundEvents.size(); ++i) EventFile[i] = DefaultFile(static_cast<int>(i));
+  for (std::size_t i = 0; i < SoundEvents.size(); ++i) EventFile[i] = settings.DefaultSound(SoundEvents[i].Name);
   lstEvents_Click();
   desktop.MessageBox("Original Sounds Restored.");
 }

@@ -40,7 +40,6 @@ class frmCustomizeSounds : public PlacedDialog {
   void cmdTest_Click();
   void cmdOK_Click();
   void Form_KeyUp(std::int16_t KeyCode);
-  std::string DefaultFile(int Index) const;
   std::string& ChosenFile();
 
   std::string& message;
