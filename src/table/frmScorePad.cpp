@@ -79,12 +79,12 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
 
 void frmScorePad::SetPosition() {
   Form_Activate();  // a change of size after the move would shift the frame
-  // What hangs on the table is placed from its corner: on Wayland the table itself has no place.
-  const QRect Table = PlacesWindows() ? FramePlace(*table) : table->rect();
-  int Left = Table.right() + 1 + Pixels(GapToTable);
-  if (Left > table->screen()->geometry().right()) {
-    Left = Table.left() - Pixels(GapToTable) - FramePlace(*this).width();
-  }
+  // What hangs on the table is placed from its corner, as on Wayland the table itself has no place, and has to touch
+  // it: mutter would take it away.
+  const QRect Table = (PlacesWindows() ? table->geometry() : table->rect()) + FrameOf(*table);
+  const int Gap = PlacesWindows() ? Pixels(GapToTable) : 0;
+  int Left = Table.right() + 1 + Gap;
+  if (Left > table->screen()->geometry().right()) Left = Table.left() - Gap - FramePlace(*this).width();
   PlaceFrame(*this, {Left, Table.top()});
 }
 
