@@ -34,8 +34,7 @@ frmCongrats::frmCongrats(const QString& Winner, std::string& FormMessage, Deskto
   Placed(Image1, {{(width() - Image1->sizeHint().width()) / 2, GreetingTop}, Image1->sizeHint()});
   lblWinner = MakeText<FitLabel>(this, "lblWinner", "Engraving...", FontOf(Typeface::ComicSans, 14.25, true));
   Placed(lblWinner, TwipsRect(1695, 6120, 2565, 375));
-  lblWinner->setForeColor(Qt::yellow);
-  SetColours(*lblWinner, {{QPalette::Window, PlateColour}});
+  SetColours(*lblWinner, {{QPalette::Window, PlateColour}, {QPalette::WindowText, Qt::yellow}});
   BuildButtons();
   FixButtonColours(*this);
 }

@@ -141,10 +141,9 @@ void frmMain::DrawDress() {
   picSampleDice->setBackColor(Wears.Cover);
   picSampleDice->setVisible(Wears.Covered);
   ShowBackground();
-  for (FitLabel* Label : picGameTray->findChildren<FitLabel*>(Qt::FindDirectChildrenOnly)) {
-    Label->setForeColor(OfBgr(Wears.TextColour));
-  }
-  for (WordButton* Menu : {lblMnuGame, lblMnuHelp}) Menu->setForeColor(OfBgr(Wears.TextColour));
+  const std::initializer_list<QWidget*> Texts{lblStatus,         lblLastRoll,  Label1,     lblPlayer,
+                                              lblTurnScoreLabel, lblTurnScore, lblMnuGame, lblMnuHelp};
+  for (QWidget* Text : Texts) SetColours(*Text, {{QPalette::WindowText, OfBgr(Wears.TextColour)}});
   drawn = Wears;
 }
 

@@ -23,8 +23,7 @@ constexpr int FirstRow = 1380, RowPitch = 420, RowHeight = 375;  // twips
 const QColor SeatOnTurn(0x30, 0xFF, 0x30);
 const QColor OtherSeat(Qt::black);
 const QColor Heading(Qt::yellow);
-const QColor Strip(160, 206, 252);  // under the others
-constexpr int ScoreEdge = 2415;     // twips: where the scores end, as their heading does
+constexpr int ScoreEdge = 2415;  // twips: where the scores end, as their heading does
 constexpr int HeadHeight = 84, RowStrip = 23, Margin = 8, Mark = 4;  // px
 constexpr qreal Round = 3.5, Wood = 3;                               // px
 
@@ -47,7 +46,7 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
   const auto Text = [this](const QString& Name, const QString& Caption, QRect Place, Qt::Alignment Side, QColor Ink) {
     auto* Made = Placed(
         MakeText<FitLabel>(this, Name, Caption, FontOf(Typeface::Verdana, 9.75, true), Side | Qt::AlignTop), Place);
-    Made->setForeColor(Ink);
+    SetColours(*Made, {{QPalette::WindowText, Ink}});
     Made->setAttribute(Qt::WA_TransparentForMouseEvents);
     return Made;
   };
@@ -100,19 +99,18 @@ bool frmScorePad::eventFilter(QObject* Table, QEvent* Event) {
 
 void frmScorePad::UpdateActivePlayer() {
   for (int i = 0; i < m.NumPlayers; ++i) {
-    const QColor Ink = i == m.CurrentPlayer ? SeatOnTurn : OtherSeat;
+    const bool OnTurn = i == m.CurrentPlayer;
     QFont Font = lblPlayer[i]->font();
     Font.setItalic(m.PlayerIsComputer[i]);
     lblPlayer[i]->setFont(Font);
-    lblPlayer[i]->setForeColor(Ink);
     lblScore[i]->setText(QString::number(m.PlayerScore[i]));
-    lblScore[i]->setForeColor(Ink);
     for (FitLabel* Label : {lblPlayer[i], lblScore[i]}) {
-      SetColours(*Label, {{QPalette::Window, i == m.CurrentPlayer ? Navy : Strip}});
+      SetColours(*Label, {{QPalette::Window, OnTurn ? Navy : SeatBlue},
+                          {QPalette::WindowText, OnTurn ? SeatOnTurn : OtherSeat}});
     }
     const bool SaysSo = m.PlayerIsComputer[i] && m.PlayerName[i] != "Computer";
     SetName(*lblPlayer[i], QString::fromStdString(m.PlayerName[i]) + QStringLiteral(", %1").arg(m.PlayerScore[i]) +
-                               (i == m.CurrentPlayer ? ", on turn" : "") + (SaysSo ? ", computer" : ""));
+                               (OnTurn ? ", on turn" : "") + (SaysSo ? ", computer" : ""));
   }
   update();
 }
@@ -146,8 +144,8 @@ void frmScorePad::paintEvent(QPaintEvent*) {
     Painter.setBrush(Thin(Shade, 0.3));
     Painter.drawRoundedRect(Row.translated(0.5, 1.2), Round, Round);
     QLinearGradient Light(Row.topLeft(), Row.bottomRight());
-    Light.setColorAt(0, Strip.lighter(108));
-    Light.setColorAt(1, Strip.darker(106));
+    Light.setColorAt(0, SeatBlue.lighter(108));
+    Light.setColorAt(1, SeatBlue.darker(106));
     Painter.setBrush(Light);
     Painter.drawRoundedRect(Row, Round, Round);
     Painter.fillRect(QRectF(Row.left() + Round, Row.top(), Row.width() - 2 * Round, 1), Thin(Qt::white, 0.5));

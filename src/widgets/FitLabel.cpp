@@ -10,10 +10,6 @@
 
 namespace blunko {
 
-void FitLabel::setForeColor(const QColor& Colour) {
-  if (std::exchange(foreColor, Colour) != Colour) update();
-}
-
 void FitLabel::setLoud(bool Loud) {
   if (std::exchange(loud, Loud) != Loud) update();
 }
@@ -27,7 +23,7 @@ void FitLabel::paintEvent(QPaintEvent*) {
     Font.setPixelSize(Font.pixelSize() * 5 / 4);
     Font.setBold(true);
   }
-  const QColor Ink = loud ? LoudRed : foreColor;
+  const QColor Ink = loud ? LoudRed : palette().color(QPalette::WindowText);
   DrawLetters(Painter, Room, alignment(), text(), Font, Ink, GroundUnder(*this, ground, Ink));
 }
 

@@ -6,16 +6,13 @@ namespace blunko {
 
 class StretchedPicture;
 
-/// A label on a picture: no background, and its text shrinks and narrows rather than being cut. Its colour is
-/// its own.
+/// A label on a picture: no background, and its text shrinks and narrows rather than being cut.
 class FitLabel : public QLabel {
   Q_OBJECT
 
  public:
   using QLabel::QLabel;
 
-  void setForeColor(const QColor& Colour);
-  QColor ForeColor() const { return foreColor; }
   /// What it lies on; without one, its palette's ground.
   void setPicture(StretchedPicture* Picture) { ground = Picture; }
   /// Larger letters in a colour that cries out, for a moment.
@@ -25,7 +22,6 @@ class FitLabel : public QLabel {
   void paintEvent(QPaintEvent* Event) override;
 
  private:
-  QColor foreColor = Qt::black;
   StretchedPicture* ground = nullptr;
   bool loud = false;
 };

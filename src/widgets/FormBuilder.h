@@ -96,7 +96,6 @@ inline WordButton* MakeWordsOf(TickBox* Box, const QString& Name, const QString&
   auto* Made = Make<WordButton>(Box->parentWidget(), Name, Caption);
   Made->setFont(FontOf(Typeface::Verdana, 8.25));
   Made->setFocusPolicy(Qt::NoFocus);
-  Made->setForeColor(Made->palette().color(QPalette::WindowText));
   Box->setAccessibleName(Caption);
   QObject::connect(Made, &QPushButton::clicked, Box, &QAbstractButton::click);
   return Made;

@@ -13,6 +13,7 @@ namespace blunko {
 // in one light from the upper left.
 
 inline const QColor FormBlue(2, 127, 255);      ///< the ground of the score pad and of the dialogs that celebrate
+inline const QColor SeatBlue(160, 206, 252);    ///< the strips of the seats on it
 inline const QColor Ivory(255, 246, 224);       ///< letters on navy
 inline const QColor Paper(250, 244, 230);       ///< the ground of lists and fields
 inline const QColor PaperInk(0, 0, 128);        ///< letters on it

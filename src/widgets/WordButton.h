@@ -14,7 +14,6 @@ class WordButton : public QPushButton {
  public:
   explicit WordButton(const QString& Caption, QWidget* Parent = nullptr);
 
-  void setForeColor(const QColor& Colour);
   /// What it lies on; without one, its palette's ground.
   void setPicture(StretchedPicture* Picture) { ground = Picture; }
 
@@ -24,7 +23,6 @@ class WordButton : public QPushButton {
   void paintEvent(QPaintEvent* Event) override;
 
  private:
-  QColor foreColor = Qt::black;
   StretchedPicture* ground = nullptr;
 };
 

@@ -61,6 +61,7 @@ TEST(OptionsPanel, SaveKeepsEveryChoiceAndCancelTakesItBack) {
     DressedTable Dressed("TextColor=3\n");
     OptionsPanel& Panel = *Dressed.Panel;
     frmMain& Form = Dressed.Form;
+    const auto Ink = [&Form] { return Form.lblStatus->palette().color(QPalette::WindowText); };
     Form.cmdOptions->click();
     Panel.optComputerSpeed[2]->click();
     Panel.chkSortDice->click();
@@ -69,9 +70,9 @@ TEST(OptionsPanel, SaveKeepsEveryChoiceAndCancelTakesItBack) {
     QTest::keyClick(Panel.cboDiceColor, Qt::Key_Down);  // from Antique to Marbles
     Panel.lstSkin->setCurrentRow(1);                    // Forest, with white text
     EXPECT_TRUE(Panel.lblColor[7]->isChecked());
-    EXPECT_EQ(Form.lblStatus->ForeColor(), QColor(Qt::white)) << "the colour of the picture shows at once";
+    EXPECT_EQ(Ink(), QColor(Qt::white)) << "the colour of the picture shows at once";
     Panel.lblColor[6]->click();
-    EXPECT_EQ(Form.lblStatus->ForeColor(), QColor(128, 255, 255)) << "the text is paler than the swatch";
+    EXPECT_EQ(Ink(), QColor(128, 255, 255)) << "the text is paler than the swatch";
     EXPECT_EQ(Form.Wears.Trays, QColor(128, 128, 255));
     EXPECT_EQ(Form.Picture1[4]->Picture(), 154 + 5) << "the sample shows the clicked set";
     Dressed.Close(Save);
@@ -80,7 +81,7 @@ TEST(OptionsPanel, SaveKeepsEveryChoiceAndCancelTakesItBack) {
     EXPECT_EQ(Text, Save ? "[Info]\nTextColor=6\nDieColor=154\nComputerFast=2\nSoundFXOFF=True\nSortDice=False\n"
                            "MarkScorers=False\nBackground=/Background/Forest.jpg\n"
                          : "[Info]\nTextColor=3\nDieColor=112\nBackground=/Background/Satin.jpg\n");
-    EXPECT_EQ(Form.lblStatus->ForeColor(), Save ? QColor(128, 255, 255) : QColor(255, 255, 0));
+    EXPECT_EQ(Ink(), Save ? QColor(128, 255, 255) : QColor(255, 255, 0));
     EXPECT_EQ(Form.Wears.Trays, Save ? QColor(128, 128, 255) : QColor(166, 2, 2));
     EXPECT_EQ(Form.Picture1[4]->Picture(), 0) << "no game, no dice";
     EXPECT_FALSE(Panel.isVisible());

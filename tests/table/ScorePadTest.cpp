@@ -4,6 +4,7 @@
 #include "table/frmScorePad.h"
 #include "tests/table/TableForm.h"
 #include "widgets/Fonts.h"
+#include "widgets/FormBuilder.h"
 #include "widgets/Materials.h"
 
 namespace blunko::test {
@@ -28,7 +29,7 @@ TEST_F(ScorePad, TellsTheSeatOnTurnByColourAndInGreyAndComputersBySlantedNames) 
       const FitLabel *Name = Label(QStringLiteral("lblPlayer(%1)").arg(i)),
                      *Score = Label(QStringLiteral("lblScore(%1)").arg(i));
       const QColor Ink = i == OnTurn ? QColor(0x30, 0xFF, 0x30) : QColor(Qt::black);
-      EXPECT_TRUE(Name->ForeColor() == Ink && Score->ForeColor() == Ink);
+      for (const FitLabel* Text : {Name, Score}) EXPECT_EQ(Text->palette().color(QPalette::WindowText), Ink);
       EXPECT_EQ(Name->font().italic(), i % 2 == 1);
       EXPECT_EQ(Score->text().toInt(), m.PlayerScore[static_cast<std::size_t>(i)]);
       EXPECT_EQ(qGray(Grey.pixel(Pad.width() - 10, Score->y() + 8)) < 60, i == OnTurn);
@@ -55,9 +56,8 @@ TEST(Letters, StandOutFromEveryGroundByTheirEdge) {
     const QColor Ink(BlueFirst & 0xFF, BlueFirst >> 8 & 0xFF, BlueFirst >> 16 & 0xFF);
     FitLabel Words(QStringLiteral("HILE"), nullptr);
     Words.setAutoFillBackground(true);
-    Words.setPalette(Ink);
     Words.setFont(FontOf(Typeface::Verdana, 24, true));
-    Words.setForeColor(Ink);
+    SetColours(Words, {{QPalette::Window, Ink}, {QPalette::WindowText, Ink}});
     Words.resize(150, 50);
     const QImage Picture = Words.grab().toImage();
     const double Letters = Luminance(Ink) + 0.05;
