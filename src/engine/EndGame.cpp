@@ -23,7 +23,7 @@ void Game::EndGame() {
   m.CurrentPlayer = Absent;
   SetStatus(" ");
   t.lblPlayer.Caption = ' ';
-  t.HideLastRoll();
+  t.ShowLastRoll(false);
   program.FocusTable();
 
   if (m.FormMessage == "SameGame") {

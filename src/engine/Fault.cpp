@@ -1,6 +1,6 @@
 #include <cstdio>
 #include <cstdlib>
-#include <sstream>
+#include <string>
 
 #include "engine/Game.h"
 #include "engine/ScoreDice.h"
@@ -10,15 +10,11 @@ namespace blunko {
 namespace {
 
 /// Writes down the rules that don't hold.
-class Demands {
- public:
+struct Demands {
+  std::string Broken;
   void operator()(bool Holds, const char* Rule) {
-    if (!Holds) Broken << Rule << "; ";
+    if (!Holds) Broken.append(Rule).append("; ");
   }
-  std::string Text() const { return Broken.str(); }
-
- private:
-  std::ostringstream Broken;
 };
 
 void LooksOfTheTable(Demands& Demand, const Module1& m, const TableControls& t) {
@@ -84,7 +80,7 @@ std::string Game::Fault() const {
   LooksOfTheTable(Demand, m, t);
   const bool Running = m.CurrentPlayer != Absent && t.cmdRoll.Visible;
   const Lying Counted = WhatLiesWhere(Demand, m, t, Running);
-  if (!Running) return Demand.Text();
+  if (!Running) return Demand.Broken;
 
   const auto& [Up, InTray, TrayMarks] = Counted;
   Demand(InTray == (TrayMarks == 5 && InTray == 6 ? 6 : TrayMarks), "the tray's marks are its dice");
@@ -96,7 +92,7 @@ std::string Game::Fault() const {
   } else {
     WhatAPersonMayDo(Demand, m, t, Counted);
   }
-  return Demand.Text();
+  return Demand.Broken;
 }
 
 void Game::AssertSound() const {

@@ -142,8 +142,7 @@ class Game {
   void RollDice(std::uint8_t NumDiceUp);
   void Bubble(std::int16_t SortHowMany);
   void ShowBust();
-  void MoveDieToTray(std::uint8_t Index);
-  void TakeDie(int Position);
+  void MoveDieToTray(int Index);
   void TakeClickedDice(int Index);
   void UndoSelection(int Index);
   void BankTurn();
@@ -158,7 +157,6 @@ class Game {
   bool IsComputerTurn() const { return m.CurrentPlayer != Absent && m.PlayerIsComputer[m.CurrentPlayer]; }
   template <typename Action>
   void TouchDice(Action Run);
-  bool SomebodyIsAPerson() const;
 
   ComputerSeats nobody;
   ComputerSeats* computers = &nobody;

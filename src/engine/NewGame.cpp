@@ -32,7 +32,7 @@ void Game::FreshGame(const GameSetup& Setup) {
   HideMarkers();
   t.pctDivider.Visible = false;
   m.OutPlayer = Absent;
-  t.HideLastRoll();
+  t.ShowLastRoll(false);
   m.GameOver = false;
   program.ShowScorePad();
   m.ScorePadShown = true;

@@ -70,7 +70,8 @@ void Game::GoOut() {
   desktop.PlaySoundFile(m.TempFolder + "overtop.wav", false);
   m.OutPlayer = m.CurrentPlayer;
   program.Announce(GameEvent::Out);
-  if (SomebodyIsAPerson()) {
+  const auto Seats = m.PlayerIsComputer.begin();
+  if (std::count(Seats, Seats + m.NumPlayers, false) > 0) {  // a person reads it
     desktop.MessageBox(m.PlayerName[m.CurrentPlayer] +
                        " has gone out.  Everybody else gets one more roll to try and beat " +
                        std::to_string(m.PlayerScore[m.CurrentPlayer]) + " points.");
@@ -113,11 +114,6 @@ void Game::ClearDice() {
   m.ShownFace.fill(0);
   m.TrayFace.fill(0);
   for (int i = 0; i < Dice; ++i) t.Picture1(i) = t.Picture1(10 + i) = 0;
-}
-
-bool Game::SomebodyIsAPerson() const {
-  return std::any_of(m.PlayerIsComputer.begin(), m.PlayerIsComputer.begin() + m.NumPlayers,
-                     [](bool Computer) { return !Computer; });
 }
 
 }  // namespace blunko

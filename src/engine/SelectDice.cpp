@@ -50,11 +50,11 @@ void Game::TakeClickedDice(int Index) {
   }
   const bool Computer = IsComputerTurn();
   const auto TakeFromGroup = [&](int i) {
-    TakeDie(i);
+    MoveDieToTray(i);
     if (!(Computer && Settings.ComputerSpeed >= SpeedRidiculous)) desktop.Sleep(PauseAfterDieOfGroup);
   };
   if (Code == Single1 || Code == Single5) {
-    TakeDie(Index);
+    MoveDieToTray(Index);
   } else if (Code == Straight || Code == ThreePairs) {  // all six, in ascending order of face
     for (int Face = 1; Face <= 6; ++Face) {
       for (int i = 0; i < Dice; ++i) {
@@ -73,12 +73,7 @@ void Game::TakeClickedDice(int Index) {
   program.Announce(GameEvent::Taking);
 }
 
-void Game::TakeDie(int Position) {
-  MoveDieToTray(static_cast<std::uint8_t>(Position));
-  m.DieUp[Position] = false;
-}
-
-void Game::MoveDieToTray(std::uint8_t Index) {
+void Game::MoveDieToTray(int Index) {
   if (Settings.MarkScorers) t.picMarker[Index] = false;
   desktop.PlaySoundFile(Settings.GetSound("MoveDie"), false);
   t.Picture1(Index) = 0;
@@ -97,6 +92,7 @@ void Game::MoveDieToTray(std::uint8_t Index) {
     m.TrayUsed[k + 1] = false;
   }
   m.TrayFace[Slot - 10] = m.DieFace[Index];
+  m.DieUp[Index] = false;
 }
 
 bool Game::CanTake(int Index) const {

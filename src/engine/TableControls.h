@@ -65,13 +65,9 @@ struct TableControls {
   bool CanPress(const Button& Which) const { return Which.Enabled && Which.Visible && picGameTray.Enabled; }
 
   /// The last-roll line appears below the status line, which gives way; and the reverse.
-  void ShowLastRoll() {
-    lblLastRoll.Visible = true;
-    lblStatus.Top = StatusTop - StatusRise;
-  }
-  void HideLastRoll() {
-    lblLastRoll.Visible = false;
-    lblStatus.Top = StatusTop;
+  void ShowLastRoll(bool Shown = true) {
+    lblLastRoll.Visible = Shown;
+    lblStatus.Top = Shown ? StatusTop - StatusRise : StatusTop;
   }
 };
 

@@ -1,5 +1,4 @@
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTreeWidget>
@@ -34,10 +33,10 @@ TEST(Help, ContentsGoToTheHeadingsAndLinksOutward) {
     const QScrollBar& Bar = *Window.Page.verticalScrollBar();
     EXPECT_TRUE(Heading == (*Entry)->text(0) || Bar.value() == Bar.maximum()) << Heading.toStdString();
   }
-  const Shell Browser;
+  const Answers Next;
   Window.Page.setHtml(QStringLiteral("<a href='https://example.org/a?b=c'>outward</a>"));
   for (const auto Key : {Qt::Key_Tab, Qt::Key_Return}) QTest::keyClick(&Window.Page, Key);
-  EXPECT_EQ(Browser.Opened, Lines{"https://example.org/a?b=c"});
+  EXPECT_EQ(Next.Opened, Lines{"https://example.org/a?b=c"});
 }
 
 TEST(Help, FindsOnFromPageToPageAndRoundAgain) {
@@ -90,13 +89,13 @@ TEST(Help, DialogsBlockEveryWindowButTheHelp) {
     ClickBoth(2, 1);
     Window.Help.close();  // and opened again under the dialog
     Window.Help.ShowTopic(QStringLiteral("Overview.htm"));
-    QMessageBox(QMessageBox::NoIcon, {}, QStringLiteral("inner"), {}, &Outer).exec();
+    Next.Expect<QDialog>([&](QDialog& Inner) {
+      ClickBoth(0, 1);
+      Inner.close();
+    });
+    QDialog(&Outer).exec();
     ClickBoth(1, 1);
     Outer.close();
-  });
-  Next.Expect<QMessageBox>([&](QMessageBox& Inner) {
-    ClickBoth(0, 1);
-    Inner.close();
   });
   Outer.exec();
   ClickBoth(2, 2);

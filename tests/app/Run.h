@@ -105,12 +105,15 @@ inline void ExpectUsable(QWidget& Form, const QString& State = {}) {
 }
 
 /// Deals with the modal windows as they come up, one step each. An unexpected one is closed and fails the test, and so
-/// does a wait beyond the limit, which ends all event loops.
+/// does a wait beyond the limit, which ends all event loops. What would be opened in the system's programs is noted.
 class Answers : public QObject {
+  Q_OBJECT
+
  public:
   Answers() {
     InstallAccessibility();
     qApp->installEventFilter(this);
+    for (const char* Scheme : {"http", "https", "mailto"}) QDesktopServices::setUrlHandler(Scheme, this, "Open");
     QTimer::singleShot(60000, this, [this] {
       ADD_FAILURE() << "the time is up with " << steps.size() << " windows to come";
       QCoreApplication::exit();
@@ -120,6 +123,8 @@ class Answers : public QObject {
 
   /// What has come up: a title, and for a box its icon, if any, ": " and its text.
   Lines Seen;
+  /// The addresses that were to be opened.
+  Lines Opened;
 
   /// The next window is of this class and dealt with so.
   template <typename Dialog>
@@ -148,6 +153,9 @@ class Answers : public QObject {
     return false;
   }
 
+ public slots:
+  void Open(const QUrl& Address) { Opened.push_back(Address.toString().toStdString()); }
+
  private:
   void Next(QWidget* Shown) {
     EXPECT_NE(steps.size(), 0U) << "unexpected window: " << Seen.back();
@@ -158,24 +166,6 @@ class Answers : public QObject {
   }
 
   std::deque<std::function<void(QWidget*)>> steps;
-};
-
-/// Takes the addresses that would be opened in the system's programs.
-class Shell : public QObject {
-  Q_OBJECT
-
- public:
-  Shell() {
-    for (const char* Scheme : Schemes) QDesktopServices::setUrlHandler(QLatin1String(Scheme), this, "Open");
-  }
-  ~Shell() override {
-    for (const char* Scheme : Schemes) QDesktopServices::unsetUrlHandler(QLatin1String(Scheme));
-  }
-  static constexpr const char* Schemes[] = {"http", "https", "mailto"};
-  Lines Opened;
-
- public slots:
-  void Open(const QUrl& Address) { Opened.push_back(Address.toString().toStdString()); }
 };
 
 /// The whole program in a folder of its own, with scripted dice and instant waits.

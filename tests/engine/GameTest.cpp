@@ -138,18 +138,16 @@ TEST(Commands, NobodyTouchesTheDiceOfAComputerOrOfAClosedTable) {
 }
 
 TEST(Commands, OfTheFlashEndTheGameThatItBelongsTo) {
-  for (const char* Way : {"new", "quit"}) {
-    Table table;
-    table.Begin({"Ann", "Bob"});
-    table.Others.OnNewGame = [&] { table.Begin({"Cid", "Dan"}); };
-    table.Screen.OnEvents = [&, Pumps = 0]() mutable {
-      if (++Pumps == 2) *Way == 'n' ? table.game.PersonBeginsGame() : static_cast<void>(table.game.PersonCloses());
-    };
-    table.TakeLog();
-    table.Bank(5000);
-    EXPECT_EQ(table.TakeLog("sleep").size(), 1U) << "the flash ends";
-    EXPECT_EQ(table.Look(), *Way == 'n' ? "Cid 0: 000000000000, Roll the dice. (r)" : "Bob 0: 000000000000,  (r)");
-  }
+  Table table;
+  table.Begin({"Ann", "Bob"});
+  table.Others.OnNewGame = [&] { table.Begin({"Cid", "Dan"}); };
+  table.Screen.OnEvents = [&, Pumps = 0]() mutable {
+    if (++Pumps == 2) table.game.PersonBeginsGame();
+  };
+  table.TakeLog();
+  table.Bank(5000);
+  EXPECT_EQ(table.TakeLog("sleep").size(), 1U) << "the flash ends";
+  EXPECT_EQ(table.Look(), "Cid 0: 000000000000, Roll the dice. (r)");
 }
 
 TEST(Commands, ThatComeInTheMiddleOfAChangeComeAfterIt) {
@@ -210,6 +208,82 @@ TEST(Commands, NewGameAndTheEndAreAskedForAndClearUp) {
     EXPECT_EQ(table.m.Quitting, Ends);
     EXPECT_EQ(table.game.TakesCommands(), !Ends);
     EXPECT_EQ(Ends && table.game.PersonCloses(), Ends) << "the window may go";
+  }
+}
+
+TEST(Turn, OfAPersonTakesItsTime) {
+  Table table;
+  table.Screen.TellsAll = true;
+  table.Options.ComputerSpeed = SpeedNormal;
+  table.Begin({"Ann", "Bob"});
+  EXPECT_EQ(table.Told(), "status Roll the dice.; score 0; buttons roll");
+  table.Play("434214");
+  EXPECT_EQ(
+      table.Told(),
+      "status Rolling...; sound MultiDie; dice 6/; sleep 10; dice 66/; sleep 10; dice 666/; sleep 10; dice 6666/; "
+      "sleep 10; dice 66666/; sleep 10; dice 666666/; sleep 10 x25; dice 123444/; status Select Dice.; buttons ");
+  table.Play("@3");
+  EXPECT_EQ(table.Told(),
+            "sound MoveDie; dice 12344/4; sleep 200; sound MoveDie; dice 1234/44; sleep 200; sound MoveDie; "
+            "dice 123/444; sleep 200; status Select dice or roll.; score 400; buttons roll");
+  table.Play("@12");
+  EXPECT_EQ(table.Told(),
+            "dice 1234/44; score 0; status Select Dice. (Undo); sound Undo; dice 12344/4; "
+            "buttons ; sound Undo; dice 123444/; sound Undo");
+}
+
+TEST(Turn, TumblesAsTheNumberOfDiceTells) {
+  const std::tuple<const char*, std::string_view, int, const char*> Rows[] = {
+      {"111112 @0", "1", 20, "20"},       {"111123 @0", "11", 30, "15"},    {"111234 @0", "111", 30, "13"},
+      {"112346 @0 @1", "1111", 32, "13"}, {"123446 @0", "11111", 35, "11"}, {"123456 @0", "111111", 30, "10"}};
+  for (const auto& [Before, Faces, Tumbles, Sleep] : Rows) {
+    for (const int Speed : {-1, 0, 1, 2}) {  // of a computer, -1 for a person
+      Table table;
+      table.Options.ComputerSpeed = std::abs(Speed);
+      table.Begin({Speed < 0 ? "Ann" : "Normal", "Bob"});
+      table.Play(Before);
+      table.TakeLog();
+      const int Steps = Speed == 2 ? 0 : Tumbles, Drawn = table.Numbers.Draws;
+      table.Play(Faces);
+      EXPECT_EQ(table.Told("sleep"), Steps == 0 ? "" : std::string("sleep ") + Sleep + " x" + std::to_string(Steps));
+      EXPECT_EQ(table.Numbers.Draws - Drawn, Steps + std::ssize(Faces)) << "one for each step and one to stay";
+    }
+  }
+}
+
+TEST(Fault, NamesTheRulesThatAreBroken) {
+  const std::pair<std::vector<const char*>, std::function<void(Module1&, TableControls&)>> Rows[] = {
+      {{"either the game buttons",      "the status line gives way",  "a table picture is the face",
+        "a face in the tray is",        "a tray picture is the face", "the tray has no gap",
+        "exactly the dice that are up", "a die that is up has a",     "a mark stands over a scorer",
+        "the divider stands behind",    "a turn scores in steps",     "a seat scores in steps",
+        "the seat that is out is one",  "the last-roll line shows",   "the tray's marks are its",
+        "the table names the",          "six dice lie on table and",  "Roll is enabled exactly",
+        "Pass is enabled exactly",      "the table shows the turn"},
+       [](Module1& m, TableControls& t) {
+         t.ARCmdNewGame.Visible = t.picMarker[1] = t.cmdRoll.Enabled = true;
+         t.Picture1(5) = t.Picture1(15) = 113, t.lblStatus.Top -= StatusRise, t.lblPlayer.Caption = "Bob";
+         t.cmdPassDice.Enabled = m.TrayUsed[0] = false;
+         m.TrayFace[0] = m.DieFace[1] = 7, m.TrayCountAtRoll = 0, m.TurnScore = 30, m.PlayerScore[1] = -50;
+         m.OutPlayer = 2;
+       }},
+      {{"Roll and Pass are", "a table without a"}, [](auto&, TableControls& t) { t.cmdRoll.Visible = false; }},
+      {{"the seat on turn is one"}, [](Module1& m, auto&) { m.CurrentPlayer = 2; }},
+      {{"the divider stands behind"}, [](Module1& m, auto&) { m.TrayCountAtRoll = 2; }},
+      {{"a person can neither roll nor pass"}, [](Module1& m, auto&) { m.PlayerIsComputer[0] = true; }},
+      {{"nobody passes before"}, [](Module1& m, auto& t) { m.DieUp.fill(false), t.Picture1 = {}; }},
+      {{"only a seat that has broken in"}, [](Module1& m, auto&) { m.PlayerScore[0] = 450; }},
+      {{"there is always a move"}, [](auto& m, auto& t) { m.DieUp.fill(false), t.cmdPassDice.Enabled = false; }},
+  };
+  for (const auto& [Rules, Break] : Rows) {
+    Table table;
+    table.Begin({"Ann", "Bob"});
+    table.m.PlayerScore[0] = 500;
+    table.Play("123446 @0 12345");
+    ASSERT_EQ(table.game.Fault(), "");
+    Break(table.m, table.t);
+    const std::string Fault = table.game.Fault();
+    for (const char* Rule : Rules) EXPECT_NE(Fault.find(Rule), std::string::npos) << Rule << ": " << Fault;
   }
 }
 

@@ -50,9 +50,8 @@ struct SoundRecorder : Place {
 };
 
 static QByteArray Number(quint32 Value, int Size) {
-  char Bytes[4];
-  qToLittleEndian(Value, Bytes);
-  return QByteArray(Bytes, Size);
+  const quint32 Bytes = qToLittleEndian(Value);
+  return QByteArray(reinterpret_cast<const char*>(&Bytes), Size);
 }
 
 /// A wave file that stands at one level: the rate, the duration and the form of the samples can be heard from it.

@@ -36,13 +36,12 @@ class ScriptedDice : public NumberSource {
   int beyond = 0;
 };
 
-struct Luck : NumberSource, UniformSource {
+struct Luck : NumberSource {
   std::minstd_rand Chance;
   explicit Luck(std::uint32_t Seed) : Chance(Seed) {}
   std::int32_t UtilRandom(std::int32_t Bound) override {
     return 1 + static_cast<std::int32_t>(Chance() % static_cast<unsigned>(Bound));
   }
-  double Next() override { return static_cast<double>(Chance() % 1000) / 1000; }
 };
 
 /// "125": the numbers 1, 2 and 5.

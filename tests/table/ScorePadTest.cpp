@@ -1,6 +1,5 @@
 #include <QScreen>
 
-#include "storage/GameSettings.h"
 #include "table/frmScorePad.h"
 #include "tests/table/TableForm.h"
 #include "widgets/Fonts.h"
@@ -49,11 +48,9 @@ TEST_F(ScorePad, StandsAtTheLeftWhereTheRightHasNoRoomAndHoldsItsSeats) {
   EXPECT_TRUE(Screen.contains(Pad.frameGeometry()));
 }
 
-/// In every colour of the list, on a ground of the same colour.
+/// On a ground of the same colour.
 TEST(Letters, StandOutFromEveryGroundByTheirEdge) {
-  for (int Index = 0; Index < 8; ++Index) {
-    const std::uint32_t BlueFirst = ColourOfIndex(Index);
-    const QColor Ink(BlueFirst & 0xFF, BlueFirst >> 8 & 0xFF, BlueFirst >> 16 & 0xFF);
+  for (const QColor Ink : {Qt::black, Qt::red, Qt::yellow, Qt::blue, Qt::white}) {
     FitLabel Words(QStringLiteral("HILE"), nullptr);
     Words.setAutoFillBackground(true);
     Words.setFont(FontOf(Typeface::Verdana, 24, true));
@@ -66,7 +63,7 @@ TEST(Letters, StandOutFromEveryGroundByTheirEdge) {
       const double Here = Luminance(Picture.pixelColor(i % Picture.width(), i / Picture.width())) + 0.05;
       Standing += std::max(Here, Letters) >= 4.5 * std::min(Here, Letters) ? 1 : 0;
     }
-    EXPECT_GE(Standing, 550) << "px round the letters in colour " << Index;
+    EXPECT_GE(Standing, 550) << "px round letters of " << Ink.name().toStdString();
   }
 }
 
