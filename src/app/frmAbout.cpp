@@ -24,9 +24,7 @@ void DieButton::paintEvent(QPaintEvent*) {
 }
 
 frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& Screen, QWidget* Main)
-    : PlacedDialog(Main), settings(Options), desktop(Screen) {
-  setObjectName("frmAbout");
-  setWindowTitle("About Tollmoor Blunko");
+    : PlacedDialog(Main, "frmAbout", "About Tollmoor Blunko"), settings(Options), desktop(Screen) {
   const QFont Plain = FontOf(Typeface::Verdana, 9.75), Small = FontOf(Typeface::Verdana, 6.75);
   const QString Die = Where.Shipped("Data") + "/Dice_Blue_5.gif";
   Picture1 = MakeDie("Picture1", Die);
@@ -47,7 +45,6 @@ frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& S
   SetFirst(cmdOK);
   connect(Picture1, &QAbstractButton::clicked, this, &frmAbout::Picture1_Click);
   connect(Picture2, &QAbstractButton::clicked, this, &frmAbout::Picture2_Click);
-  FixButtonColours(*this);
   auto* Head = new QGridLayout;
   Head->setHorizontalSpacing(18);
   Head->addWidget(Picture1, 0, 0, 3, 1, Qt::AlignCenter);

@@ -20,9 +20,12 @@ const QColor PlateColour(0, 0, 128);
 
 frmCongrats::frmCongrats(const QString& Winner, std::string& FormMessage, Desktop& Screen, const GameOptions& Settings,
                          frmMain& Main)
-    : PlacedDialog(&Main), winner(Winner), message(FormMessage), desktop(Screen), settings(Settings), table(Main) {
-  setObjectName("frmCongrats");
-  setWindowTitle("Congratulations " + winner + " !!!");
+    : PlacedDialog(&Main, "frmCongrats", "Congratulations " + Winner + " !!!"),
+      winner(Winner),
+      message(FormMessage),
+      desktop(Screen),
+      settings(Settings),
+      table(Main) {
   SetColours(*this, {{QPalette::Window, FormBlue}});
   auto* Rays = Placed(Make<QLabel>(this, "picRays"), TwipsRect(0, 0, FormWidth, FormHeight));
   Rays->setScaledContents(true);
@@ -36,7 +39,6 @@ frmCongrats::frmCongrats(const QString& Winner, std::string& FormMessage, Deskto
   Placed(lblWinner, TwipsRect(1695, 6120, 2565, 375));
   SetColours(*lblWinner, {{QPalette::Window, PlateColour}, {QPalette::WindowText, Qt::yellow}});
   BuildButtons();
-  FixButtonColours(*this);
 }
 
 void frmCongrats::BuildButtons() {

@@ -49,9 +49,7 @@ void ScrollBox::DrawText(qreal Scale) {
   }
 }
 
-frmCredits::frmCredits(QWidget* Owner) : PlacedDialog(Owner) {
-  setObjectName("frmCredits");
-  setWindowTitle("Tollmoor Blunko Credits");
+frmCredits::frmCredits(QWidget* Owner) : PlacedDialog(Owner, "frmCredits", "Tollmoor Blunko Credits") {
   Label1 = MakeTitle(this, "Label1", "Credits & Stuff", 18, Navy);
   picScroll = Make<ScrollBox>(this, "picScroll");
   picScroll->setFixedSize(ScrollSize);
@@ -60,7 +58,6 @@ frmCredits::frmCredits(QWidget* Owner) : PlacedDialog(Owner) {
   cmdOK = MakeButton(this, "cmdOK", "OK", &QDialog::accept);
   cmdOK->setMinimumWidth(110);
   SetFirst(cmdOK);
-  FixButtonColours(*this);
 
   framed = {picScroll};
   Stack(this, {16 + FrameWidth, 12, 16 + FrameWidth, 12}, 10 + FrameWidth, {Label1, picScroll, CentredRow({cmdOK})})

@@ -19,14 +19,12 @@ const std::string NothingPicked = "¤¤¤";
 const QColor ButtonColour(137, 189, 255);
 
 frmCustomizeSounds::frmCustomizeSounds(std::string& FormMessage, GameSettings& Options, Desktop& Screen, QWidget* Owner)
-    : PlacedDialog(Owner, Cloth::Pearl,
+    : PlacedDialog(Owner, "frmCustomizeSounds", "Customize Sounds", Cloth::Pearl,
                    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                        Qt::WindowCloseButtonHint),
       message(FormMessage),
       settings(Options),
       desktop(Screen) {
-  setObjectName("frmCustomizeSounds");
-  setWindowTitle("Customize Sounds");
   setFont(FontOf(Typeface::Verdana, 8.25));
   BuildControls();
   LayOut();
@@ -88,7 +86,6 @@ void frmCustomizeSounds::Form_Load() {
   for (std::size_t i = 0; i < SoundEvents.size(); ++i) EventFile[i] = settings.GetSound(SoundEvents[i].Name);
   lstEvents->setCurrentRow(0);
   lstEvents_Click();
-  FixButtonColours(*this);
 }
 
 std::string& frmCustomizeSounds::ChosenFile() { return EventFile[lstEvents->currentRow()]; }

@@ -18,9 +18,9 @@ constexpr double ListPoints = 9.75;
 const QColor ListGround(0, 0, 128);
 
 frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Main)
-    : PlacedDialog(Main, Cloth::Navy), rollers(Lists), desktop(Screen) {
-  setObjectName("frmHighRollers");
-  setWindowTitle("Tollmoor Blunko - High Rollers");
+    : PlacedDialog(Main, "frmHighRollers", "Tollmoor Blunko - High Rollers", Cloth::Navy),
+      rollers(Lists),
+      desktop(Screen) {
   SetColours(*this, {{QPalette::WindowText, Qt::yellow}, {QPalette::Link, Qt::yellow}});
   Image1 = Make<SvgBox>(this, "Image1", ":/art/rollers_top.svg");
   Image2 = Make<SvgBox>(this, "Image2", ":/art/rollers_bottom.svg");
@@ -34,7 +34,6 @@ frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Mai
   cmdOK = MakeButton(this, "cmdOK", "OK", &QDialog::accept);
   SetFirst(cmdOK);
   ShowHighRollerLists();
-  FixButtonColours(*this);
   LayOut();
 }
 

@@ -55,9 +55,11 @@ QGroupBox* MakeChoice(QWidget* Form, const QString& Caption, std::array<QRadioBu
 }  // namespace
 
 frmNewGame::frmNewGame(Desktop& Screen, const IniInfo& Info, const GameSettings& Options, QWidget* Main)
-    : PlacedDialog(Main), desktop(Screen), info(Info), settings(Options), table(Main) {
-  setObjectName("frmNewGame");
-  setWindowTitle(" Start New Game - Tollmoor Blunko");
+    : PlacedDialog(Main, "frmNewGame", " Start New Game - Tollmoor Blunko"),
+      desktop(Screen),
+      info(Info),
+      settings(Options),
+      table(Main) {
   setFont(FontOf(Typeface::Verdana, 8.25));
   auto* Outer = new QVBoxLayout(this);
   Outer->setContentsMargins(Margin, Margin, Margin, Margin);
@@ -67,7 +69,6 @@ frmNewGame::frmNewGame(Desktop& Screen, const IniInfo& Info, const GameSettings&
   Outer->addStretch(1);
   Outer->addLayout(BuildButtons());
   setStyleSheet(PaperStyle());
-  FixButtonColours(*this);
 }
 
 QLayout* frmNewGame::BuildChoices() {

@@ -11,10 +11,10 @@
 namespace blunko {
 
 frmViewHRListYN::frmViewHRListYN(std::string& FormMessage, Desktop& Screen, const IniInfo& Info, QWidget* Main)
-    : PlacedDialog(Main, Cloth::Navy), message(FormMessage), desktop(Screen), info(Info) {
-  setObjectName("frmViewHRListYN");
-  setWindowTitle("Way to go !!!");
-
+    : PlacedDialog(Main, "frmViewHRListYN", "Way to go !!!", Cloth::Navy),
+      message(FormMessage),
+      desktop(Screen),
+      info(Info) {
   const QStringList Fields = QString::fromStdString(message).split(FieldSeparator);
   lblWayToGo = MakeTitle(this, "lblWayToGo", "Great Job, " + Fields.value(0) + "!!!", 15.75, Gilt);
   lblMessage =
@@ -28,7 +28,6 @@ frmViewHRListYN::frmViewHRListYN(std::string& FormMessage, Desktop& Screen, cons
   lblCheck = Make<TickBox>(this, "lblCheck");
   lblDontAsk = MakeWordsOf(lblCheck, "lblDontAsk", "Don't ask me this again today.");
   connect(lblCheck, &QAbstractButton::clicked, this, &frmViewHRListYN::lblCheck_Click);
-  FixButtonColours(*this);
   for (ButtonPlus* Button : {cmdYes, cmdNo}) Button->setMinimumWidth(100);
   constexpr int SmallestWidth = 370;  // px
   const auto* Outer =

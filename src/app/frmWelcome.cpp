@@ -17,9 +17,7 @@ constexpr QSize ButtonSize(300, 36);  // px, at least
 constexpr QSize DiceSize(344, 92);    // px: with its frame no wider than the table
 
 frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
-    : PlacedDialog(Main), info(Info), desktop(Screen) {
-  setObjectName("frmWelcome");
-  setWindowTitle("How to Blunko");
+    : PlacedDialog(Main, "frmWelcome", "How to Blunko"), info(Info), desktop(Screen) {
   Label1 = MakeTitle(this, "Label1", ProductName, 24, Navy);
   Label2 = MakeText(this, "Label2", "by Tollmoor Games", FontOf(Typeface::Verdana, 9.75));
   cmdLearn =
@@ -37,7 +35,6 @@ frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
   const QString Stored = info.ReadInfoValue(ShowWelcomeMessageKey);
   lblCheck->setChecked(Stored.isEmpty() || Stored == QLatin1String("1"));
   connect(lblCheck, &QAbstractButton::clicked, this, &frmWelcome::lblCheck_Click);
-  FixButtonColours(*this);
   picDice = Make<SvgBox>(this, "picDice", QStringLiteral(":/art/welcome.svg"));
   picDice->setFixedSize(DiceSize);
   framed = {picDice};

@@ -36,10 +36,8 @@ int BalancedWidth(const QLabel& Text) {
 }  // namespace
 
 GameBox::GameBox(QWidget* Owner, Kind Which, const QString& Title, const QString& Text, Sign Bears)
-    : PlacedDialog(Owner) {
-  setObjectName("GameBox");
-  setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
-  setWindowTitle(Title);
+    : PlacedDialog(Owner, QStringLiteral("GameBox"), Title, Cloth::Pearl,
+                   Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
   lblText = MakeText(this, "lblText", Text, FontOf(Typeface::Verdana, 9.75), Qt::AlignLeft | Qt::AlignVCenter);
   lblText->setWordWrap(true);
   const int Width = BalancedWidth(*lblText);
@@ -55,7 +53,6 @@ GameBox::GameBox(QWidget* Owner, Kind Which, const QString& Title, const QString
   auto* Column = Stack(this, {20, 18, 20, 14}, 16, {Words});
   if (Which == Kind::Input) Column->addWidget(MakeInput());
   Column->addLayout(MakeAnswers(Which));
-  FixButtonColours(*this);
   setMinimumWidth(LeastWidth());
   setFixedSize(sizeHint().expandedTo(minimumSize()));
 }

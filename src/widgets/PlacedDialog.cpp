@@ -9,6 +9,7 @@
 
 #include <algorithm>
 
+#include "widgets/ButtonPlus.h"
 #include "widgets/X11.h"
 
 namespace blunko {
@@ -58,7 +59,11 @@ void ShowFocusOnLowScreen(QWidget& Window) {
   if (Seen.top() < Screen.top()) ShiftOnLowScreen(Window, Screen.top() - Seen.top());
 }
 
-PlacedDialog::PlacedDialog(QWidget* Owner, Cloth Satin, Qt::WindowFlags Flags) : QDialog(Owner, Flags), lining(Satin) {
+PlacedDialog::PlacedDialog(QWidget* Owner, const QString& Name, const QString& Title, Cloth Satin,
+                           Qt::WindowFlags Flags)
+    : QDialog(Owner, Flags), lining(Satin) {
+  setObjectName(Name);
+  setWindowTitle(Title);
   if (lining != Cloth::Pearl) setPalette(PaletteOn(lining));
 }
 
@@ -73,6 +78,7 @@ void PlacedDialog::setVisible(bool Visible) {
   if (Visible && !isVisible()) {
     if (lining == Cloth::Pearl && styleSheet().isEmpty()) setStyleSheet(PaperStyle());
     ensurePolished();
+    FixButtonColours(*this);
     if (layout() != nullptr) layout()->activate();
     if (!testAttribute(Qt::WA_Resized)) adjustSize();
     Place();

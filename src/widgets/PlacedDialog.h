@@ -29,7 +29,8 @@ void ShowFocusOnLowScreen(QWidget& Window);
 /// is lined with satin.
 class PlacedDialog : public QDialog {
  public:
-  explicit PlacedDialog(QWidget* Owner, Cloth Satin = Cloth::Pearl, Qt::WindowFlags Flags = {});
+  PlacedDialog(QWidget* Owner, const QString& Name, const QString& Title, Cloth Satin = Cloth::Pearl,
+               Qt::WindowFlags Flags = {});
 
   void setVisible(bool Visible) override;
 
