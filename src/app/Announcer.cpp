@@ -6,12 +6,8 @@
 
 namespace blunko {
 
-namespace {
-
 /// A reader asks for the words some time after it has heard that there are some, and others may have come by then.
 constexpr std::chrono::seconds TimeToAsk{30};
-
-}  // namespace
 
 Announcer::Announcer(QWidget* Table) : QWidget(Table) {
   setObjectName(QStringLiteral("announcer"));

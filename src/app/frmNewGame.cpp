@@ -58,8 +58,7 @@ frmNewGame::frmNewGame(Desktop& Screen, const IniInfo& Info, const GameSettings&
     : PlacedDialog(Main, "frmNewGame", " Start New Game - Tollmoor Blunko"),
       desktop(Screen),
       info(Info),
-      settings(Options),
-      table(Main) {
+      settings(Options) {
   setFont(FontOf(Typeface::Verdana, 8.25));
   auto* Outer = new QVBoxLayout(this);
   Outer->setContentsMargins(Margin, Margin, Margin, Margin);
@@ -192,7 +191,7 @@ void frmNewGame::Form_Activate() {
 }
 
 void frmNewGame::Place() {
-  PlaceFrame(*this, FramePlace(*table).topLeft() + QPoint(Pixels(OffsetLeft), Pixels(OffsetTop)));
+  PlaceFrame(*this, FramePlace(*parentWidget()).topLeft() + QPoint(Pixels(OffsetLeft), Pixels(OffsetTop)));
 }
 
 void frmNewGame::optNumPlayers_Click(int Index) {

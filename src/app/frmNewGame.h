@@ -33,14 +33,11 @@ class frmNewGame : public PlacedDialog {
   void Unload() { loaded = false; }
 
   std::array<QRadioButton*, MaxSeats> optNumPlayers;
-  std::array<QRadioButton*, 2> optPlayTo;
-  std::array<QRadioButton*, 2> optBreakIn;
+  std::array<QRadioButton*, 2> optPlayTo, optBreakIn;
   std::array<QLineEdit*, MaxSeats> TxtPlayerName;
   std::array<QCheckBox*, MaxSeats> chkComputer;
   std::array<QComboBox*, MaxSeats> cboStyle;
-  ButtonPlus* cmdPlay;
-  ButtonPlus* cmdCancel;
-  ButtonPlus* cmdSetDefault;
+  ButtonPlus *cmdPlay, *cmdCancel, *cmdSetDefault;
 
  signals:
   /// What a list of styles has changed to: the toolkit tells no listener.
@@ -67,7 +64,6 @@ class frmNewGame : public PlacedDialog {
   Desktop& desktop;
   const IniInfo& info;
   const GameSettings& settings;
-  QWidget* table;
   bool loaded = false;
   std::optional<GameSetup> lastGame;  ///< what "Same Game" plays again
 };

@@ -11,11 +11,7 @@
 
 namespace blunko {
 
-namespace {
-
 constexpr std::chrono::milliseconds LookEvery{40};
-
-}  // namespace
 
 HeldKeys::HeldKeys(bool RepeatsAreMarked) : marked(RepeatsAreMarked) {
   qGuiApp->installEventFilter(this);
