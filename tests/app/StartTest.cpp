@@ -13,12 +13,7 @@ const std::string QuitGame = "Quit? Question: Are you sure you want to quit the 
 
 class Playing : public TheProgram {
  protected:
-  void Key(int Code) {
-    for (const auto Type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-      QKeyEvent Event(Type, Code, {});
-      QApplication::sendEvent(Run->Form.get(), &Event);
-    }
-  }
+  void Key(Qt::Key Code) { QTest::keyClick(Run->Form.get(), Code); }
   using Step = std::function<void()>;
   const std::array<std::pair<const char*, Step>, 4> Ways{
       {{"the button", [this] { Run->Form->cmdExit->click(); }},
@@ -127,7 +122,7 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
     Dice->Faces.assign(Tumbling, 6);
     Dice->Faces.insert(Dice->Faces.end(), Faces);
     Click(Form.cmdRoll);
-    Key('1');
+    Key(Qt::Key_1);
   };
   Roll(30, {1, 1, 5, 2, 3, 4});
   ExpectAsKept(Form, "-turn");

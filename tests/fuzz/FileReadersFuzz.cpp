@@ -39,18 +39,14 @@ static void CheckInfo(const QByteArray& Text) {
 
 /// Lists that are read are written back as what is read again; every text survives the scrambling but for its last
 /// letter.
-static void CheckLists(const QByteArray& File) {
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size) {
+  const QByteArray File(reinterpret_cast<const char*>(Data), static_cast<qsizetype>(Size));
+  CheckInfo(File);
   const QByteArray Text = UnscrambleText(File);
   Holds(UnscrambleText(ScrambleText(Text)) == Text, "scrambling can be undone", Text);
   Holds(!ScrambleText(Text).contains('\0'), "no scrambled letter is 0", Text);
   const auto Lists = RollerLists::OfText(Text);
   Holds(!Lists || RollerLists::OfText(Lists->Text()) == Lists, "written lists are read", Text);
-}
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size) {
-  const QByteArray Text(reinterpret_cast<const char*>(Data), static_cast<qsizetype>(Size));
-  CheckInfo(Text);
-  CheckLists(Text);
   return 0;
 }
 
