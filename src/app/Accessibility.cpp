@@ -1,6 +1,7 @@
 #include "app/Accessibility.h"
 
 #include <QAccessibleWidget>
+#include <QGroupBox>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QWindow>
@@ -21,17 +22,30 @@ namespace blunko {
 
 namespace {
 
-/// A button of our own painting.
-class AccessibleButton : public QAccessibleWidget {
+/// A part of our own painting. One without a name only looks nice, and isn't there.
+class AccessiblePart : public QAccessibleWidget {
  public:
-  AccessibleButton(QAbstractButton* Button, QAccessible::Role Role) : QAccessibleWidget(Button, Role) {}
+  using QAccessibleWidget::QAccessibleWidget;
 
   QString text(QAccessible::Text Kind) const override {
-    const QString Name = QAccessibleWidget::text(Kind);
-    return Kind == QAccessible::Name && Name.isEmpty() ? static_cast<QAbstractButton*>(object())->text() : Name;
+    if (Kind == QAccessible::Description) return {};  // a tool tip, which only says the name
+    const QString Own = QAccessibleWidget::text(Kind);
+    return Kind == QAccessible::Name && Own.isEmpty() ? object()->property("text").toString() : Own;
   }
   QAccessible::State state() const override {
     QAccessible::State State = QAccessibleWidget::state();
+    State.invisible = State.invisible || text(QAccessible::Name).trimmed().isEmpty();
+    return State;
+  }
+};
+
+/// A button of our own painting.
+class AccessibleButton : public AccessiblePart {
+ public:
+  using AccessiblePart::AccessiblePart;
+
+  QAccessible::State state() const override {
+    QAccessible::State State = AccessiblePart::state();
     const auto* Button = static_cast<QAbstractButton*>(object());
     State.checkable = Button->isCheckable();
     State.checked = Button->isChecked();
@@ -52,10 +66,8 @@ class AccessibleDie : public AccessibleButton {
   explicit AccessibleDie(DieBox* Box) : AccessibleButton(Box, QAccessible::Button) {}
 
   QAccessible::State state() const override {
-    const auto* Box = static_cast<DieBox*>(object());
     QAccessible::State State = AccessibleButton::state();
-    State.disabled = State.disabled || !Box->IsTakeable();
-    State.invisible = State.invisible || Box->accessibleName().isEmpty();
+    State.disabled = State.disabled || !static_cast<DieBox*>(object())->IsTakeable();
     return State;
   }
 };
@@ -73,22 +85,13 @@ class AccessibleWord : public AccessibleButton {
   }
 };
 
-/// A text that isn't there while it is empty; one that stands for a row of the pad has a name of its own.
-class AccessibleText : public QAccessibleWidget {
+/// A text; one that stands for a row of the pad has a name of its own.
+class AccessibleText : public AccessiblePart {
  public:
-  explicit AccessibleText(FitLabel* Label) : QAccessibleWidget(Label, QAccessible::StaticText) {}
+  explicit AccessibleText(FitLabel* Label) : AccessiblePart(Label) {}
 
   QAccessible::Role role() const override {
     return widget()->accessibleName().isEmpty() ? QAccessible::StaticText : QAccessible::ListItem;
-  }
-  QAccessible::State state() const override {
-    QAccessible::State State = QAccessibleWidget::state();
-    State.invisible = State.invisible || text(QAccessible::Name).trimmed().isEmpty();
-    return State;
-  }
-  QString text(QAccessible::Text Kind) const override {
-    const QString Name = QAccessibleWidget::text(Kind);
-    return Kind == QAccessible::Name && Name.isEmpty() ? static_cast<FitLabel*>(object())->text() : Name;
   }
 };
 
@@ -123,18 +126,6 @@ class AccessibleRollers : public QAccessibleWidget {
   }
 };
 
-/// Named widgets of no special kind are groups, or pictures; those without a name only look nice.
-class AccessibleGroup : public QAccessibleWidget {
- public:
-  AccessibleGroup(QWidget* Group, QAccessible::Role Role) : QAccessibleWidget(Group, Role) {}
-
-  QAccessible::State state() const override {
-    QAccessible::State State = QAccessibleWidget::state();
-    State.invisible = State.invisible || widget()->accessibleName().isEmpty();
-    return State;
-  }
-};
-
 QAccessibleInterface* InterfaceOf(const QString& Class, QObject* Object) {
   if (!Object->isWidgetType()) return nullptr;
   auto* const Widget = static_cast<QWidget*>(Object);
@@ -142,16 +133,19 @@ QAccessibleInterface* InterfaceOf(const QString& Class, QObject* Object) {
   if (auto* Word = qobject_cast<WordButton*>(Object)) return new AccessibleWord(Word);
   if (auto* Label = qobject_cast<FitLabel*>(Object)) return new AccessibleText(Label);
   if (auto* Pad = qobject_cast<frmScorePad*>(Object)) return new AccessiblePad(Pad);
+  if (auto* Box = qobject_cast<QGroupBox*>(Object)) {  // readers say of it what they say of each choice in it
+    return new QAccessibleWidget(Box, QAccessible::Client, Box->title());
+  }
   if (auto* Colour = qobject_cast<Swatch*>(Object)) return new AccessibleButton(Colour, QAccessible::RadioButton);
   if (auto* Rows = qobject_cast<QPlainTextEdit*>(Object)) return new AccessibleRollers(Rows);
   if (qobject_cast<ScrollBox*>(Object) != nullptr) return new QAccessibleWidget(Widget, QAccessible::StaticText);
   if (qobject_cast<Announcer*>(Widget->parentWidget()) != nullptr) {
     return new QAccessibleWidget(Widget, QAccessible::Notification);
   }
-  if (qobject_cast<SvgBox*>(Object) != nullptr) return new AccessibleGroup(Widget, QAccessible::Graphic);
+  if (qobject_cast<SvgBox*>(Object) != nullptr) return new AccessiblePart(Widget, QAccessible::Graphic);
   if (Class != QLatin1String("QWidget")) return nullptr;  // the toolkit knows it, or a base of it
   if (Widget->isWindow()) return new QAccessibleWidget(Widget, QAccessible::Window);
-  return new AccessibleGroup(Widget, QAccessible::Grouping);
+  return new AccessiblePart(Widget, QAccessible::Grouping);
 }
 
 /// Whether it stands on the table, or on the pad.

@@ -58,6 +58,12 @@ QVariant HelpPage::loadResource(int Type, const QUrl& Address) {
   return QTextBrowser::loadResource(Type, Address);
 }
 
+bool HelpPage::focusNextPrevChild(bool Next) {
+  const bool Moved = QTextBrowser::focusNextPrevChild(Next);
+  if (hasFocus() && textCursor().hasSelection()) emit linkReached(textCursor().selectedText());
+  return Moved;
+}
+
 const QStringList HelpWindow::Pages{QStringLiteral("PlayingBlunko.htm"), QStringLiteral("StrategyAndHints.htm"),
                                     QStringLiteral("FairDice.htm"), QStringLiteral("Overview.htm")};
 
@@ -152,10 +158,7 @@ void HelpWindow::ConnectControls() {
   connect(Page, &QTextBrowser::forwardAvailable, cmdForward, &QWidget::setEnabled);
   connect(Page, &QTextBrowser::sourceChanged, this, &HelpWindow::MarkInContents);
   connect(Page, &QTextBrowser::sourceChanged, this, &HelpWindow::PlaceCaret);
-  connect(Page, &QTextBrowser::highlighted, this, [this] {
-    const QTextCursor Here = Page->textCursor();
-    if (Here.hasSelection() && Here.charFormat().isAnchor()) emit told(Here.selectedText() + ", link");
-  });
+  connect(Page, &HelpPage::linkReached, this, [this](const QString& Words) { emit told(Words + ", link"); });
   connect(Page, &QTextBrowser::sourceChanged, lblFound, &QLabel::clear);
   connect(txtFind, &QLineEdit::returnPressed, this, [this] { Find(false); });
   connect(txtFind, &QLineEdit::textChanged, lblFound, &QLabel::clear);

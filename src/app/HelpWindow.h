@@ -21,6 +21,13 @@ class HelpPage : public QTextBrowser {
   using QTextBrowser::QTextBrowser;
 
   QVariant loadResource(int Type, const QUrl& Address) override;
+
+ signals:
+  /// Tab has come to one with these words.
+  void linkReached(const QString& Words);
+
+ protected:
+  bool focusNextPrevChild(bool Next) override;
 };
 
 /// The help: a window of its own beside the game, with a table of contents and a search. It can be used while a dialog

@@ -32,6 +32,16 @@ const QString FrameStyle = QStringLiteral(
 constexpr QRgb SwatchColours[] = {0x000000, 0xFF0000, 0x00FF00, 0xFFFF00, 0x0000FF, 0xFF00FF, 0x00FFFF, 0xFFFFFF};
 const char* const ColourNames[] = {"Black", "Red", "Green", "Yellow", "Blue", "Magenta", "Cyan", "White"};
 
+/// Ticks one of a choice, none for a number that is no entry.
+void Tick(const auto& Choice, int Entry) {
+  for (int i = 0; i < std::ssize(Choice); ++i) {
+    Choice[i]->setAutoExclusive(false);
+    Choice[i]->setChecked(i == Entry);
+    Choice[i]->setAutoExclusive(true);
+  }
+  if (Entry < 0 || Entry >= std::ssize(Choice)) Choice[0]->setFocusPolicy(Qt::StrongFocus);  // for Tab to stop at
+}
+
 OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QStringList BackgroundFolders)
     : QWidget(&Main), form(Main), game(Table), settings(Options), backgrounds(std::move(BackgroundFolders)) {
   setObjectName(QStringLiteral("picOptionsTray"));
@@ -101,7 +111,6 @@ void OptionsPanel::BuildLists() {
   connect(cboDiceColor, &QComboBox::textActivated, this, &OptionsPanel::told);
 
   lstSkin = Make<QListWidget>(this, QStringLiteral("lstSkin"));
-  lstSkin->setAccessibleName(QStringLiteral("Background"));
   lstSkin->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstSkin->setMinimumHeight(60);
   auto* Skin = AddFrame(QStringLiteral("Background:"));
@@ -118,7 +127,7 @@ void OptionsPanel::BuildSwatches() {
   auto* Grid = new QGridLayout;
   Grid->setSpacing(2);
   for (int i = 0; i < 8; ++i) {
-    lblColor[i] = Make<Swatch>(this, QStringLiteral("lblColor(%1)").arg(i), QColor(SwatchColours[i]));
+    lblColor[i] = MakeOption<Swatch>(this, QStringLiteral("lblColor(%1)").arg(i), QColor(SwatchColours[i]));
     lblColor[i]->setAccessibleName(QLatin1String(ColourNames[i]));
     lblColor[i]->setToolTip(QLatin1String(ColourNames[i]));
     Grid->addWidget(lblColor[i], i / 4, i % 4);
@@ -194,6 +203,7 @@ void OptionsPanel::SnapshotOptions() {
     if (IsShown && Current == 0) Current = lstSkin->count() - 1;
   }
   lstSkin->setCurrentRow(Current);
+  NameChosen();
   backgroundChosen = false;
 
   before = form.Wears;
@@ -202,12 +212,11 @@ void OptionsPanel::SnapshotOptions() {
   cboDiceColor->setCurrentIndex(Set == nullptr ? -1 : cboDiceColor->findText(QLatin1String(Set->Name)));
 }
 
+/// To a reader, which doesn't look for the chosen row of a list by itself.
+void OptionsPanel::NameChosen() { lstSkin->setAccessibleName("Background: " + lstSkin->currentItem()->text()); }
+
 void OptionsPanel::LoadOptionControls() {
-  for (int i = 0; i < 3; ++i) {
-    optComputerSpeed[i]->setAutoExclusive(false);  // a speed that is none of the three ticks none
-    optComputerSpeed[i]->setChecked(i == settings.ComputerSpeed);
-    optComputerSpeed[i]->setAutoExclusive(true);
-  }
+  Tick(optComputerSpeed, settings.ComputerSpeed);
   optSound[settings.SoundDisabled ? 0 : 1]->setChecked(true);
   chkSortDice->setChecked(settings.SortDice);
   chkMarkScorers->setChecked(settings.MarkScorers);
@@ -228,6 +237,7 @@ void OptionsPanel::ShowSet(const DiceSet& Set, QRgb Colour) {
 void OptionsPanel::lstSkin_Click(int Entry) {
   if (Entry < 0) return;
   backgroundChosen = true;
+  NameChosen();
   const QString Name = Entry == 0 ? QString() : backgrounds.BackgroundFiles[Entry - 1];
   form.Wears.Background = Entry == 0 ? NoBackground : backgrounds.PathOf(Name);
   form.ShowBackground();
@@ -236,7 +246,7 @@ void OptionsPanel::lstSkin_Click(int Entry) {
 
 /// Ticks the swatch, none for a number that is no index, and shows the colour.
 void OptionsPanel::lblColor_Click(int Index) {
-  for (int i = 0; i < 8; ++i) lblColor[i]->setChecked(i == Index);
+  Tick(lblColor, Index);
   form.Wears.TextColour = ColourOfIndex(Index);
   if (form.Wears.Covered) form.ShowControls();
 }

@@ -68,6 +68,7 @@ class OptionsPanel : public QWidget {
   void ShowWholeRows();
   void ShowSampleDice();
   void SnapshotOptions();
+  void NameChosen();
   void LoadOptionControls();
   void StoreOptionControls();
   void ApplyOptions();

@@ -9,7 +9,6 @@ namespace blunko {
 
 Swatch::Swatch(const QColor& Colour, QWidget* Parent) : QAbstractButton(Parent), colour(Colour) {
   setCheckable(true);
-  setFocusPolicy(Qt::StrongFocus);
 }
 
 void Swatch::paintEvent(QPaintEvent*) {

@@ -33,7 +33,9 @@ void TableFocus::HandlerEnded() {
   const auto End = Box < std::ssize(form.Picture1) ? Row + 6 : Row;
   const auto First = std::find_if(Row, End, [](DieBox* Die) { return Die->Picture() != 0 && Die->isEnabled(); });
   if (First != End) return (*First)->setFocus();
-  if (form.cmdRoll->isVisible() && form.cmdRoll->isEnabled()) form.cmdRoll->setFocus();
+  for (QPushButton* Next : {form.cmdRoll, form.ARCmdNewGame}) {
+    if (Next->isVisible() && Next->isEnabled()) return Next->setFocus();
+  }
 }
 
 }  // namespace blunko

@@ -56,10 +56,12 @@ ButtonPlus* MakeButton(Form* Parent, const QString& Name, const QString& Caption
 }
 
 /// One of a choice. The choice is one stop of the Tab key, at the chosen one, whoever has chosen it.
-inline QRadioButton* MakeOption(QWidget* Parent, const QString& Name, const QString& Caption) {
-  auto* Made = Make<QRadioButton>(Parent, Name, Caption);
+template <typename Option = QRadioButton, typename Look = QString>
+Option* MakeOption(QWidget* Parent, const QString& Name, const Look& Caption) {
+  auto* Made = Make<Option>(Parent, Name, Caption);
+  Made->setAutoExclusive(true);
   Made->setFocusPolicy(Qt::ClickFocus);
-  QObject::connect(Made, &QRadioButton::toggled, Made,
+  QObject::connect(Made, &Option::toggled, Made,
                    [Made](bool On) { Made->setFocusPolicy(On ? Qt::StrongFocus : Qt::ClickFocus); });
   return Made;
 }

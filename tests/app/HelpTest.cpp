@@ -34,9 +34,12 @@ TEST(Help, ContentsGoToTheHeadingsAndLinksOutward) {
     EXPECT_TRUE(Heading == (*Entry)->text(0) || Bar.value() == Bar.maximum()) << Heading.toStdString();
   }
   const Answers Next;
+  Lines Told;
+  QObject::connect(&Window.Help, &HelpWindow::told, [&](const QString& Text) { Told.push_back(Text.toStdString()); });
   Window.Page.setHtml(QStringLiteral("<a href='https://example.org/a?b=c'>outward</a>"));
   for (const auto Key : {Qt::Key_Tab, Qt::Key_Return}) QTest::keyClick(&Window.Page, Key);
   EXPECT_EQ(Next.Opened, Lines{"https://example.org/a?b=c"});
+  EXPECT_EQ(Told, Lines{"outward, link"});
 }
 
 TEST(Help, FindsOnFromPageToPageAndRoundAgain) {
