@@ -102,14 +102,15 @@ TEST_F(GameSettingsTest, SavesTheSetupAsItsThreeTexts) {
 
 TEST_F(GameSettingsTest, AHandEditedSetupTakesTheDefaultForEachUnusableField) {
   // Count, names, computers and styles; the seats that they make.
-  static const char* const Rows[][5] = {{"9", "A|", "False|", "00|", "A"},
-                                        {"-3", "A|", "True|", "4|", "A*5"},
-                                        {" 2 ", "A|B", "False|True", "00", "A B*1"},
-                                        {"3", "A|B|~|", "False|True|~|", "00|2|22|", "A B*3 Player3"},
-                                        {"3", "A|", "True|", "x|", "A*1 Player2 Player3"},
-                                        {"2", "A|B|", "true|True|", "1|7|", "A B*1"},
-                                        {"2", "A\t\xF6\xAD\xFF|FifteenLettersX|", "|", "|", "A\u00F6y FifteenLetters"},
-                                        {"2", "|\t\xAD|", "|", "|", " Player2"}};
+  static const char* const Rows[][5] = {
+      {"9", "A|", "False|", "00|", "A"},
+      {"-3", "A|", "True|", "4|", "A*5"},
+      {" 2 ", "A|B", "False|True", "00", "A B*1"},
+      {"3", "A|B|~|", "False|True|~|", "00|2|22|", "A B*3 Player3"},
+      {"8", "A|", "True|", "x|", "A*1 Player2 Player3 Player4 Player5 Player6 Player7 Player8"},
+      {"2", "A|B|", "true|True|", "1|7|", "A B*1"},
+      {"2", "A\t\xF6\xAD\xFF|FifteenLettersX|", "|", "|", "A\u00F6y FifteenLetters"},
+      {"2", "|\t\xAD|", "|", "|", " Player2"}};
   for (const auto& Row : Rows) {
     const QByteArray Text = QByteArray("defNumPlayers=") + Row[0] + "\ndefPlayerNameString=" + Row[1] +
                             "\ndefPlayerIsCompString=" + Row[2] + "\ndefPlayerStyleString=" + Row[3];
