@@ -43,7 +43,6 @@ TEST(Styles, PlayTheirTurnsByTheirNumbers) {
     const char *Style, *Why, *Faces;
     int Banked, Gain, DiceDrawn, OpponentBanked = 0, Out = Absent;
   } Rows[] = {
-      {"Simple", "takes all, passes at 400", "115553", 500, 700, 6},
       {"Moron", "all score: takes one after the other, then rolls", "111446155234623", 0, 1000, 6},
       {"Normal", "three twos are left for a single one", "12223423346", 500, 0, 11},
       {"Normal", "a combination takes the single one along; 500 with two dice left is enough", "144436", 500, 500, 6},
