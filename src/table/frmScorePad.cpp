@@ -4,9 +4,6 @@
 #include <QPainter>
 #include <QPalette>
 #include <QScreen>
-#include <QTimer>
-
-#include <utility>
 
 #include "widgets/FormBuilder.h"
 #include "widgets/Materials.h"
@@ -39,7 +36,8 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
   setObjectName(QStringLiteral("frmScorePad"));
   setWindowTitle(QStringLiteral(" Score Pad"));
   setAttribute(Qt::WA_ShowWithoutActivating);
-  setAttribute(Qt::WA_X11NetWmWindowTypeMenu);  // for openbox and KWin: with fewer buttons beside the title
+  winId();                                      // what it is can only be told of a window that is there
+  setAttribute(Qt::WA_X11NetWmWindowTypeMenu);  // for openbox: with fewer buttons beside the title
   SetColours(*this, {{QPalette::Window, FormBlue}});
   setAutoFillBackground(true);
 
@@ -118,8 +116,6 @@ void frmScorePad::UpdateActivePlayer() {
 /// A navy plate for the headings, a strip for each seat, a sunk plate with an arrow for the one on turn, which is seen
 /// without its green too, and a frame of walnut.
 void frmScorePad::paintEvent(QPaintEvent*) {
-  // Only now is it known whether its frame is the table's.
-  if (!std::exchange(shownBefore, true)) QTimer::singleShot(0, this, &frmScorePad::SetPosition);
   QPainter Painter(this);
   Painter.setRenderHint(QPainter::Antialiasing);
   Painter.setPen(Qt::NoPen);
@@ -176,9 +172,12 @@ void frmScorePad::Form_Activate() {
   label_break_in->setText(QStringLiteral("(%1 to break in)").arg(m.BreakInScore));
   for (int i = 0; i < m.NumPlayers; ++i) lblPlayer[i]->setText(QString::fromStdString(m.PlayerName[i]));
   const int LastSeat = m.NumPlayers > 1 ? m.NumPlayers - 1 : 1;
-  setFixedSize(Pixels(Width), Pixels(FirstRow + RowPitch * LastSeat + RowHeight));
+  FixSize(*this, {Pixels(Width), Pixels(FirstRow + RowPitch * LastSeat + RowHeight)});
   UpdateActivePlayer();
 }
+
+/// Awesome gives the focus to whatever is clicked.
+void frmScorePad::mousePressEvent(QMouseEvent*) { table->activateWindow(); }
 
 void frmScorePad::showEvent(QShowEvent* Event) {
   Form_Activate();

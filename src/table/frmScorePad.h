@@ -27,6 +27,7 @@ class frmScorePad : public QWidget {
  protected:
   bool eventFilter(QObject* Table, QEvent* Event) override;
   void showEvent(QShowEvent* Event) override;
+  void mousePressEvent(QMouseEvent* Event) override;
   void paintEvent(QPaintEvent* Event) override;
 
  private:
@@ -34,7 +35,6 @@ class frmScorePad : public QWidget {
 
   const Module1& m;
   QWidget* table;
-  bool shownBefore = false;
   FitLabel* lblGoal;
   FitLabel* label_break_in;
   FitLabel* Label2;

@@ -4,42 +4,74 @@
 #include <QLayout>
 #include <QPainter>
 #include <QScreen>
+#include <QTimer>
 #include <QWheelEvent>
 #include <QWindow>
 
 #include <algorithm>
+#include <chrono>
 
 #include "widgets/ButtonPlus.h"
 #include "widgets/X11.h"
 
 namespace blunko {
 
-bool PlacesWindows() { return !QGuiApplication::platformName().startsWith(QLatin1String("wayland")); }
+namespace {
 
-QMargins FrameOf(const QWidget& Window) {
-  if (Window.windowType() == Qt::ToolTip) return {};
-  if (Window.isVisible()) {  // a hidden window's is told as none by openbox
-    if (const auto Told = FrameTold(Window)) return *Told;
-    if (QGuiApplication::platformName() != QLatin1String("xcb")) return Window.windowHandle()->frameMargins();
-  }
-  return Window.parentWidget() == nullptr ? FrameToCome(Window) : FrameOf(*Window.parentWidget()->window());
-}
-
-QRect FramePlace(const QWidget& Window) { return Window.geometry() + FrameOf(Window); }
-
-void PlaceFrame(QWidget& Window, QPoint Corner) {
+void Put(QWidget& Window, QPoint Corner) {
+  if (!Window.testAttribute(Qt::WA_WState_Created)) return Window.move(Corner);  // the manager will add the frame
   const QMargins Frame = FrameOf(Window);
   Window.setGeometry(QRect(Corner + QPoint(Frame.left(), Frame.top()), Window.size()));
 }
 
+/// Puts a window, and again while it comes up: only then its frame is known, and awesome, and i3 with a window that
+/// comes up again, choose the place themselves at first.
+template <typename Putting>
+void PutAndRemind(QWidget& Window, Putting Run) {
+  constexpr QLatin1String Name("reminder");
+  constexpr std::chrono::milliseconds LookEvery{40}, Settling{500};  // later it is moved by the player
+  delete Window.findChild<QTimer*>(Name, Qt::FindDirectChildrenOnly);
+  Run();
+  auto* Again = new QTimer(&Window);
+  Again->setObjectName(Name);
+  Again->callOnTimeout([&Window, Run, Size = Window.size()] {
+    if (Window.size() == Size) Run();
+  });
+  Again->start(LookEvery);
+  QTimer::singleShot(Settling, Again, &QObject::deleteLater);
+}
+
+}  // namespace
+
+bool PlacesWindows() { return !QGuiApplication::platformName().startsWith(QLatin1String("wayland")); }
+
+QMargins FrameOf(const QWidget& Window) {
+  if (Window.windowType() == Qt::ToolTip) return {};
+  if (Window.isVisible()) return FrameTold(Window);  // openbox tells a hidden window's as none
+  return Window.parentWidget() == nullptr ? QMargins() : FrameOf(*Window.parentWidget()->window());
+}
+
+QRect FramePlace(const QWidget& Window) { return Window.geometry() + FrameOf(Window); }
+
+void FixSize(QWidget& Window, QSize Size) {
+  Window.setBaseSize(Size);
+  Window.setFixedSize(Size);
+}
+
+void PlaceFrame(QWidget& Window, QPoint Corner) {
+  PutAndRemind(Window, [&Window, Corner] { Put(Window, Corner); });
+}
+
 void CentreFrame(QWidget& Window, const QRect& Place) {
-  QRect Frame(QPoint(), Window.size().grownBy(FrameOf(Window)));
-  Frame.moveCenter(Place.center());
-  const QScreen* const There = QGuiApplication::screenAt(Place.center());
-  const QRect Screen = (There == nullptr ? Window.screen() : There)->availableGeometry();
-  Frame.moveRight(qMin(Frame.right(), Screen.right()));
-  Frame.moveBottom(qMin(Frame.bottom(), Screen.bottom()));
-  PlaceFrame(Window, QPoint(qMax(Frame.left(), Screen.left()), qMax(Frame.top(), Screen.top())));
+  PutAndRemind(Window, [&Window, Place] {
+    QRect Frame(QPoint(), Window.size().grownBy(FrameOf(Window)));
+    Frame.moveCenter(Place.center());
+    const QScreen* const There = QGuiApplication::screenAt(Place.center());
+    const QRect Screen = (There == nullptr ? Window.screen() : There)->availableGeometry();
+    Frame.moveRight(qMin(Frame.right(), Screen.right()));
+    Frame.moveBottom(qMin(Frame.bottom(), Screen.bottom()));
+    Put(Window, QPoint(qMax(Frame.left(), Screen.left()), qMax(Frame.top(), Screen.top())));
+  });
 }
 
 void ShiftOnLowScreen(QWidget& Window, int Down) {
@@ -74,7 +106,6 @@ void PlacedDialog::paintEvent(QPaintEvent*) {
 }
 
 void PlacedDialog::setVisible(bool Visible) {
-  const bool HasFocus = isActiveWindow();
   if (Visible && !isVisible()) {
     if (lining == Cloth::Pearl && styleSheet().isEmpty()) setStyleSheet(PaperStyle());
     ensurePolished();
@@ -84,8 +115,6 @@ void PlacedDialog::setVisible(bool Visible) {
     Place();
   }
   QDialog::setVisible(Visible);
-  // Marco would give it to another window of the program.
-  if (!Visible && HasFocus && parentWidget() != nullptr) parentWidget()->window()->activateWindow();
 }
 
 void PlacedDialog::Place() {

@@ -12,10 +12,13 @@ namespace blunko {
 
 /// Whether a window can be put anywhere: Wayland places only what hangs on another window.
 bool PlacesWindows();
-/// The frame round a window. One that hasn't been shown yet will get its owner's, or the one that the manager tells.
+/// The frame round a window. One that isn't shown will get its owner's.
 QMargins FrameOf(const QWidget& Window);
 /// The place of a window on the screen, frame included.
 QRect FramePlace(const QWidget& Window);
+/// Gives a window that may have been shown a size that only the program changes. Openbox takes whole steps of the scale
+/// from the base: that is the size itself.
+void FixSize(QWidget& Window, QSize Size);
 /// Puts a window, shown or not, where the corner of its frame belongs on the screen. Its size is final.
 void PlaceFrame(QWidget& Window, QPoint Corner);
 /// Puts a window with its frame in the middle of a place on the screen, and moves it in where the screen ends.

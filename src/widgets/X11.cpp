@@ -26,54 +26,21 @@ Display* Server() {
   return X11 == nullptr ? nullptr : X11->display();
 }
 
-struct Release {
-  void operator()(void* Data) const { XFree(Data); }
-};
-
-/// A property of some longs; null without it.
-std::unique_ptr<unsigned char, Release> Property(Display* To, Window Of, const char* Name, Atom Type,
-                                                 unsigned long Count) {
-  Atom Found = None;
-  int Format = 0;
-  unsigned long Items = 0, Rest = 0;
-  unsigned char* Data = nullptr;
-  XGetWindowProperty(To, Of, XInternAtom(To, Name, False), 0, static_cast<long>(Count), False, Type, &Found, &Format,
-                     &Items, &Rest, &Data);
-  std::unique_ptr<unsigned char, Release> Owned(Data);
-  if (Format != 32 || Items != Count) Owned.reset();
-  return Owned;
-}
-
 }  // namespace
 
-std::optional<QMargins> FrameTold(const QWidget& Window) {
-  Display* const To = Server();
-  if (To == nullptr || Window.windowHandle() == nullptr) return {};
-  const auto Found = Property(To, Window.winId(), "_NET_FRAME_EXTENTS", XA_CARDINAL, 4);
-  if (Found == nullptr) return {};
-  const auto* Sides = reinterpret_cast<const long*>(Found.get());  // left, right, top, bottom, in pixels
-  return (QMarginsF(Sides[0], Sides[2], Sides[1], Sides[3]) / Window.devicePixelRatioF()).toMargins();
-}
-
-QMargins FrameToCome(const QWidget& Window) {
-  constexpr const char* IsSilent = "managerIsSilent";  // of the application, which has the connection
-  Display* const To = Server();
-  if (To == nullptr || qGuiApp->property(IsSilent).toBool()) return {};
-  const ::Window Root = DefaultRootWindow(To);
-  if (Property(To, Root, "_NET_SUPPORTING_WM_CHECK", XA_WINDOW, 1) == nullptr) return {};
-  XEvent Question{};
-  Question.xclient.type = ClientMessage;
-  Question.xclient.window = Window.winId();
-  Question.xclient.message_type = XInternAtom(To, "_NET_REQUEST_FRAME_EXTENTS", False);
-  Question.xclient.format = 32;
-  XSendEvent(To, Root, False, SubstructureRedirectMask | SubstructureNotifyMask, &Question);
-  for (int Waited = 0; Waited < LongestWait; Waited += LookEvery) {
-    XSync(To, False);
-    if (const auto Told = FrameTold(Window)) return *Told;
-    QThread::msleep(LookEvery);
+QMargins FrameTold(const QWidget& Window) {
+  Atom Type = None;
+  int Format = 0;
+  unsigned long Count = 0, Rest = 0;
+  unsigned char* Data = nullptr;
+  if (Display* const To = Server(); To != nullptr) {
+    XGetWindowProperty(To, Window.winId(), XInternAtom(To, "_NET_FRAME_EXTENTS", False), 0, 4, False, XA_CARDINAL,
+                       &Type, &Format, &Count, &Rest, &Data);
   }
-  qGuiApp->setProperty(IsSilent, true);
-  return {};
+  const std::unique_ptr<unsigned char, int (*)(void*)> Owned(Data, XFree);
+  if (Format != 32 || Count != 4) return Window.windowHandle()->frameMargins();
+  const auto* Sides = reinterpret_cast<const long*>(Data);  // left, right, top, bottom, in pixels
+  return (QMarginsF(Sides[0], Sides[2], Sides[1], Sides[3]) / Window.devicePixelRatioF()).toMargins();
 }
 
 bool HearKeysReleasedOnce() {
@@ -148,8 +115,7 @@ void AwaitPlace(const QWidget& Window, const QRect& Wanted) {
 
 #else
 
-std::optional<QMargins> FrameTold(const QWidget&) { return {}; }
-QMargins FrameToCome(const QWidget&) { return {}; }
+QMargins FrameTold(const QWidget& Window) { return Window.windowHandle()->frameMargins(); }
 bool HearKeysReleasedOnce() { return false; }
 std::optional<std::set<quint32>> KeysDown() { return {}; }
 void HoldRightEdge(QWidget&, const QImage&) {}

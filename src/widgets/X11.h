@@ -12,11 +12,9 @@ namespace blunko {
 
 /// What only an X server and its window manager can be asked for. On other platforms nothing happens.
 
-/// The frame that the window manager has told, once it has got the window.
-std::optional<QMargins> FrameTold(const QWidget& Window);
-/// The frame that it will put round a window that isn't shown yet; none when it doesn't say. KWin, fluxbox and awesome
-/// don't: one that was silent once isn't asked again.
-QMargins FrameToCome(const QWidget& Window);
+/// The frame of a window that is shown: now, while the toolkit may still tell what it was before the manager had done
+/// with it. Only i3 leaves it to the toolkit.
+QMargins FrameTold(const QWidget& Window);
 
 /// From now on a key that is held down is let go once, at its end, not with every repeat; and the repeats of its press
 /// aren't told apart from it. False where that can't be had, nor is needed.
