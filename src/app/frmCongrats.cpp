@@ -5,7 +5,6 @@
 
 #include <utility>
 
-#include "table/Strip.h"
 #include "table/frmMain.h"
 #include "widgets/FormBuilder.h"
 #include "widgets/Materials.h"
@@ -61,7 +60,7 @@ void frmCongrats::Leave(const char* Word) {
   accept();
 }
 
-void frmCongrats::Place() { PlaceFrame(*this, TableCorner(table)); }
+void frmCongrats::Place() { PlaceFrame(*this, FramePlace(table).topLeft() + QPoint(table.picGameTray->x(), 0)); }
 
 void frmCongrats::showEvent(QShowEvent* Event) {
   PlacedDialog::showEvent(Event);

@@ -220,8 +220,8 @@ void frmNewGame::FitHeight(int Index) {
   layout()->activate();
   const int Seats = Index < 1 ? 2 : Index + 1;
   const QSize Needed = layout()->minimumSize();
-  setFixedSize(qMax(Pixels(InnerWidth), Needed.width()),
-               qMax(Pixels(SmallestHeight + SeatPitch * (Seats - 2)), Needed.height()));
+  FixSize(*this, {qMax(Pixels(InnerWidth), Needed.width()),
+                  qMax(Pixels(SmallestHeight + SeatPitch * (Seats - 2)), Needed.height())});
 }
 
 bool frmNewGame::eventFilter(QObject* Watched, QEvent* Event) {

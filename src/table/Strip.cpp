@@ -26,29 +26,29 @@ void Strip::Open(const QPixmap& Picture) {
   Painter.drawPixmap(0, 0, Picture);
   Painter.drawPixmap(Width, 0, form.picGameTray->grab(form.rect()));
   if (QWindow* const Window = form.windowHandle()) Window->installEventFilter(this);
-  closed = opened = PlaceOnServer(form).topLeft();
-  SetWidth(Width, Whole, closed - QPoint(qRound(Width * form.devicePixelRatioF()), 0));
+  SetWidth(Width, Whole);
 }
 
-/// A manager that keeps windows on the screen has moved the table: it goes back, unless the player has dragged it.
 void Strip::Close() {
-  const int Width = form.picGameTray->x();
-  const QPoint Corner = PlaceOnServer(form).topLeft();
-  SetWidth(0, form.picGameTray->grab(QRect(0, 0, form.width() - Width, form.height())).toImage(),
-           Corner == opened ? closed : Corner + QPoint(qRound(Width * form.devicePixelRatioF()), 0));
+  const QRect Table(0, 0, form.width() - form.picGameTray->x(), form.height());
+  SetWidth(0, form.picGameTray->grab(Table).toImage());
 }
 
 /// The left edge moves, everything on the table stays where it is on the screen. `Whole`: the window in its new size.
-/// Nothing is painted before the window has it. `Corner`: where the server puts it, to the pixel.
-void Strip::SetWidth(int Width, const QImage& Whole, QPoint Corner) {
+/// Nothing is painted before the window has it. A manager that keeps windows on the screen has moved the table: it goes
+/// back in the end, unless the player has dragged it.
+void Strip::SetWidth(int Width, const QImage& Whole) {
   const int Wider = Width - form.picGameTray->x();
   const QSize Size = form.size() + QSize(Wider, 0);
-  const QRect Place(Corner, PlaceOnServer(form).size() + QSize(qRound(Wider * form.devicePixelRatioF()), 0));
+  const QRect Was = PlaceOnServer(form);
+  QRect Place(closed, Size * form.devicePixelRatioF());
+  if (Width > 0 || Was.topLeft() != opened) Place.moveTopRight(Was.topRight());
+  if (Width > 0) closed = opened = Was.topLeft();
   HoldRightEdge(form, Whole);
   form.setMinimumSize(form.minimumSize().boundedTo(Size));
   form.setMaximumSize(form.maximumSize().expandedTo(Size));
   form.setGeometry(QRect(form.geometry().topLeft() - QPoint(Wider, 0), Size));
-  form.setFixedSize(Size);
+  FixSize(form, Size);
   form.picGameTray->move(Width, 0);
   AwaitPlace(form, Place);
   settling.setRemainingTime(Settling);
@@ -65,7 +65,5 @@ bool Strip::eventFilter(QObject* Window, QEvent* Event) {
   }
   return Mouse->isEndEvent() ? std::exchange(nobodys, false) : nobodys;
 }
-
-QPoint TableCorner(const frmMain& Form) { return FramePlace(Form).topLeft() + QPoint(Form.picGameTray->x(), 0); }
 
 }  // namespace blunko

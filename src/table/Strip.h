@@ -26,15 +26,12 @@ class Strip : public QObject {
   bool eventFilter(QObject* Window, QEvent* Event) override;
 
  private:
-  void SetWidth(int Width, const QImage& Whole, QPoint Corner);
+  void SetWidth(int Width, const QImage& Whole);
 
   frmMain& form;
   QPoint closed, opened;    ///< the window's place before the strip was opened, and what the manager then made of it
   QDeadlineTimer settling;  ///< while what the manager makes of a change may come in
   bool nobodys = false;     ///< of the press that the mouse holds
 };
-
-/// The table's part of the window, frame included, in screen coordinates.
-QPoint TableCorner(const frmMain& Form);
 
 }  // namespace blunko
