@@ -94,6 +94,8 @@ void Game::CarryOutHeld() {
 }
 
 bool Game::MayQuitGame() {
+  if (gate == Gate::Asking) return false;  // the end of the session has to wait for the answer
+  const GateHeld Asking(gate, Gate::Asking);
   desktop.Beep();
   return desktop.AskYesNo("Are you sure you want to quit the current game?", "Quit?");
 }
@@ -103,10 +105,7 @@ bool Game::Form_Unload() {
   return m.Quitting;
 }
 
-bool Game::MayEnd() {
-  const GateHeld Asking(gate, Gate::Closed);
-  return m.Quitting || m.CurrentPlayer == Absent || MayQuitGame();
-}
+bool Game::MayEnd() { return m.Quitting || m.CurrentPlayer == Absent || MayQuitGame(); }
 
 void Game::End() {
   if (!std::exchange(m.Quitting, true)) program.ExitProgram();

@@ -10,6 +10,7 @@ enum class Gate {
   Ajar,     ///< a handler lets events in: every command but those that touch the dice
   Holding,  ///< a handler lets events in: the same commands, but only when it is through
   Closed,   ///< a handler sleeps, or waits for a box or a dialog: none
+  Asking,   ///< the same, and the question is whether the game may be given up
 };
 
 /// Holds the gate in a position for as long as it lives.

@@ -124,7 +124,7 @@ void PlacedDialog::Place() {
 /// KWin and openbox have a button for it, whatever is asked for, and would take the owner along.
 void PlacedDialog::changeEvent(QEvent* Event) {
   QDialog::changeEvent(Event);
-  if (Event->type() == QEvent::WindowStateChange && isMinimized()) showNormal();
+  if (Event->type() == QEvent::WindowStateChange && isMinimized()) showNormal(), activateWindow();
 }
 
 bool PlacedDialog::focusNextPrevChild(bool Next) {

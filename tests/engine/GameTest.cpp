@@ -195,6 +195,9 @@ TEST(Commands, NewGameAndTheEndAreAskedForAndClearUp) {
     if (Row.GameRuns) table.Begin({"Ann", "Bob"}), table.Play("123446 @0 12334");
     table.t.picGameTray.Enabled = !Row.PanelOpen;
     table.Screen.Answer = Row.Yes;
+    table.Screen.OnBox = [&] {  // the end of the session
+      EXPECT_FALSE(std::ranges::count(table.Screen.Log, Question) == 1 && table.game.MayEnd()) << "asked already";
+    };
     table.TakeLog();
     const std::string Before = table.Look();
     Row.Key != 0 ? table.game.Form_KeyUp(Row.Key, Row.Shift) : static_cast<void>(table.game.PersonCloses());
