@@ -168,6 +168,8 @@ void PassOnWhatCounts(QAccessibleEvent* Event) {
   const auto* Widget = qobject_cast<QWidget*>(Event->object());
   const bool Announces = Widget != nullptr && qobject_cast<Announcer*>(Widget->parentWidget()) != nullptr;
   if (Announces && Event->type() != QAccessible::ObjectShow) return;
+  // A focus that waits at the window, until a button or die is there again, is as good as where it was.
+  if (Event->type() == QAccessible::Focus && qobject_cast<frmMain*>(Event->object()) != nullptr) return;
   if (Widget != nullptr && Event->type() != QAccessible::Focus && IsOfTable(Widget)) return;
   if (Widget != nullptr && Widget->window()->windowHandle() == nullptr) return;  // never shown: nobody has read it
   PassOn(*Event);

@@ -292,8 +292,8 @@ void OptionsPanel::RevertOptions() {
 void OptionsPanel::Close() {
   form.ShowControls();
   strip.Close();
-  hide();
   form.setFocus();
+  hide();
 }
 
 }  // namespace blunko
