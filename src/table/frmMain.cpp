@@ -177,9 +177,10 @@ bool frmMain::eventFilter(QObject* Tray, QEvent* Event) {
   return QWidget::eventFilter(Tray, Event);
 }
 
-/// Wayland's compositors send sizes that nobody wanted, KWin the one before the options were opened.
+/// Wayland's compositors send sizes that nobody wanted, KWin the one before the options were opened; icewm any that a
+/// tool asks for.
 void frmMain::resizeEvent(QResizeEvent*) {
-  if (PlacesWindows() || isMaximized() || isFullScreen()) return;
+  if (isMaximized() || isFullScreen()) return;
   QTimer::singleShot(0, this, [this] { resize(minimumSize()); });
 }
 
