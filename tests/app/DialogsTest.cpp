@@ -27,7 +27,7 @@ TEST(About, DiceSoundLinksOpenAndTheCreditsScrollRound) {
     const Lines Log = At.TakeLog();
     EXPECT_EQ(Log[0] + Log[1], "sound " + At.Settings.GetSound("OneDie") + "sound " + At.Settings.GetSound("MultiDie"));
     EXPECT_EQ(std::set(Log.begin(), Log.end()).size(), 6U) << "four boxes, each its own";
-    for (LinkLabel* Link : {Form.lblURL, Form.lblMail}) Click(Link);
+    for (LinkLabel* Link : {Form.lblURL, Form.lblMail}) QTest::keyClick(Link, Qt::Key_Return);
     EXPECT_THAT(Next.Opened, testing::ElementsAre(testing::StartsWith("http"), testing::StartsWith("mailto:")));
     Click(Form.cmdCredits);
     Click(Form.cmdOK);
