@@ -48,7 +48,7 @@ Folders Folders::OfProgram() {
 Folders Folders::Of(const QString& Path) {
   const QFileInfo Executable(Path);
   const QString Program = Executable.absolutePath();
-  const Folders Beside{Program, Executable.completeBaseName(), Program, GetTempFolder()};
+  Folders Beside{Program, Executable.completeBaseName(), Program, GetTempFolder()};
   const bool Installed = !InstalledFiles(Program).isEmpty();
   if (!Installed && QFileInfo(Program).isWritable()) return Beside;
 
