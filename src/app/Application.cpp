@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QSessionManager>
 #include <QTime>
+#include <QWindow>
 
 #include <algorithm>
 #include <cstdlib>
@@ -62,6 +63,7 @@ Application::~Application() = default;
 
 bool Application::Main() {
   InstallAccessibility();
+  qApp->installEventFilter(this);
   auto Pictures = std::async(IconPictures);  // while the window is built
   const auto ShowIcon = [&Pictures] {
     QIcon Icon;
@@ -101,7 +103,6 @@ void Application::LoadForm() {
   Rollers.LoadHighRollers();
 
   // The end of the session can be stopped only when it is asked for; later the program is told to end.
-  qApp->installEventFilter(this);
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& Session) {
     if (Session.allowsInteraction()) Table.MayEnd() ? Session.release() : Session.cancel();
   });
@@ -119,7 +120,10 @@ void Application::LoadForm() {
   Screen.ShowOn(*Form);
 }
 
-bool Application::eventFilter(QObject*, QEvent* Event) {
+bool Application::eventFilter(QObject* Of, QEvent* Event) {
+  if (Event->type() == QEvent::PlatformSurface && !PlacesWindows()) {
+    if (auto* W = qobject_cast<QWindow*>(Of); W != nullptr && W->handle() != nullptr) LetGrow(*W);
+  }
   if (Event->type() != QEvent::Quit || !Event->spontaneous()) return false;
   Table.End();
   return true;

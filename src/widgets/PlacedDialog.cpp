@@ -58,6 +58,21 @@ void FixSize(QWidget& Window, QSize Size) {
   Window.setFixedSize(Size);
 }
 
+void LetGrow(QWindow& Window) {
+  const auto AtNextWidth = [&Window](auto Run) {
+    QObject::connect(&Window, &QWindow::widthChanged, &Window, Run, Qt::SingleShotConnection);
+  };
+  QObject::connect(&Window, &QWindow::windowStateChanged, &Window, [=, &Window](Qt::WindowState Now) {
+    const QSize Fixed = Window.maximumSize();
+    if (Now != Qt::WindowMaximized || Fixed != Window.minimumSize()) return;
+    Window.setMaximumSize({QWIDGETSIZE_MAX, QWIDGETSIZE_MAX});
+    AtNextWidth([=, &Window] {
+      AtNextWidth([=, &Window] { Window.setMaximumSize(Fixed); });
+      QTimer::singleShot(0, &Window, [&Window] { Window.setWindowStates(Qt::WindowNoState); });
+    });
+  });
+}
+
 void PlaceFrame(QWidget& Window, QPoint Corner) {
   PutAndRemind(Window, [&Window, Corner] { Put(Window, Corner); });
 }

@@ -5,6 +5,8 @@
 
 #include "widgets/Materials.h"
 
+class QWindow;
+
 namespace blunko {
 
 // Frames are reckoned here alone. What the toolkit tells of the frame of a window that has never been shown isn't true,
@@ -19,6 +21,9 @@ QRect FramePlace(const QWidget& Window);
 /// Gives a window that may have been shown a size that only the program changes. Openbox takes whole steps of the scale
 /// from the base: that is the size itself.
 void FixSize(QWidget& Window, QSize Size);
+/// On Wayland the frame that the toolkit draws has a button that maximises whatever it is round, and weston ends a
+/// program whose window doesn't grow then: one of a fixed size grows, and goes back.
+void LetGrow(QWindow& Window);
 /// Puts a window, shown or not, where the corner of its frame belongs on the screen. Its size is final.
 void PlaceFrame(QWidget& Window, QPoint Corner);
 /// Puts a window with its frame in the middle of a place on the screen, and moves it in where the screen ends.
