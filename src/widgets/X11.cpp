@@ -6,16 +6,17 @@
 #include <QWidget>
 #include <QWindow>
 
-#if QT_CONFIG(xcb)
+#ifdef TBK_X11
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>
 #include <X11/Xutil.h>
+#include <algorithm>
 #include <memory>
 #endif
 
 namespace blunko {
 
-#if QT_CONFIG(xcb)
+#ifdef TBK_X11
 
 namespace {
 
@@ -41,6 +42,16 @@ QMargins FrameTold(const QWidget& Window) {
   if (Format != 32 || Count != 4) return Window.windowHandle()->frameMargins();
   const auto* Sides = reinterpret_cast<const long*>(Data);  // left, right, top, bottom, in pixels
   return (QMarginsF(Sides[0], Sides[2], Sides[1], Sides[3]) / Window.devicePixelRatioF()).toMargins();
+}
+
+void RefuseFocus(const QWidget& Window) {
+  Display* const To = Server();
+  Atom* Does = nullptr;
+  int Count = 0;
+  if (To == nullptr || XGetWMProtocols(To, Window.winId(), &Does, &Count) == 0) return;
+  const std::unique_ptr<Atom, int (*)(void*)> Owned(Does, XFree);
+  const Atom* const End = std::remove(Does, Does + Count, XInternAtom(To, "WM_TAKE_FOCUS", False));
+  XSetWMProtocols(To, Window.winId(), Does, static_cast<int>(End - Does));
 }
 
 bool HearKeysReleasedOnce() {
@@ -116,6 +127,7 @@ void AwaitPlace(const QWidget& Window, const QRect& Wanted) {
 #else
 
 QMargins FrameTold(const QWidget& Window) { return Window.windowHandle()->frameMargins(); }
+void RefuseFocus(const QWidget&) {}
 bool HearKeysReleasedOnce() { return false; }
 std::optional<std::set<quint32>> KeysDown() { return {}; }
 void HoldRightEdge(QWidget&, const QImage&) {}

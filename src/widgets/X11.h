@@ -16,6 +16,9 @@ namespace blunko {
 /// with it. Only i3 leaves it to the toolkit.
 QMargins FrameTold(const QWidget& Window);
 
+/// Takes the offer back that the toolkit makes for every window: awesome gives the focus to whatever offers to take it.
+void RefuseFocus(const QWidget& Window);
+
 /// From now on a key that is held down is let go once, at its end, not with every repeat; and the repeats of its press
 /// aren't told apart from it. False where that can't be had, nor is needed.
 bool HearKeysReleasedOnce();
