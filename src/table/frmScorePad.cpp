@@ -9,6 +9,7 @@
 #include "widgets/Materials.h"
 #include "widgets/PlacedDialog.h"
 #include "widgets/Twips.h"
+#include "widgets/X11.h"
 
 namespace blunko {
 
@@ -38,6 +39,7 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
   setAttribute(Qt::WA_ShowWithoutActivating);
   winId();                                      // what it is can only be told of a window that is there
   setAttribute(Qt::WA_X11NetWmWindowTypeMenu);  // for openbox: with fewer buttons beside the title
+  RefuseFocus(*this);
   SetColours(*this, {{QPalette::Window, FormBlue}});
   setAutoFillBackground(true);
 
@@ -175,9 +177,6 @@ void frmScorePad::Form_Activate() {
   FixSize(*this, {Pixels(Width), Pixels(FirstRow + RowPitch * LastSeat + RowHeight)});
   UpdateActivePlayer();
 }
-
-/// Awesome gives the focus to whatever is clicked.
-void frmScorePad::mousePressEvent(QMouseEvent*) { table->activateWindow(); }
 
 void frmScorePad::showEvent(QShowEvent* Event) {
   Form_Activate();

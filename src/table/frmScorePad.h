@@ -27,7 +27,6 @@ class frmScorePad : public QWidget {
  protected:
   bool eventFilter(QObject* Table, QEvent* Event) override;
   void showEvent(QShowEvent* Event) override;
-  void mousePressEvent(QMouseEvent* Event) override;
   void paintEvent(QPaintEvent* Event) override;
 
  private:
