@@ -91,7 +91,7 @@ TEST(CustomizeSounds, EveryEntryOfTheListIsItsEventAndOKAloneWritesAll) {
   };
   for (ButtonPlus* Button : {Form.cmdCancel, Form.cmdOK}) {
     Form.show();
-    ExpectUsable(Form);
+    if (Button == Form.cmdCancel) ExpectUsable(Form);
     for (const SoundEvent& Event : SoundEvents) {
       SCOPED_TRACE(Event.Name);
       Form.lstEvents->setCurrentRow(static_cast<int>(&Event - SoundEvents.data()));
@@ -166,7 +166,9 @@ TEST_F(TheProgram, GreetsOnceAndTheHelpOutlivesTheWelcomeAndGoesWithTheGame) {
   Run->Form->show();
   QTest::qWait(60);
   Run->ShowHelpTopic(QStringLiteral("Overview.htm"));
-  for (const SoundEvent& Sound : SoundEvents) EXPECT_TRUE(Folder.Get("temp/" + QString(Sound.File)).startsWith("RIFF"));
+  std::set<QByteArray> Sounds;
+  for (const SoundEvent& Sound : SoundEvents) Sounds.insert(Folder.Get("temp/" + QString(Sound.File)));
+  EXPECT_TRUE(Sounds.size() == SoundEvents.size() && Sounds.begin()->startsWith("RIFF")) << "each has its own";
   Run->Settings.SoundDisabled = true;
   for (const bool IsTest : {false, true}) {  // which alone is heard
     Run->Screen.PlaySoundFile(Run->State.TempFolder + "undo.wav", IsTest);

@@ -47,6 +47,20 @@ struct Desk : Table {
   Desk() { InstallAccessibility(); }
 };
 
+/// Holds what a window looks like, at a quarter of its size, against the picture kept.
+inline void ExpectSeenAs(const QString& Kept, QWidget& Form) {
+  const auto Format = QImage::Format_RGB32;
+  const QImage Now =
+      Form.grab().scaled(Form.size() / 4, {}, Qt::SmoothTransformation).toImage().convertToFormat(Format);
+  if (qEnvironmentVariableIsSet("TBK_KEEP_FORMS")) Now.save(Kept);
+  const QImage Then = QImage(Kept).convertToFormat(Format);
+  ASSERT_EQ(Now.size(), Then.size()) << Kept.toStdString();
+  for (qsizetype i = 0; i < Now.sizeInBytes(); ++i) {
+    const qsizetype Row = i / Now.bytesPerLine(), Column = i % Now.bytesPerLine() / 4;
+    ASSERT_NEAR(Now.constBits()[i], Then.constBits()[i], 4) << Kept.toStdString() << ", " << Column << ", " << Row;
+  }
+}
+
 /// Holds what a window says it consists of, a line a part, against what tests/app/forms keeps. A change there is looked
 /// at as one of the source is; TBK_KEEP_FORMS=1 keeps what is found.
 inline void ExpectAsKept(QWidget& Form, const QString& State = {}) {
@@ -66,7 +80,7 @@ inline void ExpectAsKept(QWidget& Form, const QString& State = {}) {
   QString All = Found.join('\n') + '\n';
   for (const QString& Set : {WebSite, SupportMail}) All.replace(Set, QStringLiteral("(set by the build)"));
   const std::string Text = All.toStdString();
-  const QString Kept = QStringLiteral(TBK_FORMS "/%1%2.txt").arg(Form.objectName(), State);
+  QString Kept = QStringLiteral(TBK_FORMS "/%1%2.txt").arg(Form.objectName(), State);
   if (qEnvironmentVariableIsSet("TBK_KEEP_FORMS")) ReplaceFile(Kept, Text.c_str());
   std::string Expected = ReadWholeFile(Kept, 1 << 20).value_or("").toStdString(), Got = Text;
   if (QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)) {  // later toolkits give a radio button another size
@@ -75,6 +89,9 @@ inline void ExpectAsKept(QWidget& Form, const QString& State = {}) {
     }
   }
   EXPECT_EQ(Expected, Got) << Kept.toStdString();
+  if (QT_VERSION < QT_VERSION_CHECK(6, 5, 0) && Form.devicePixelRatioF() == 1) {
+    ExpectSeenAs(Kept.replace(".txt", ".png"), Form);
+  }
 }
 
 /// Every text of a window has the room that it asks for, every stop of the Tab key has a name and shows the focus, and
