@@ -82,7 +82,6 @@ template <typename Action>
 void ComputerPlayers::PlayTurn(bool WaitsWhilePaused, Action Act) {
   constexpr int PauseBeforeAction = 100;  // ms
   const ThisGame Played(m);
-  if (m.Quitting) return;
   t.picTray1.Enabled = false;
   m.TurnOver = false;
   while (MayGoOn()) {

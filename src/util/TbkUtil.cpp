@@ -15,7 +15,6 @@
 #include <QUrl>
 #include <QVersionNumber>
 
-#include <cstdlib>
 #include <memory>
 #include <optional>
 
@@ -90,9 +89,8 @@ TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revis
   Asker->start(asker.isEmpty() ? VersionAsker() : asker, {versionAddress});
   if (Asker->state() != QProcess::NotRunning) Loop.exec(QEventLoop::ExcludeUserInputEvents);
 
-  const bool Answered = Asker->state() == QProcess::NotRunning && Asker->exitStatus() == QProcess::NormalExit &&
-                        Asker->error() == QProcess::UnknownError && Asker->exitCode() == EXIT_SUCCESS &&
-                        Asker->bytesAvailable() <= LongestAnswer;
+  // One that failed has printed nothing.
+  const bool Answered = Asker->state() == QProcess::NotRunning && Asker->bytesAvailable() <= LongestAnswer;
   const auto Newest = Answered ? ParseVersion(Asker->readAll()) : std::nullopt;
   Asker->kill();
   // One that the system doesn't let go at once is left to itself: its object would wait for it.
