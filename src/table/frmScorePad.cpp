@@ -73,7 +73,8 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
     lblScore[i]->setContentsMargins(0, 0, Pixels(1800 + 750 - ScoreEdge), 0);
   }
   UpdateActivePlayer();
-  if (!PlacesWindows()) table->installEventFilter(this);
+  if (PlacesWindows()) return;
+  for (QWidget* Each : {table, static_cast<QWidget*>(this)}) Each->installEventFilter(this);
 }
 
 void frmScorePad::SetPosition() {
@@ -83,18 +84,21 @@ void frmScorePad::SetPosition() {
   const QRect Table = (PlacesWindows() ? table->geometry() : table->rect()) + FrameOf(*table);
   const int Gap = PlacesWindows() ? Pixels(GapToTable) : 0;
   int Left = Table.right() + 1 + Gap;
-  if (Left > table->screen()->geometry().right()) Left = Table.left() - Gap - FramePlace(*this).width();
+  if (PlacesWindows() ? Left > table->screen()->geometry().right() : turned)
+    Left = Table.left() - Gap - FramePlace(*this).width();
   PlaceFrame(*this, {Left, Table.top()});
+  if (!PlacesWindows()) hide();  // it is moved only by being hung up anew
 }
 
-/// What hangs on the table is moved only by being hung up anew, beside the table in its new width.
-bool frmScorePad::eventFilter(QObject* Table, QEvent* Event) {
-  if (Event->type() == QEvent::Resize && isVisible()) {
-    hide();
+/// What hangs on the table goes along with its width, and by a click to its other side: only the compositor knows where
+/// the screen ends, and KWin moves the table away from under it.
+bool frmScorePad::eventFilter(QObject* Of, QEvent* Event) {
+  if (Event->type() == (Of == this ? QEvent::MouseButtonPress : QEvent::Resize) && isVisible()) {
+    turned ^= Of == this;
     SetPosition();
     show();
   }
-  return QWidget::eventFilter(Table, Event);
+  return QWidget::eventFilter(Of, Event);
 }
 
 void frmScorePad::UpdateActivePlayer() {

@@ -34,6 +34,7 @@ class frmScorePad : public QWidget {
 
   const Module1& m;
   QWidget* table;
+  bool turned = false;  ///< it hangs at the left
   FitLabel* lblGoal;
   FitLabel* label_break_in;
   FitLabel* Label2;
