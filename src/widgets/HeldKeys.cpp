@@ -31,16 +31,19 @@ quint32 HeldKeys::PlaceOf(const QKeyEvent& Key) {
 }
 
 void HeldKeys::BecomeStale() {
+  lastDown.insert(pressed.begin(), pressed.end());
   stale.merge(pressed);
   pressed.clear();
   Look();
 }
 
-/// A key that is let go between two windows is let go unseen.
+/// A key that is let go between two windows is let go unseen. When it is up its last repeats may still be on their way:
+/// they have come by the next look.
 void HeldKeys::Look() {
-  const auto Down = KeysDown();
+  auto Down = KeysDown();
   if (!Down) return;
-  std::erase_if(stale, [&](quint32 Key) { return !Down->contains(Key); });
+  std::erase_if(stale, [&](quint32 Key) { return !Down->contains(Key) && !lastDown.contains(Key); });
+  lastDown = *std::move(Down);
   if (!stale.empty()) again.start(LookEvery);
 }
 

@@ -28,9 +28,10 @@ class HeldKeys : public QObject {
   void Look();
 
   const bool marked;
-  std::set<quint32> pressed;  ///< in the window that is active
-  std::set<quint32> stale;    ///< since before it became active
-  QTimer again;               ///< for a look at those, as long as there are any
+  std::set<quint32> pressed;   ///< in the window that is active
+  std::set<quint32> stale;     ///< since before it became active
+  std::set<quint32> lastDown;  ///< at the last look at those
+  QTimer again;                ///< for the next one, as long as there are any
   /// Time of a press that has been offered as a shortcut: it may come once more, as itself.
   std::optional<quint64> offered;
 };
