@@ -38,7 +38,8 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
   setWindowTitle(QStringLiteral(" Score Pad"));
   setAttribute(Qt::WA_ShowWithoutActivating);
   winId();                                      // what it is can only be told of a window that is there
-  setAttribute(Qt::WA_X11NetWmWindowTypeMenu);  // for openbox: with fewer buttons beside the title
+  // For openbox: with fewer buttons beside the title. Weston would give it the focus, and leave it there.
+  setAttribute(Qt::WA_X11NetWmWindowTypeMenu, !qEnvironmentVariableIsSet("WAYLAND_DISPLAY"));
   RefuseFocus(*this);
   SetColours(*this, {{QPalette::Window, FormBlue}});
   setAutoFillBackground(true);
