@@ -32,6 +32,7 @@ TEST(Help, ContentsGoToTheHeadingsAndLinksOutward) {
     const QString Heading = Window.Page.cursorForPosition({30, 16}).block().text();
     const QScrollBar& Bar = *Window.Page.verticalScrollBar();
     EXPECT_TRUE(Heading == (*Entry)->text(0) || Bar.value() == Bar.maximum()) << Heading.toStdString();
+    EXPECT_EQ(Window.Page.textCursor().block().text(), (*Entry)->text(0)) << "a reader goes on from there";
   }
   const Answers Next;
   Lines Told;
