@@ -66,7 +66,7 @@ TEST_F(Playing, EveryWayOutInsideEveryOtherLeavesTheTableOrEndsTheProgram) {
        }},
       {"a computer's turn", "2222",  // which goes on until the program ends
        [&](const Step& Out, char) {
-         const auto OutSoon = [&] { QTimer::singleShot(3, Run->Form.get(), Out); };
+         const auto OutSoon = [&] { QTimer::singleShot(30, Run->Form.get(), Out); };
          Within(&GameBox::cmdNo, OutSoon);
          Next.Press(&GameBox::cmdYes);
          OutSoon();
@@ -135,6 +135,13 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   Run->Controls.ShowLastRoll();
   Form.ShowControls();
   ExpectAsKept(Form, "-last-turn");
+  Next.Press(&GameBox::cmdYes);
+  Next.Expect<frmNewGame>([&](frmNewGame& Dialog) {
+    EXPECT_TRUE(Form.ARCmdNewGame->isVisible()) << "behind a dialog the table stands as the game has it";
+    Dialog.reject();
+  });
+  Key(Qt::Key_F2);
+  Begin(3, false);
   QEvent Quit(QEvent::Quit);  // told to die by the system
   QSpontaneKeyEvent::setSpontaneous(&Quit);
   qApp->notify(qApp, &Quit);

@@ -5,6 +5,7 @@
 #include "widgets/Fonts.h"
 #include "widgets/FormBuilder.h"
 #include "widgets/Materials.h"
+#include "widgets/PlacedDialog.h"
 
 namespace blunko::test {
 
@@ -46,6 +47,12 @@ TEST_F(ScorePad, StandsAtTheLeftWhereTheRightHasNoRoomAndHoldsItsSeats) {
   EXPECT_TRUE(Pad.rect().contains(Label("lblScore(7)")->geometry()));
   EXPECT_EQ(Form.frameGeometry().left() - Pad.frameGeometry().right(), 13) << "px, one more than lie between";
   EXPECT_TRUE(Screen.contains(Pad.frameGeometry()));
+  for (const QPoint Corner : {Screen.bottomRight(), Screen.topLeft() - QPoint(300, 500)}) {
+    PlacedDialog Box(&Form, "box", "over a table that is partly off the screen");
+    Form.move(Corner);
+    Box.show();
+    EXPECT_TRUE(Screen.contains(Box.frameGeometry()));
+  }
 }
 
 /// On a ground of the same colour.
