@@ -81,7 +81,6 @@ bool Application::Main() {
     SurveyHardware(Settings, Screen, Util);
     if (!CheckForUpdate(Screen, Util)) return false;
   }
-  State.Quitting = false;
   Uniform = UniformGenerator(static_cast<std::uint64_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000));
   State.PauseComputer = false;
   State.TempFolder = folders.Temp.toStdString();

@@ -44,9 +44,10 @@ TEST(Help, ContentsGoToTheHeadingsAndLinksOutward) {
 }
 
 TEST(Help, FindsOnFromPageToPageAndRoundAgain) {
-  // what is wanted, F3 (n) and Shift+F3 (p), the page that comes up, and the hit's place on it, 0 without one
+  // what is wanted, Return (r), F3 (n) and Shift+F3 (p), the page that comes up, and the hit's place on it, 0 without
+  // one
   const std::tuple<const char*, const char*, const char*, const char*, int> Rows[] = {
-      {"PlayingBlunko.htm", "STRAIGHT", "nn", "PlayingBlunko.htm", 2},
+      {"PlayingBlunko.htm", "STRAIGHT", "rn", "PlayingBlunko.htm", 2},
       {"PlayingBlunko.htm", "blunko", "nnp", "PlayingBlunko.htm", 1},
       {"Overview.htm", "cousins", "n", "StrategyAndHints.htm", 1},  // on an earlier page
       {"Overview.htm", "Ctrl+F", "nnn", "Overview.htm", 1},         // once only: round to itself
@@ -59,12 +60,15 @@ TEST(Help, FindsOnFromPageToPageAndRoundAgain) {
     QTest::keyClick(&Window.Help, Qt::Key_F, Qt::ControlModifier);
     QTest::keyClicks(Window.Help.focusWidget(), QLatin1String(Text));
     for (const char Key : std::string_view(Keys)) {
-      QTest::keyClick(Window.Help.txtFind, Qt::Key_F3, Key == 'p' ? Qt::ShiftModifier : Qt::NoModifier);
+      QTest::keyClick(Window.Help.txtFind, Key == 'r' ? Qt::Key_Return : Qt::Key_F3,
+                      Key == 'p' ? Qt::ShiftModifier : Qt::NoModifier);
     }
     EXPECT_EQ(Window.Shown(), QLatin1String(Page));
     EXPECT_EQ(Window.Help.lblFound->text().isEmpty(), Place > 0);
     const QString Before = Window.Page.toPlainText().left(Window.Page.textCursor().selectionEnd());
     EXPECT_EQ(Before.count(QLatin1String(Text), Qt::CaseInsensitive), Place);
+    Window.Help.ShowTopic(QStringLiteral("HighRollers.htm"));
+    EXPECT_EQ(Window.Help.lblFound->text(), QString()) << "another page";
   }
 }
 

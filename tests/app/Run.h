@@ -57,7 +57,7 @@ inline void ExpectSeenAs(const QString& Kept, QWidget& Form) {
   ASSERT_EQ(Now.size(), Then.size()) << Kept.toStdString();
   for (qsizetype i = 0; i < Now.sizeInBytes(); ++i) {
     const qsizetype Row = i / Now.bytesPerLine(), Column = i % Now.bytesPerLine() / 4;
-    ASSERT_NEAR(Now.constBits()[i], Then.constBits()[i], 8) << Kept.toStdString() << ", " << Column << ", " << Row;
+    ASSERT_NEAR(Now.constBits()[i], Then.constBits()[i], 4) << Kept.toStdString() << ", " << Column << ", " << Row;
   }
 }
 

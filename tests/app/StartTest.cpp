@@ -127,12 +127,16 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   Roll(30, {1, 1, 5, 2, 3, 4});
   ExpectAsKept(Form, "-turn");
   ExpectAsKept(*Form.findChild<frmScorePad*>());
+  Run->Controls.Busted = true;  // lost dice are pale, samples aren't
   Click(Form.cmdOptions);
   ExpectAsKept(Form, "-options");
   Key(Qt::Key_Escape);
   Roll(35, {1, 2, 3, 4, 5});
   Run->Controls.lblLastRoll.Caption = "(Last Roll - Need 5050 To Win)";
   Run->Controls.ShowLastRoll();
+  Run->Controls.Busted = true;
+  Form.Wears.TextColour = 0x0000FF;
+  for (QWidget* Part : Form.findChildren<QWidget*>()) Part->setAttribute(Qt::WA_UnderMouse);
   Form.ShowControls();
   ExpectAsKept(Form, "-last-turn");
   Next.Press(&GameBox::cmdYes);

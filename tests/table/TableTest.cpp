@@ -197,18 +197,6 @@ TEST(KeyCodes, CountByThePlaceOnlyWhereThePlacesAreKnown) {
   }
 }
 
-TEST_F(TheTable, LostDiceArePaleAndSamplesAreNot) {
-  Begin({"Ann", "Bob"});
-  PressRoll({1, 2, 3, 4, 6, 6});
-  const QImage Found = Box(0)->grab().toImage();
-  t.Busted = true;
-  for (const bool Sample : {false, true}) {
-    Form.Wears.Covered = Sample;
-    Form.ShowControls();
-    EXPECT_EQ(Box(0)->grab().toImage() == Found, Sample);
-  }
-}
-
 TEST_F(TheTable, AllOfItIsReachedOnALowScreen) {
   const QRect Screen = Form.screen()->availableGeometry();
   Form.setFixedSize(Form.width(), Screen.height() + 100);
