@@ -6,9 +6,6 @@
 
 namespace blunko {
 
-/// A reader asks for the words some time after it has heard that there are some, and others may have come by then.
-constexpr std::chrono::seconds TimeToAsk{30};
-
 Announcer::Announcer(QWidget* Table) : QWidget(Table) {
   setObjectName(QStringLiteral("announcer"));
   setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -38,7 +35,9 @@ void Announcer::Answer(const QString& Text, [[maybe_unused]] bool Interrupts) {
   if (Interrupts) Event.setPoliteness(QAccessible::AnnouncementPoliteness::Assertive);
   QAccessible::updateAccessibility(&Event);
 #else
-  // A notification that comes up is read out: an event alone isn't passed on.
+  // A notification that comes up is read out: an event alone isn't passed on. A reader asks for the words some time
+  // after it has heard that there are some, and others may have come by then.
+  constexpr std::chrono::seconds TimeToAsk{30};
   auto* Note = new QWidget(this);
   Note->setAccessibleName(Text);
   Note->show();

@@ -119,9 +119,9 @@ void Application::LoadForm() {
   Screen.ShowOn(*Form);
 }
 
-bool Application::eventFilter(QObject* Of, QEvent* Event) {
+bool Application::eventFilter(QObject* Receiver, QEvent* Event) {
   if (Event->type() == QEvent::PlatformSurface && !PlacesWindows()) {
-    if (auto* W = qobject_cast<QWindow*>(Of); W != nullptr && W->handle() != nullptr) LetGrow(*W);
+    if (auto* W = qobject_cast<QWindow*>(Receiver); W != nullptr && W->handle() != nullptr) LetGrow(*W);
   }
   if (Event->type() != QEvent::Quit || !Event->spontaneous()) return false;
   Table.End();

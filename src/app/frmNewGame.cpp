@@ -112,7 +112,6 @@ QLayout* frmNewGame::BuildSeats() {
 void frmNewGame::BuildSeat(int Index) {
   const QString Number = QString::number(Index);
   QLineEdit* Name = TxtPlayerName[Index] = Make<QLineEdit>(this, "TxtPlayerName" + Number);
-  Name->setMaxLength(LongestName);
   Name->setValidator(new NameValidator(Name, LongestName));
   Name->installEventFilter(this);
   chkComputer[Index] = Make<QCheckBox>(this, "chkComputer" + Number);

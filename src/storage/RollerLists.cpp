@@ -44,7 +44,8 @@ void Insert(RollerList& List, const HighRoller& Entry) {
 }
 
 RollerLists RollerLists::Default() {
-  return OfText(QString::fromUtf8(DefaultEntries).replace(QLatin1Char('|'), LineEnd).toLatin1()).value();
+  return OfText(QString::fromUtf8(DefaultEntries).replace(QLatin1Char('|'), LineEnd).toLatin1())
+      .value_or(RollerLists());
 }
 
 std::optional<RollerLists> RollerLists::OfText(const QByteArray& Text) {

@@ -7,9 +7,7 @@
 
 namespace blunko {
 
-Swatch::Swatch(const QColor& Colour, QWidget* Parent) : QAbstractButton(Parent), colour(Colour) {
-  setCheckable(true);
-}
+Swatch::Swatch(const QColor& Colour, QWidget* Parent) : QAbstractButton(Parent), colour(Colour) { setCheckable(true); }
 
 void Swatch::paintEvent(QPaintEvent*) {
   QPainter Painter(this);

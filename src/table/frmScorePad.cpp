@@ -37,7 +37,7 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
   setObjectName(QStringLiteral("frmScorePad"));
   setWindowTitle(QStringLiteral(" Score Pad"));
   setAttribute(Qt::WA_ShowWithoutActivating);
-  winId();                                      // what it is can only be told of a window that is there
+  winId();  // what it is can only be told of a window that is there
   // For openbox: with fewer buttons beside the title. Weston would give it the focus, and leave it there.
   setAttribute(Qt::WA_X11NetWmWindowTypeMenu, !qEnvironmentVariableIsSet("WAYLAND_DISPLAY"));
   RefuseFocus(*this);

@@ -25,7 +25,7 @@ class frmScorePad : public QWidget {
   void UpdateActivePlayer();
 
  protected:
-  bool eventFilter(QObject* Table, QEvent* Event) override;
+  bool eventFilter(QObject* Of, QEvent* Event) override;
   void showEvent(QShowEvent* Event) override;
   void paintEvent(QPaintEvent* Event) override;
 

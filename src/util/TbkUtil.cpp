@@ -15,7 +15,6 @@
 #include <QUrl>
 #include <QVersionNumber>
 
-#include <memory>
 #include <optional>
 
 #include "storage/FileAccess.h"
@@ -77,14 +76,14 @@ void TbkUtil::UtilSurveyHardware() const {
 TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revision) const {
   const QUrl Address(versionAddress);
   if (Address.scheme() != QLatin1String("http") && Address.scheme() != QLatin1String("https")) return VersionError;
-  auto Asker = std::make_unique<QProcess>();
+  auto* const Asker = new QProcess;
   Asker->setStandardErrorFile(QProcess::nullDevice());
   QEventLoop Loop;
   const auto Look = [&] {
     if (Asker->state() == QProcess::NotRunning || Asker->bytesAvailable() > LongestAnswer) Loop.quit();
   };
-  QObject::connect(Asker.get(), &QProcess::stateChanged, &Loop, Look);
-  QObject::connect(Asker.get(), &QProcess::readyRead, &Loop, Look);
+  QObject::connect(Asker, &QProcess::stateChanged, &Loop, Look);
+  QObject::connect(Asker, &QProcess::readyRead, &Loop, Look);
   QTimer::singleShot(timeLimit, Qt::PreciseTimer, &Loop, &QEventLoop::quit);
   Asker->start(asker.isEmpty() ? VersionAsker() : asker, {versionAddress});
   if (Asker->state() != QProcess::NotRunning) Loop.exec(QEventLoop::ExcludeUserInputEvents);
@@ -94,7 +93,7 @@ TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revis
   const auto Newest = Answered ? ParseVersion(Asker->readAll()) : std::nullopt;
   Asker->kill();
   // One that the system doesn't let go at once is left to itself: its object would wait for it.
-  if (Asker->state() != QProcess::NotRunning && !Asker->waitForFinished(LongestEnd)) static_cast<void>(Asker.release());
+  if (Asker->state() == QProcess::NotRunning || Asker->waitForFinished(LongestEnd)) delete Asker;
   if (!Newest) return VersionError;
   return *Newest > QVersionNumber(Major, Minor, Revision) ? NewerExists : UpToDate;
 }

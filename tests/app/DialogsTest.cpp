@@ -161,9 +161,9 @@ TEST_F(TheProgram, GreetsOnceAndTheHelpOutlivesTheWelcomeAndGoesWithTheGame) {
   Run->Form->show();
   QTest::qWait(60);
   Run->ShowHelpTopic(QStringLiteral("Overview.htm"));
-  std::set<QByteArray> Sounds;
+  std::set Sounds{Folder.Get("temp/" + QString(OutSound.File))};
   for (const SoundEvent& Sound : SoundEvents) Sounds.insert(Folder.Get("temp/" + QString(Sound.File)));
-  EXPECT_TRUE(Sounds.size() == SoundEvents.size() && Sounds.begin()->startsWith("RIFF")) << "each has its own";
+  EXPECT_TRUE(Sounds.size() == SoundEvents.size() + 1 && Sounds.begin()->startsWith("RIFF")) << "each has its own";
   Run->Settings.SoundDisabled = true;
   for (const bool IsTest : {false, true}) {  // which alone is heard
     Run->Screen.PlaySoundFile(Run->State.TempFolder + "undo.wav", IsTest);
