@@ -124,6 +124,7 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
     Click(Form.cmdRoll);
     Key(Qt::Key_1);
   };
+  Form.Wears.TextColour = 0x1800B0;  // letters with a hint of a shadow
   Roll(30, {1, 1, 5, 2, 3, 4});
   ExpectAsKept(Form, "-turn");
   ExpectAsKept(*Form.findChild<frmScorePad*>());
