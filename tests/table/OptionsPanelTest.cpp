@@ -164,6 +164,24 @@ TEST(OptionsPanel, DiceOfARunningGameComeBackInTheChosenSetWithTheChosenMarks) {
   }
 }
 
+TEST(OptionsPanel, OpensAtTheLeftOfATableThatStaysAndAPressOfBeforeIsNobodys) {
+  DressedTable Dressed("");
+  frmMain& Form = Dressed.Form;
+  const QRect Before = Form.geometry();
+  Form.cmdOptions->click();
+  EXPECT_EQ(Form.geometry(), Before.adjusted(-126, 0, 0, 0));
+  const QPointF Cancel = Dressed.Panel->ARCmdCancelOptions->mapTo(&Form, QPointF(9, 9));
+  for (const int Off : {126, 0}) {  // px, the place on the screen from the place in the window
+    for (const auto Type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+      QMouseEvent Event(Type, Cancel, Cancel, Form.mapToGlobal(Cancel) + QPointF(Off, 0), Qt::LeftButton,
+                        Type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, {});
+      qApp->notify(Form.windowHandle(), &Event);
+    }
+    EXPECT_EQ(Dressed.m.PauseComputer, Off != 0);
+  }
+  EXPECT_EQ(Form.geometry(), Before);
+}
+
 TEST(OptionsPanel, APictureThatIsNoneLeavesThePlainTableAndOneThatVanishedIsReplaced) {
   DressedTable Dressed("");
   OptionsPanel& Panel = *Dressed.Panel;
