@@ -21,7 +21,7 @@ void TellNoWayIn(QtMsgType Type, const QMessageLogContext&, const QString&) {
   if (Type != QtFatalMsg) return;
   constexpr const char* Told = "Tollmoor Blunko finds no screen to show its table on.";
   std::fprintf(stderr, "%s\n", Told);
-  if (isatty(STDERR_FILENO) == 0) execlp("notify-send", "notify-send", Told, nullptr);
+  if (isatty(STDERR_FILENO) == 0 && fork() == 0) execlp("notify-send", "notify-send", Told, nullptr);
   std::_Exit(EXIT_FAILURE);
 }
 

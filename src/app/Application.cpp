@@ -33,10 +33,6 @@ namespace {
 
 constexpr int LaterStartsPerVersionCheck = 5;
 
-std::int16_t To16Bits(int LogicalPixels) {
-  return static_cast<std::int16_t>(std::clamp<int>(LogicalPixels, INT16_MIN, INT16_MAX));
-}
-
 /// From pictures, not from the drawing, and none larger than windows show: that would cost a tenth of the start.
 QList<QImage> IconPictures() {
   QList<QImage> All;
@@ -98,7 +94,7 @@ void Application::LoadForm() {
   Form = std::make_unique<frmMain>(Table, Clothes);
   speaker = new Announcer(Form.get());
   Form->ShowControls();
-  CentreFrame(*Form, Form->screen()->geometry());
+  CentreFrame(*Form);
   Rollers.LoadHighRollers();
 
   // The end of the session can be stopped only when it is asked for; later the program is told to end.
@@ -110,7 +106,7 @@ void Application::LoadForm() {
   On(&frmMain::handled, [this] { news.Tell(*Form); });
   On(&frmMain::minimised, [this] { Form_Resize(); });
   On(&frmMain::scorePadAsked, [this] {
-    if (State.ScorePadShown) ScorePad().show();
+    if (State.ScorePadShown) ScorePad().showNormal();
   });
   On(&frmMain::highRollersAsked, [this] { ViewLists(); });
   On(&frmMain::howToPlayAsked, [this] { ShowHelpTopic(QStringLiteral("PlayingBlunko.htm")); });
@@ -130,7 +126,7 @@ bool Application::eventFilter(QObject* Receiver, QEvent* Event) {
 
 /// The table has come up. It is put right where the manager hadn't told the frame, and a newcomer is greeted.
 void Application::Form_Activate() {
-  CentreFrame(*Form, Form->screen()->geometry());
+  CentreFrame(*Form);
   if (!Settings.ShowWelcome || !State.FirstActivate) return;
   State.FirstActivate = false;
   frmWelcome Welcome(InfoFile, Screen, Form.get());
@@ -151,12 +147,12 @@ void Application::Form_Resize() {
   if (State.ResizeBlocked || !State.ScorePadShown) return;
   frmScorePad& Pad = ScorePad();
   if (Form->isMinimized()) {
-    const QPoint Corner = FramePlace(Pad).topLeft();
-    State.ScorePadLeft = To16Bits(Corner.x());
-    State.ScorePadTop = To16Bits(Corner.y());
+    const QPoint Corner = Pad.geometry().topLeft();
+    State.ScorePadLeft = static_cast<std::int16_t>(Corner.x());
+    State.ScorePadTop = static_cast<std::int16_t>(Corner.y());
     Pad.hide();
   } else {
-    PlaceFrame(Pad, {State.ScorePadLeft, State.ScorePadTop});
+    PlaceInside(Pad, {State.ScorePadLeft, State.ScorePadTop});
     Pad.showNormal();  // the window manager has minimised it too, and would take the table along once more
   }
 }
@@ -200,7 +196,7 @@ void Application::UpdateActivePlayer() {
 void Application::ShowScorePad() {
   frmScorePad& Pad = ScorePad();
   Pad.SetPosition();
-  Pad.show();
+  Pad.showNormal();  // KWin lets it be minimised
   Pad.raise();
 }
 

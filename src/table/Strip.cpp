@@ -14,7 +14,7 @@ namespace blunko {
 
 namespace {
 
-constexpr int Settling = 1000;  // ms
+constexpr int Settling = 1000, SoonestDrag = 500;  // ms
 
 }  // namespace
 
@@ -55,7 +55,8 @@ void Strip::SetWidth(int Width, const QImage& Whole) {
 }
 
 bool Strip::eventFilter(QObject* Window, QEvent* Event) {
-  if (Event->type() == QEvent::Move && !settling.hasExpired()) opened = PlaceOnServer(form).topLeft();
+  if (Event->type() == QEvent::Move && settling.remainingTime() > Settling - SoonestDrag)
+    opened = PlaceOnServer(form).topLeft();
   const auto* const Mouse = dynamic_cast<QMouseEvent*>(Event);
   if (Mouse == nullptr) return false;
   if (Mouse->isBeginEvent()) {

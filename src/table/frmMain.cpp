@@ -23,6 +23,8 @@ namespace {
 
 QColor OfBgr(std::uint32_t Colour) { return QColor(Colour & 0xFF, (Colour >> 8) & 0xFF, (Colour >> 16) & 0xFF); }
 
+constexpr int LongestAnswer = 1000;  // ms, of a window manager
+
 }  // namespace
 
 frmMain::frmMain(Game& Table, Dress Clothes) : Wears(std::move(Clothes)), game(Table), focus(*this) {
@@ -170,7 +172,7 @@ bool frmMain::event(QEvent* Event) {
 }
 
 bool frmMain::eventFilter(QObject* Tray, QEvent* Event) {
-  if (Event->type() == QEvent::Paint) {  // the first one: only now the window manager has done with the window
+  if (Event->type() == QEvent::Paint) {  // the first one: the window is there
     Tray->removeEventFilter(this);
     QTimer::singleShot(0, this, [this] { Command([this] { emit firstShown(); }); });
   }
@@ -178,9 +180,12 @@ bool frmMain::eventFilter(QObject* Tray, QEvent* Event) {
 }
 
 /// Wayland's compositors send sizes that nobody wanted, KWin the one before the options were opened; icewm any that a
-/// tool asks for.
-void frmMain::resizeEvent(QResizeEvent*) {
-  if (isMaximized() || isFullScreen()) return;
+/// tool asks for. I3 insists on its tile: nobody asks it for ever.
+void frmMain::resizeEvent(QResizeEvent* Event) {
+  const bool IsOurs = minimumSize() != maximumSize() || Event->size() == minimumSize();
+  if (isMaximized() || isFullScreen() || IsOurs) return;
+  if (std::exchange(unwanted, Event->size()) == Event->size() && !asked.hasExpired()) return;
+  asked.setRemainingTime(LongestAnswer);
   QTimer::singleShot(0, this, [this] { resize(minimumSize()); });
 }
 

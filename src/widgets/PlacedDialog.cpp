@@ -29,13 +29,13 @@ void Put(QWidget& Window, QPoint Corner) {
 template <typename Putting>
 void PutAndRemind(QWidget& Window, Putting Run) {
   constexpr QLatin1String Name("reminder");
-  constexpr std::chrono::milliseconds LookEvery{40}, Settling{500};  // later it is moved by the player
+  constexpr std::chrono::milliseconds LookEvery{40}, Settling{500};  // later it is the player's
   delete Window.findChild<QTimer*>(Name, Qt::FindDirectChildrenOnly);
   Run();
   auto* Again = new QTimer(&Window);
   Again->setObjectName(Name);
   Again->callOnTimeout([&Window, Run, Size = Window.size()] {
-    if (Window.size() == Size) Run();
+    if (Window.size() == Size && Window.isVisible() && !Window.isMinimized()) Run();
   });
   Again->start(LookEvery);
   QTimer::singleShot(Settling, Again, &QObject::deleteLater);
@@ -77,12 +77,16 @@ void PlaceFrame(QWidget& Window, QPoint Corner) {
   PutAndRemind(Window, [&Window, Corner] { Put(Window, Corner); });
 }
 
-void CentreFrame(QWidget& Window, const QRect& Place) {
-  PutAndRemind(Window, [&Window, Place] {
+void PlaceInside(QWidget& Window, QPoint Corner) {
+  PutAndRemind(Window, [&Window, Corner] { Window.setGeometry(QRect(Corner, Window.size())); });
+}
+
+void CentreFrame(QWidget& Window, const QWidget* Owner) {
+  PutAndRemind(Window, [&Window, Owner] {
     QRect Frame(QPoint(), Window.size().grownBy(FrameOf(Window)));
-    Frame.moveCenter(Place.center());
-    const QScreen* const There = QGuiApplication::screenAt(Place.center());
-    const QRect Screen = (There == nullptr ? Window.screen() : There)->availableGeometry();
+    const QScreen& There = *(Owner == nullptr ? &Window : Owner)->screen();
+    Frame.moveCenter((Owner == nullptr ? There.geometry() : FramePlace(*Owner)).center());
+    const QRect Screen = There.availableGeometry();
     Frame.moveRight(qMin(Frame.right(), Screen.right()));
     Frame.moveBottom(qMin(Frame.bottom(), Screen.bottom()));
     Put(Window, QPoint(qMax(Frame.left(), Screen.left()), qMax(Frame.top(), Screen.top())));
@@ -132,9 +136,7 @@ void PlacedDialog::setVisible(bool Visible) {
   QDialog::setVisible(Visible);
 }
 
-void PlacedDialog::Place() {
-  CentreFrame(*this, parentWidget() == nullptr ? screen()->availableGeometry() : FramePlace(*parentWidget()->window()));
-}
+void PlacedDialog::Place() { CentreFrame(*this, parentWidget() == nullptr ? nullptr : parentWidget()->window()); }
 
 /// KWin and openbox have a button for it, whatever is asked for, and would take the owner along.
 void PlacedDialog::changeEvent(QEvent* Event) {

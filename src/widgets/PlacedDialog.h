@@ -9,7 +9,7 @@ class QWindow;
 
 namespace blunko {
 
-// Frames are reckoned here alone. What the toolkit tells of the frame of a window that has never been shown isn't true,
+// Frames are told here alone. What the toolkit tells of the frame of a window that has never been shown isn't true,
 // and how it means a corner changes then: the place of the inside holds always.
 
 /// Whether a window can be put anywhere: Wayland places only what hangs on another window.
@@ -26,8 +26,10 @@ void FixSize(QWidget& Window, QSize Size);
 void LetGrow(QWindow& Window);
 /// Puts a window, shown or not, where the corner of its frame belongs on the screen. Its size is final.
 void PlaceFrame(QWidget& Window, QPoint Corner);
-/// Puts a window with its frame in the middle of a place on the screen, and moves it in where the screen ends.
-void CentreFrame(QWidget& Window, const QRect& Place);
+/// Puts a window that has been shown so that the corner of its inside lies there, whatever frame it had or gets.
+void PlaceInside(QWidget& Window, QPoint Corner);
+/// Puts a window with its frame in the middle of its owner's, or of the screen, and moves it in where the screen ends.
+void CentreFrame(QWidget& Window, const QWidget* Owner = nullptr);
 /// On a screen that is lower than a window with its frame: moves it up and down, so that all of it can be reached.
 void ShiftOnLowScreen(QWidget& Window, int Down);
 /// Moves it so that what has the focus is seen.

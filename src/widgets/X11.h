@@ -13,7 +13,7 @@ namespace blunko {
 /// What only an X server and its window manager can be asked for. On other platforms nothing happens.
 
 /// The frame of a window that is shown: now, while the toolkit may still tell what it was before the manager had done
-/// with it. Only i3 leaves it to the toolkit.
+/// with it. Without a property, as on i3, the toolkit's.
 QMargins FrameTold(const QWidget& Window);
 
 /// Takes the offer back that the toolkit makes for every window: awesome gives the focus to whatever offers to take it.
