@@ -112,6 +112,7 @@ QLayout* frmNewGame::BuildSeats() {
 void frmNewGame::BuildSeat(int Index) {
   const QString Number = QString::number(Index);
   QLineEdit* Name = TxtPlayerName[Index] = Make<QLineEdit>(this, "TxtPlayerName" + Number);
+  Name->setMaxLength(LongestName);  // a letter more in its midst is refused, the validator would drop the last one
   Name->setValidator(new NameValidator(Name, LongestName));
   Name->installEventFilter(this);
   chkComputer[Index] = Make<QCheckBox>(this, "chkComputer" + Number);
