@@ -77,7 +77,7 @@ Request Parse(int Count, char** Arguments) {
       for (const char* Rest = Value; *Rest != '\0';) {
         const std::string Word(Rest, std::string(Rest).find(',') == std::string::npos ? std::string(Rest).size()
                                                                                       : std::string(Rest).find(','));
-        if (StyleOfWord(Word) == 0) Usage();
+        if (std::ranges::find(StyleWords, Word) == StyleWords.end()) Usage();
         Asked.Seats.push_back(Word);
         Rest += Word.size();
         if (*Rest == ',') ++Rest;
@@ -151,8 +151,10 @@ class Match : public QuietProgram {
     setup.NumPlayers = static_cast<std::uint8_t>(Asked.Seats.size());
     setup.PlayToScore = static_cast<std::int16_t>(Asked.PlayTo);
     setup.BreakInScore = static_cast<std::int16_t>(Asked.BreakIn);
-    for (std::size_t i = 0; i < Asked.Seats.size(); ++i)
-      setup.Seats[i] = {Asked.Seats[i], true, StyleOfWord(Asked.Seats[i])};
+    for (std::size_t i = 0; i < Asked.Seats.size(); ++i) {
+      const auto Style = std::ranges::find(StyleWords, Asked.Seats[i]) - StyleWords.begin() + 1;
+      setup.Seats[i] = {Asked.Seats[i], true, static_cast<std::uint8_t>(Style)};
+    }
   }
 
   const Counts& Play(long Games) {

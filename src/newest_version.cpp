@@ -17,7 +17,7 @@ constexpr qint64 LongestText = 64;  // bytes
 constexpr int MostRedirects = 3;
 constexpr int LongestLife = 60'000;  // ms, when nobody waits any more
 
-/// At once: Qt would wait for the network.
+/// Ends the program without its destructors: those of the network wait for an answer that may never come.
 [[noreturn]] void End(int Result) {
   std::fflush(stdout);
   std::_Exit(Result);

@@ -41,8 +41,6 @@ class frmCredits : public PlacedDialog {
   /// The credits as they scroll: blocks of lines with an empty line between them.
   static QString CreditsText();
 
-  bool IsScrolling() const { return steps.isActive(); }
-
   QLabel* Label1;
   ScrollBox* picScroll;
   ButtonPlus* cmdOK;

@@ -74,17 +74,13 @@ void ComputerPlayers::Pass() {
 void ComputerPlayers::ClickDie(int Position) {
   if (!MayGoOn()) return;
   game.Picture1_MouseUp(static_cast<std::int16_t>(Position), LeftButton, 0, 100.0F, 100.0F);
-  PauseAfterClick();
+  const int Speed = Settings.ComputerSpeed;
+  if (Speed < SpeedRidiculous) desktop.Sleep(Speed == SpeedNormal ? 200 : 100);
 }
 
 void ComputerPlayers::MarkAndClick(int Position) {
   m.BotTake[Position] = true;
   ClickDie(Position);
-}
-
-void ComputerPlayers::PauseAfterClick() {
-  const int Speed = Settings.ComputerSpeed;
-  if (Speed < SpeedRidiculous) desktop.Sleep(Speed == SpeedNormal ? 200 : 100);
 }
 
 void ComputerPlayers::FindLeader() {

@@ -61,7 +61,6 @@ class ComputerPlayers : public ComputerSeats {
   void ClickDie(int Position);
   void MarkAndClick(int Position);
 
-  void PauseAfterClick();
   void FindLeader();
   bool PumpAndGoOn();
   bool MayGoOn() const { return !m.Quitting && !m.TurnOver; }

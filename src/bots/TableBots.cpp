@@ -95,10 +95,7 @@ void ComputerPlayers::TakeAll(bool ClickEmptyToo) {
 
 bool ComputerPlayers::TakeFirst(const Word& Code) {
   for (int i = 0; i < Dice; ++i) {
-    if (m.DieScoreCode[i] == Code && !m.BotTake[i]) {
-      MarkAndClick(i);
-      return true;
-    }
+    if (m.DieScoreCode[i] == Code && !m.BotTake[i]) return MarkAndClick(i), true;
   }
   return false;
 }

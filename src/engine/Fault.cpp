@@ -37,7 +37,6 @@ struct Lying {
 
 Lying WhatLiesWhere(Demands& Demand, const Module1& m, const TableControls& t, bool Running) {
   Lying Counted;
-  bool Gap = false;
   for (int i = 0; i < Dice; ++i) {
     Counted.Up += m.DieUp[i];
     Counted.InTray += t.Picture1(10 + i) != 0;
@@ -45,8 +44,7 @@ Lying WhatLiesWhere(Demands& Demand, const Module1& m, const TableControls& t, b
     Demand((t.Picture1(i) != 0) == (m.ShownFace[i] != 0), "a table picture is the face that is noted as shown");
     Demand((t.Picture1(10 + i) != 0) == (m.TrayFace[i] != 0), "a tray picture is the face that is noted in the tray");
     Demand(m.TrayFace[i] >= 0 && m.TrayFace[i] <= 6, "a face in the tray is 1 to 6");
-    if (t.Picture1(10 + i) == 0) Gap = true;
-    Demand(!(Gap && t.Picture1(10 + i) != 0), "the tray has no gap");
+    Demand(i == 0 || t.Picture1(10 + i) == 0 || t.Picture1(9 + i) != 0, "the tray has no gap");
     if (Running) {
       Demand(m.ShownFace[i] == (m.DieUp[i] ? m.DieFace[i] : 0), "exactly the dice that are up are shown");
       Demand(!m.DieUp[i] || (m.DieFace[i] >= 1 && m.DieFace[i] <= 6), "a die that is up has a face");

@@ -12,13 +12,6 @@ namespace blunko {
 /// The words of the styles, by their numbers less 1.
 inline constexpr std::array<std::string_view, 7> StyleWords{"Normal", "Cautious", "Fearless", "Simple",
                                                             "Random", "Genius",   "Moron"};
-/// The number of the style with this word; 0 if there is none.
-constexpr std::uint8_t StyleOfWord(std::string_view Word) {
-  for (std::size_t i = 0; i < StyleWords.size(); ++i) {
-    if (StyleWords[i] == Word) return static_cast<std::uint8_t>(i + 1);
-  }
-  return 0;
-}
 
 /// Seats and scores of a game, as the new game dialog hands them over and saves them.
 struct GameSetup {

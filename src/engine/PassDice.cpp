@@ -35,10 +35,7 @@ void Game::cmdPassDice_Click() {
   desktop.Refresh();
   t.lblPlayer.Caption = m.PlayerName[m.CurrentPlayer];
 
-  if (m.CurrentPlayer == m.OutPlayer) {
-    EndGame();
-    return;
-  }
+  if (m.CurrentPlayer == m.OutPlayer) return EndGame();
 
   t.lblLastRoll.Caption = "(Last Roll - Need ";
   t.lblLastRoll.Caption += std::to_string(PointsNeeded());

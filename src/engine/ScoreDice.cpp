@@ -38,14 +38,8 @@ void Game::ScoreDice(std::uint8_t NumDiceUp) {
   }
   const auto Faces = [&Count](auto Test) { return std::all_of(Count.begin() + 1, Count.end(), Test); };
 
-  if (NumDiceUp == Dice && Faces([](int n) { return n == 1; })) {
-    m.DieScoreCode.fill(Straight);
-    return;
-  }
-  if (NumDiceUp == Dice && Faces([](int n) { return n == 0 || n == 2; })) {
-    m.DieScoreCode.fill(ThreePairs);
-    return;
-  }
+  if (NumDiceUp == Dice && Faces([](int n) { return n == 1; })) return m.DieScoreCode.fill(Straight);
+  if (NumDiceUp == Dice && Faces([](int n) { return n == 0 || n == 2; })) return m.DieScoreCode.fill(ThreePairs);
   for (int i = 0; i < Dice; ++i) {
     const int Face = m.DieFace[i];
     if (Face == Absent) {

@@ -44,10 +44,7 @@ void Game::picTray2_MouseUp(std::int16_t Button, std::int16_t Shift, float X, fl
 void Game::TakeClickedDice(int Index) {
   const Word Code = m.DieScoreCode[Index];
   if (!m.DieUp[Index]) return;
-  if (Code == NoScore) {
-    desktop.Beep();
-    return;
-  }
+  if (Code == NoScore) return desktop.Beep();
   const bool Computer = IsComputerTurn();
   const auto TakeFromGroup = [&](int i) {
     MoveDieToTray(i);

@@ -82,17 +82,13 @@ void DieBox::keyPressEvent(QKeyEvent* Event) {
 }
 
 void DiceTray::setBackColor(const QColor& Colour) {
-  if (std::exchange(backColor, Colour) == Colour) return;
-  felt = {};
-  update();
+  if (std::exchange(backColor, Colour) != Colour) update();
 }
 
 void DiceTray::paintEvent(QPaintEvent*) {
-  const qreal Scale = devicePixelRatioF();
-  if (felt.isNull() || felt.devicePixelRatio() != Scale) felt = Felt(FeltPlace.size(), backColor, Scale);
   QPainter Painter(this);
   const QRect Place = FeltPlace.translated(0, -sunk);
-  Painter.drawPixmap(Place.topLeft(), felt);
+  Painter.drawPixmap(Place.topLeft(), Felt(FeltPlace.size(), backColor, devicePixelRatioF()));
   Painter.setClipRect(Place);
   for (const DieBox* Die : findChildren<DieBox*>(Qt::FindDirectChildrenOnly)) Die->DrawShadow(Painter);
 }

@@ -63,7 +63,6 @@ class DiceTray : public QWidget {
  private:
   int sunk;
   QColor backColor;
-  QPixmap felt;
 };
 
 }  // namespace blunko

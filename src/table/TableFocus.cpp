@@ -11,10 +11,8 @@ namespace blunko {
 void TableFocus::OrderTabStops() {
   std::vector<QWidget*> Order{form.lblMnuGame, form.lblMnuHelp};
   Order.insert(Order.end(), form.Picture1.begin(), form.Picture1.end());
-  for (QWidget* Button :
-       {form.ARCmdNewGame, form.cmdRoll, form.cmdPassDice, form.cmdOptions, form.cmdHighRollers, form.cmdExit}) {
-    Order.push_back(Button);
-  }
+  Order.insert(Order.end(),
+               {form.ARCmdNewGame, form.cmdRoll, form.cmdPassDice, form.cmdOptions, form.cmdHighRollers, form.cmdExit});
   for (std::size_t i = 1; i < Order.size(); ++i) QWidget::setTabOrder(Order[i - 1], Order[i]);
 }
 

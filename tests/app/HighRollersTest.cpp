@@ -40,6 +40,7 @@ TEST_F(TheProgram, ABankedTurnGoesThroughTheRealDialogs) {
     for (const QPlainTextEdit* Box : {Form.txtHSTSList, Form.txtBMoVList}) {
       EXPECT_EQ(Box->horizontalScrollBar()->maximum() + Box->verticalScrollBar()->maximum(), 0) << "all rows fit";
     }
+    Form.txtHSTSList->setFocus();
     QTest::keyClick(Form.txtHSTSList, Qt::Key_Tab);
     EXPECT_EQ(Form.focusWidget(), Form.txtBMoVList);
     Next.Press(&GameBox::cmdNo);

@@ -136,7 +136,7 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   Run->Controls.lblLastRoll.Caption = "(Last Roll - Need 5050 To Win)";
   Run->Controls.ShowLastRoll();
   Run->Controls.Busted = true;
-  Form.Wears.TextColour = 0x0000FF;
+  Form.Wears.TextColour = 0xFFFFFF;  // letters that stand out by their edge alone
   for (QWidget* Part : Form.findChildren<QWidget*>()) Part->setAttribute(Qt::WA_UnderMouse);
   Form.ShowControls();
   ExpectAsKept(Form, "-last-turn");

@@ -184,8 +184,8 @@ struct Table {
     Setup.PlayToScore = static_cast<std::int16_t>(PlayTo);
     Setup.BreakInScore = static_cast<std::int16_t>(BreakIn);
     for (std::size_t i = 0; i < Names.size(); ++i) {
-      const std::uint8_t Style = StyleOfWord(Names[i]);
-      Setup.Seats[i] = {Names[i], Style != 0, Style};
+      const auto Style = (std::ranges::find(StyleWords, Names[i]) - StyleWords.begin() + 1) % 8;
+      Setup.Seats[i] = {Names[i], Style != 0, static_cast<std::uint8_t>(Style)};
     }
     game.FreshGame(Setup);
   }
@@ -197,11 +197,6 @@ struct Table {
     if (Tumbles) Numbers.Faces.assign(Faces.size() * Cycles[Faces.size()], 6);
     Numbers.Faces.insert(Numbers.Faces.end(), Faces.begin(), Faces.end());
   }
-  void Click(int Index, int Button = LeftButton) {
-    game.Command([=, this] {
-      game.Picture1_MouseUp(static_cast<std::int16_t>(Index), static_cast<std::int16_t>(Button), 0, 0, 0);
-    });
-  }
   /// Moves of the seat on turn: "134466 @0 @10 pass" rolls six dice, clicks the first, then its slot in the tray, and
   /// passes the dice.
   void Play(std::string_view Moves) {
@@ -211,7 +206,8 @@ struct Table {
       if (Move == "pass") {
         game.Command([this] { game.cmdPassDice_Click(); });
       } else if (Move.front() == '@') {
-        Click(std::stoi(std::string(Move.substr(1))));
+        const auto Index = static_cast<std::int16_t>(std::stoi(std::string(Move.substr(1))));
+        game.Command([=, this] { game.Picture1_MouseUp(Index, LeftButton, 0, 0, 0); });
       } else {
         Script(Digits(Move));
         game.Command([this] { game.cmdRoll_Click(); });

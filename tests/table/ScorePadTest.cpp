@@ -2,9 +2,6 @@
 
 #include "table/frmScorePad.h"
 #include "tests/table/TableForm.h"
-#include "widgets/Fonts.h"
-#include "widgets/FormBuilder.h"
-#include "widgets/Materials.h"
 #include "widgets/PlacedDialog.h"
 
 namespace blunko::test {
@@ -51,25 +48,6 @@ TEST_F(ScorePad, StandsAtTheLeftWhereTheRightHasNoRoomAndHoldsItsSeats) {
     Form.move(Corner);
     Box.show();
     EXPECT_TRUE(Screen.contains(Box.frameGeometry()));
-  }
-}
-
-/// On a ground of the same colour.
-TEST(Letters, StandOutFromEveryGroundByTheirEdge) {
-  for (const QColor Ink : {Qt::black, Qt::red, Qt::yellow, Qt::blue, Qt::white}) {
-    FitLabel Words(QStringLiteral("HILE"), nullptr);
-    Words.setAutoFillBackground(true);
-    Words.setFont(FontOf(Typeface::Verdana, 24, true));
-    SetColours(Words, {{QPalette::Window, Ink}, {QPalette::WindowText, Ink}});
-    Words.resize(150, 50);
-    const QImage Picture = Words.grab().toImage();
-    const double Letters = Luminance(Ink) + 0.05;
-    int Standing = 0;
-    for (int i = 0; i < Picture.width() * Picture.height(); ++i) {
-      const double Here = Luminance(Picture.pixelColor(i % Picture.width(), i / Picture.width())) + 0.05;
-      Standing += std::max(Here, Letters) >= 4.5 * std::min(Here, Letters) ? 1 : 0;
-    }
-    EXPECT_GE(Standing, 550) << "px round letters of " << Ink.name().toStdString();
   }
 }
 
