@@ -40,7 +40,6 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
   winId();  // what it is can only be told of a window that is there
   // For openbox: with fewer buttons beside the title. Weston would give it the focus, and leave it there.
   setAttribute(Qt::WA_X11NetWmWindowTypeMenu, !qEnvironmentVariableIsSet("WAYLAND_DISPLAY"));
-  RefuseFocus(*this);
   SetColours(*this, {{QPalette::Window, FormBlue}});
   setAutoFillBackground(true);
 
@@ -185,6 +184,7 @@ void frmScorePad::Form_Activate() {
 
 void frmScorePad::showEvent(QShowEvent* Event) {
   Form_Activate();
+  RefuseFocus(*this);  // one that was closed has another window
   QWidget::showEvent(Event);
 }
 
