@@ -14,8 +14,6 @@ constexpr TableStyle FearlessStyle{3, {0, 400, 450, 500, 1100, 1500}};
 /// From this turn score on a seat with nothing banked takes all it can. It doesn't follow the break-in score.
 constexpr int BreakInHunger = 500;
 
-bool IsCombination(const Word& Code) { return Code.front() >= 'a'; }
-
 }  // namespace
 
 void ComputerPlayers::Bot_Cautious() { PlayTableStyle(CautiousStyle); }

@@ -20,7 +20,7 @@ void Game::ARCmdSaveOptions_Click() { CloseOptions(true); }
 
 void Game::ARCmdCancelOptions_Click() { CloseOptions(false); }
 
-/// In the set of the settings.
+/// Shows the dice of the game in the set that the player has chosen.
 void Game::RedrawDice() {
   for (int i = 0; i < Dice; ++i) {
     t.Picture1(i) = Settings.PictureOf(m.ShownFace[i]);

@@ -14,6 +14,9 @@ inline constexpr Word ThreeTwos = "b", Straight = "y", ThreePairs = "z";
 /// Points that a scorer, or the whole group that bears the code, adds to the turn; 0 for every other code.
 int PointsOf(const Word& Code);
 
+/// Three of a kind and more, and what takes all six dice.
+constexpr bool IsCombination(const Word& Code) { return Code.front() >= 'a'; }
+
 constexpr bool IsScorer(const Word& Code) { return Code != NoScore && Code != NoDie; }
 
 }  // namespace blunko

@@ -7,7 +7,7 @@
 
 namespace blunko {
 
-// What the files of the program need of the operating system is here, and nowhere else.
+// What the files of the program and of its player need of the operating system is here, and nowhere else.
 
 /// What stands under a path. `Foreign`: nothing of ours, such as a folder, a pipe or a file too large. `Unreadable`: it
 /// may well be good, but the system didn't hand it out; so is a link that leads to nothing.

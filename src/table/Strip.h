@@ -31,7 +31,7 @@ class Strip : public QObject {
   frmMain& form;
   QPoint closed, opened;    ///< the window's place before the strip was opened, and what the manager then made of it
   QDeadlineTimer settling;  ///< while what the manager makes of a change may come in
-  bool nobodys = false;     ///< of the press that the mouse holds
+  bool nobodys = false;     ///< the press that the mouse holds was made for another place than it would hit now
 };
 
 }  // namespace blunko

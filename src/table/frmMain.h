@@ -26,7 +26,7 @@ class frmMain : public TableParts {
   Dress Wears;
   /// Draws the records of the controls and of the dress; what has changed is on the screen when it returns.
   void ShowControls();
-  /// Shows the background anew if its file was replaced.
+  /// Shows the background that it wears, anew if its file was replaced.
   void ShowBackground();
 
   /// Runs a handler of the game, and shows what it has changed.

@@ -17,7 +17,8 @@ class frmScorePad : public QWidget {
  public:
   frmScorePad(const Module1& State, QWidget* Table);
 
-  /// Takes its place to the right of the table, or to the left where the screen ends.
+  /// Takes its place to the right of the table, or to the left where the screen ends. What hangs on the table, as on
+  /// Wayland, is hidden by it.
   void SetPosition();
   /// What the pad consists of for a listener: its headings, and a line for every seat in play.
   QList<QWidget*> Rows() const;

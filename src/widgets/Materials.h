@@ -18,11 +18,11 @@ inline const QColor Ivory(255, 246, 224);       ///< letters on navy
 inline const QColor Paper(250, 244, 230);       ///< the ground of lists and fields
 inline const QColor PaperInk(0, 0, 128);        ///< letters on it
 inline const QColor PaperFaded(122, 107, 85);   ///< letters that can't be changed at the moment
-inline const QColor PaperWorn(230, 220, 200);   ///< the way of a list's handle
+inline const QColor PaperWorn(230, 220, 200);   ///< the groove of a scroll bar
 inline const QColor FeltRed(166, 2, 2);         ///< the felt of a tray that isn't the table's
 inline const QColor Pearl(244, 238, 226);       ///< pearl satin, where a contrast with it is reckoned
 inline const QColor Navy(15, 34, 80);           ///< navy satin, where a contrast with it is reckoned
-inline const QColor NavyMatt(90, 111, 158);     ///< the handle
+inline const QColor NavyMatt(90, 111, 158);     ///< the handle of a scroll bar
 inline const QColor ButtonNavy(52, 72, 124);    ///< the body of buttons
 inline const QColor HeroNavy(21, 44, 98);       ///< of those that a window is there for
 inline const QColor Slate(128, 132, 142);       ///< what a body fades to when it is off
