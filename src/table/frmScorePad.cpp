@@ -182,6 +182,9 @@ void frmScorePad::Form_Activate() {
   UpdateActivePlayer();
 }
 
+/// Marco takes the focus from the table when a window is clicked that doesn't want it.
+void frmScorePad::mousePressEvent(QMouseEvent*) { table->activateWindow(); }
+
 void frmScorePad::showEvent(QShowEvent* Event) {
   Form_Activate();
   RefuseFocus(*this);  // one that was closed has another window

@@ -27,6 +27,7 @@ class frmScorePad : public QWidget {
 
  protected:
   bool eventFilter(QObject* Of, QEvent* Event) override;
+  void mousePressEvent(QMouseEvent* Event) override;
   void showEvent(QShowEvent* Event) override;
   void paintEvent(QPaintEvent* Event) override;
 
