@@ -182,12 +182,14 @@ void frmScorePad::Form_Activate() {
   UpdateActivePlayer();
 }
 
-/// Marco takes the focus from the table when a window is clicked that doesn't want it.
-void frmScorePad::mousePressEvent(QMouseEvent*) { table->activateWindow(); }
+/// What is offered to the pad is the table's: awesome and marco have taken it from there, for the mouse or a click.
+bool frmScorePad::nativeEvent(const QByteArray&, void* Message, qintptr*) {
+  if (OffersFocus(Message)) table->activateWindow();
+  return false;
+}
 
 void frmScorePad::showEvent(QShowEvent* Event) {
   Form_Activate();
-  RefuseFocus(*this);  // one that was closed has another window
   QWidget::showEvent(Event);
 }
 

@@ -27,7 +27,7 @@ class frmScorePad : public QWidget {
 
  protected:
   bool eventFilter(QObject* Of, QEvent* Event) override;
-  void mousePressEvent(QMouseEvent* Event) override;
+  bool nativeEvent(const QByteArray& Type, void* Message, qintptr* Result) override;
   void showEvent(QShowEvent* Event) override;
   void paintEvent(QPaintEvent* Event) override;
 

@@ -10,8 +10,8 @@
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>
 #include <X11/Xutil.h>
-#include <algorithm>
 #include <memory>
+#include <xcb/xcb.h>
 #endif
 
 namespace blunko {
@@ -44,14 +44,11 @@ QMargins FrameTold(const QWidget& Window) {
   return (QMarginsF(Sides[0], Sides[2], Sides[1], Sides[3]) / Window.devicePixelRatioF()).toMargins();
 }
 
-void RefuseFocus(const QWidget& Window) {
+bool OffersFocus(const void* NativeEvent) {
   Display* const To = Server();
-  Atom* Does = nullptr;
-  int Count = 0;
-  if (To == nullptr || XGetWMProtocols(To, Window.winId(), &Does, &Count) == 0) return;
-  const std::unique_ptr<Atom, int (*)(void*)> Owned(Does, XFree);
-  const Atom* const End = std::remove(Does, Does + Count, XInternAtom(To, "WM_TAKE_FOCUS", False));
-  XSetWMProtocols(To, Window.winId(), Does, static_cast<int>(End - Does));
+  const auto* const Message = static_cast<const xcb_client_message_event_t*>(NativeEvent);
+  return To != nullptr && (Message->response_type & 0x7F) == XCB_CLIENT_MESSAGE &&
+         Message->data.data32[0] == XInternAtom(To, "WM_TAKE_FOCUS", False);
 }
 
 bool HearKeysReleasedOnce() {
@@ -127,7 +124,7 @@ void AwaitPlace(const QWidget& Window, const QRect& Wanted) {
 #else
 
 QMargins FrameTold(const QWidget& Window) { return Window.windowHandle()->frameMargins(); }
-void RefuseFocus(const QWidget&) {}
+bool OffersFocus(const void*) { return false; }
 bool HearKeysReleasedOnce() { return false; }
 std::optional<std::set<quint32>> KeysDown() { return {}; }
 void HoldRightEdge(QWidget&, const QImage&) {}

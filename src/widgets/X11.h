@@ -16,8 +16,9 @@ namespace blunko {
 /// with it. Without a property, as on i3, the toolkit's.
 QMargins FrameTold(const QWidget& Window);
 
-/// Takes the offer back that the toolkit makes for every window: awesome gives the focus to whatever offers to take it.
-void RefuseFocus(const QWidget& Window);
+/// Whether a window manager offers the focus by this event of the toolkit's, to a window that doesn't take it by
+/// itself.
+bool OffersFocus(const void* NativeEvent);
 
 /// From now on a key that is held down is let go once, at its end, not with every repeat; and the repeats of its press
 /// aren't told apart from it. False where that can't be had, nor is needed.
