@@ -175,6 +175,9 @@ TEST_F(TheTable, AButtonThatGoesOffLeavesTheFocusToRollDiceOrToTheTable) {
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
   EXPECT_FALSE(Box(1)->isVisible());
   EXPECT_EQ(QApplication::focusWidget(), Box(0)) << "the first die that is left in the row";
+  Form.cmdExit->setFocus();
+  QTest::keyClick(Form.cmdExit, Qt::Key_5);
+  EXPECT_EQ(QApplication::focusWidget(), Form.cmdExit) << "what hasn't gone off keeps it";
   for (int i = 0; i < 20; ++i) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_NE(QApplication::focusWidget(), &Form) << "Tab stops on what is seen";
