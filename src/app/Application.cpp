@@ -97,7 +97,7 @@ void Application::LoadForm() {
   CentreFrame(*Form);
   Rollers.LoadHighRollers();
 
-  // The end of the session can be stopped only when it is asked for; later the program is told to end.
+  // The end of the session can be stopped only when it is asked for; later the program is told to end, see below.
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& Session) {
     if (Session.allowsInteraction()) Table.MayEnd() ? Session.release() : Session.cancel();
   });
@@ -117,9 +117,9 @@ void Application::LoadForm() {
 
 bool Application::eventFilter(QObject* Receiver, QEvent* Event) {
   if (Event->type() == QEvent::PlatformSurface && !PlacesWindows()) {
-    if (auto* W = qobject_cast<QWindow*>(Receiver); W != nullptr && W->handle() != nullptr) LetGrow(*W);
+    if (auto* Window = qobject_cast<QWindow*>(Receiver)) LetGrow(*Window);
   }
-  if (Event->type() != QEvent::Quit || !Event->spontaneous()) return false;
+  if (Form == nullptr || Event->type() != QEvent::Quit || !Event->spontaneous()) return false;
   Table.End();
   return true;
 }

@@ -197,7 +197,10 @@ TEST_F(TheProgram, AsksItsQuestionsAtTheFirstStartAndForTheVersionNowAndThen) {
     Folder.Chmod("asker", 0755);
     Dice->Faces = {Row.Drawn};
     for (const char Answer : std::string_view(Row.Answers)) {
-      Next.Expect<GameBox>([Answer](GameBox& Box) {
+      Next.Expect<GameBox>([Answer, this](GameBox& Box) {
+        QEvent Quit(QEvent::Quit);
+        QSpontaneKeyEvent::setSpontaneous(&Quit);
+        EXPECT_FALSE(static_cast<QObject&>(*Run).eventFilter(qApp, &Quit)) << "there is no table to ask yet";
         const bool IsShort = Box.lblText->text().size() < 30;
         EXPECT_EQ(Box.lblText->height() < 2 * Box.lblText->fontMetrics().height(), IsShort) << "in one line";
         Click(Answer == 'y' ? Box.cmdYes : Answer == 'n' ? Box.cmdNo : Box.cmdOK);
