@@ -23,8 +23,6 @@ namespace {
 
 QColor OfBgr(std::uint32_t Colour) { return QColor(Colour & 0xFF, (Colour >> 8) & 0xFF, (Colour >> 16) & 0xFF); }
 
-constexpr int LongestAnswer = 1000;  // ms, of a window manager
-
 }  // namespace
 
 frmMain::frmMain(Game& Table, Dress Clothes) : Wears(std::move(Clothes)), game(Table), focus(*this) {
@@ -180,12 +178,9 @@ bool frmMain::eventFilter(QObject* Tray, QEvent* Event) {
 }
 
 /// Wayland's compositors send sizes that nobody wanted, KWin the one before the options were opened; icewm any that a
-/// tool asks for. I3 insists on its tile: nobody asks it for ever.
-void frmMain::resizeEvent(QResizeEvent* Event) {
-  const bool IsOurs = minimumSize() != maximumSize() || Event->size() == minimumSize();
-  if (isMaximized() || isFullScreen() || IsOurs) return;
-  if (std::exchange(unwanted, Event->size()) == Event->size() && !asked.hasExpired()) return;
-  asked.setRemainingTime(LongestAnswer);
+/// tool asks for.
+void frmMain::resizeEvent(QResizeEvent*) {
+  if (isMaximized() || isFullScreen()) return;
   QTimer::singleShot(0, this, [this] { resize(minimumSize()); });
 }
 

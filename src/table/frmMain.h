@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QDeadlineTimer>
-
 #include <array>
 #include <optional>
 #include <set>
@@ -81,8 +79,6 @@ class frmMain : public TableParts {
   Game& game;
   TableFocus focus;
   std::set<quint32> keysDown;  ///< keys pressed at the table, by their places: only their release is a command
-  QSize unwanted;              ///< another size than the table's, which it had for a moment
-  QDeadlineTimer asked;        ///< while its own may still be granted
   std::optional<Dress> drawn;
 };
 

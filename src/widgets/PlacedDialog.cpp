@@ -59,6 +59,7 @@ void FixSize(QWidget& Window, QSize Size) {
 }
 
 void LetGrow(QWindow& Window) {
+  QObject::disconnect(&Window, &QWindow::windowStateChanged, &Window, nullptr);  // one that was closed is told again
   const auto AtNextWidth = [&Window](auto Run) {
     QObject::connect(&Window, &QWindow::widthChanged, &Window, Run, Qt::SingleShotConnection);
   };
