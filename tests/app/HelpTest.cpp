@@ -67,7 +67,7 @@ TEST(Help, FindsOnFromPageToPageAndRoundAgain) {
     EXPECT_EQ(Window.Help.lblFound->text().isEmpty(), Place > 0);
     const QString Before = Window.Page.toPlainText().left(Window.Page.textCursor().selectionEnd());
     EXPECT_EQ(Before.count(QLatin1String(Text), Qt::CaseInsensitive), Place);
-    Window.Help.ShowTopic(QStringLiteral("HighRollers.htm"));
+    Window.Help.ShowTopic(QStringLiteral("FairDice.htm"));
     EXPECT_EQ(Window.Help.lblFound->text(), QString()) << "another page";
   }
 }

@@ -49,11 +49,10 @@ struct Desk : Table {
 
 /// Holds what a window looks like, at a quarter of its size, against the picture kept.
 inline void ExpectSeenAs(const QString& Kept, QWidget& Form) {
-  const auto Format = QImage::Format_RGB32;
   const QImage Now =
-      Form.grab().scaled(Form.size() / 4, {}, Qt::SmoothTransformation).toImage().convertToFormat(Format);
+      Form.grab().scaled(Form.size() / 4, {}, Qt::SmoothTransformation).toImage().convertToFormat(QImage::Format_RGB32);
   if (qEnvironmentVariableIsSet("TBK_KEEP_FORMS")) Now.save(Kept);
-  const QImage Then = QImage(Kept).convertToFormat(Format);
+  const QImage Then = QImage(Kept).convertToFormat(Now.format());
   ASSERT_EQ(Now.size(), Then.size()) << Kept.toStdString();
   for (qsizetype i = 0; i < Now.sizeInBytes(); ++i) {
     const qsizetype Row = i / Now.bytesPerLine(), Column = i % Now.bytesPerLine() / 4;

@@ -252,8 +252,14 @@ TEST(Turn, TumblesAsTheNumberOfDiceTells) {
 }
 
 TEST(Fault, NamesTheRulesThatAreBroken) {
-  const std::tuple<const char*, int, std::function<void(Module1&, TableControls&)>> Rows[] = {
-      {"", 20,
+  const std::pair<std::vector<const char*>, std::function<void(Module1&, TableControls&)>> Rows[] = {
+      {{"either the game buttons",      "the status line gives way",  "a table picture is the face",
+        "a face in the tray is",        "a tray picture is the face", "the tray has no gap",
+        "exactly the dice that are up", "a die that is up has a",     "a mark stands over a scorer",
+        "the divider stands behind",    "a turn scores in steps",     "a seat scores in steps",
+        "the seat that is out is one",  "the last-roll line shows",   "the tray's marks are its",
+        "the table names the",          "six dice lie on table and",  "Roll is enabled exactly",
+        "Pass is enabled exactly",      "the table shows the turn"},
        [](Module1& m, TableControls& t) {
          t.ARCmdNewGame.Visible = t.picMarker[1] = t.cmdRoll.Enabled = true;
          t.Picture1(5) = t.Picture1(15) = 113, t.lblStatus.Top -= StatusRise, t.lblPlayer.Caption = "Bob";
@@ -261,15 +267,15 @@ TEST(Fault, NamesTheRulesThatAreBroken) {
          m.TrayFace[0] = m.DieFace[1] = 7, m.TrayCountAtRoll = 0, m.TurnScore = 30, m.PlayerScore[1] = -50;
          m.OutPlayer = 2;
        }},
-      {"a table without a game", 9, [](auto&, TableControls& t) { t.cmdRoll.Visible = false; }},
-      {"the seat on turn is one", 3, [](Module1& m, auto&) { m.CurrentPlayer = 2; }},
-      {"the divider stands behind", 1, [](Module1& m, auto&) { m.TrayCountAtRoll = 2; }},
-      {"a person can neither roll nor pass", 1, [](Module1& m, auto&) { m.PlayerIsComputer[0] = true; }},
-      {"nobody passes before", 16, [](Module1& m, auto& t) { m.DieUp.fill(false), t.Picture1 = {}; }},
-      {"only a seat that has broken in", 1, [](Module1& m, auto&) { m.PlayerScore[0] = 450; }},
-      {"there is always a move", 10, [](auto& m, auto& t) { m.DieUp.fill(false), t.cmdPassDice.Enabled = false; }},
+      {{"Roll and Pass are", "a table without a"}, [](auto&, TableControls& t) { t.cmdRoll.Visible = false; }},
+      {{"the seat on turn is one"}, [](Module1& m, auto&) { m.CurrentPlayer = 2; }},
+      {{"the divider stands behind"}, [](Module1& m, auto&) { m.TrayCountAtRoll = 2; }},
+      {{"a person can neither roll nor pass"}, [](Module1& m, auto&) { m.PlayerIsComputer[0] = true; }},
+      {{"nobody passes before"}, [](Module1& m, auto& t) { m.DieUp.fill(false), t.Picture1 = {}; }},
+      {{"only a seat that has broken in"}, [](Module1& m, auto&) { m.PlayerScore[0] = 450; }},
+      {{"there is always a move"}, [](auto& m, auto& t) { m.DieUp.fill(false), t.cmdPassDice.Enabled = false; }},
   };
-  for (const auto& [Rule, Broken, Break] : Rows) {
+  for (const auto& [Rules, Break] : Rows) {
     Table table;
     table.Begin({"Ann", "Bob"});
     table.m.PlayerScore[0] = 500;
@@ -277,8 +283,7 @@ TEST(Fault, NamesTheRulesThatAreBroken) {
     ASSERT_EQ(table.game.Fault(), "");
     Break(table.m, table.t);
     const std::string Fault = table.game.Fault();
-    EXPECT_NE(Fault.find(Rule), std::string::npos) << Rule << ": " << Fault;
-    EXPECT_EQ(std::ranges::count(Fault, ';'), Broken) << Fault;
+    for (const char* Rule : Rules) EXPECT_NE(Fault.find(Rule), std::string::npos) << Rule << ": " << Fault;
   }
 }
 
