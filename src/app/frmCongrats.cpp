@@ -8,13 +8,11 @@
 #include "table/frmMain.h"
 #include "widgets/FormBuilder.h"
 #include "widgets/Materials.h"
-#include "widgets/Twips.h"
 
 namespace blunko {
 
-constexpr int FormWidth = 5865, FormHeight = 7695;  // twips, inside the frame
-constexpr int EngravingTime = 500;                  // ms
-constexpr int GreetingTop = 8;                      // px
+constexpr int EngravingTime = 500;  // ms
+constexpr int GreetingTop = 8;      // px
 const QColor PlateColour(0, 0, 128);
 
 frmCongrats::frmCongrats(const QString& Winner, std::string& FormMessage, Desktop& Screen, const GameOptions& Settings,
@@ -26,16 +24,16 @@ frmCongrats::frmCongrats(const QString& Winner, std::string& FormMessage, Deskto
       settings(Settings),
       table(Main) {
   SetColours(*this, {{QPalette::Window, FormBlue}});
-  auto* Rays = Placed(Make<QLabel>(this, "picRays"), TwipsRect(0, 0, FormWidth, FormHeight));
+  auto* Rays = Placed(Make<QLabel>(this, "picRays"), {0, 0, 391, 513});
   Rays->setScaledContents(true);
   Rays->setPixmap(QPixmap(":/materials/rays.jpg"));
-  setFixedSize(Pixels(FormWidth), Pixels(FormHeight));
+  setFixedSize(Rays->size());
   Image2 = Make<SvgBox>(this, "Image2", ":/art/trophy.svg");
   Placed(Image2, {{0, 0}, Image2->sizeHint()});
   Image1 = Make<SvgBox>(this, "Image1", ":/art/greeting.svg");
   Placed(Image1, {{(width() - Image1->sizeHint().width()) / 2, GreetingTop}, Image1->sizeHint()});
   lblWinner = MakeText<FitLabel>(this, "lblWinner", "Engraving...", FontOf(Typeface::ComicSans, 14.25, true));
-  Placed(lblWinner, TwipsRect(1695, 6120, 2565, 375));
+  Placed(lblWinner, {113, 408, 171, 25});
   SetColours(*lblWinner, {{QPalette::Window, PlateColour}, {QPalette::WindowText, Qt::yellow}});
   BuildButtons();
 }
@@ -44,13 +42,13 @@ void frmCongrats::BuildButtons() {
   cmdSameGame = MakeButton(this, "cmdSameGame", "Same Game", [this] { Leave("SameGame"); });
   cmdDifferentGame = MakeButton(this, "cmdDifferentGame", "Different Game", [this] { Leave("DifferentGame"); });
   cmdQuit = MakeButton(this, "cmdQuit", "Quit", [this] { Leave("Quit"); });
-  int Left = 150;
+  int Left = 10;
   for (ButtonPlus* Button : {cmdSameGame, cmdDifferentGame, cmdQuit}) {
-    Placed(Button, TwipsRect(Left, 6990, 1695, 495));
+    Placed(Button, {Left, 466, 113, 33});
     Button->setFont(FontOf(Typeface::Verdana, 8.25));  // the longest caption fits
     Button->setBackColor(Button == cmdQuit ? QColor(0, 128, 255) : QColor(0, 0, 225));
     Button->setEnabled(false);
-    Left += 1920;
+    Left += 128;
   }
 }
 

@@ -13,17 +13,16 @@
 #include "storage/NameRule.h"
 #include "widgets/FormBuilder.h"
 #include "widgets/NameValidator.h"
-#include "widgets/Twips.h"
 
 namespace blunko {
 
 namespace {
 
-constexpr int InnerWidth = 6000;                       // twips
-constexpr int Margin = 6, Gap = 4;                     // px
-constexpr int SeatGap = 2;                             // px, within the pitch
-constexpr int SmallestHeight = 3495, SeatPitch = 360;  // twips
-constexpr int OffsetLeft = 500, OffsetTop = 1550;      // twips, from the table's window
+constexpr int InnerWidth = 400;                      // px
+constexpr int Margin = 6, Gap = 4;                   // px
+constexpr int SeatGap = 2;                           // px, within the pitch
+constexpr int SmallestHeight = 233, SeatPitch = 24;  // px
+constexpr QPoint Offset(33, 103);                    // px, from the table's window
 
 const QString FrameStyle = QStringLiteral(
     "QGroupBox { border: 1px solid %1; border-radius: 5px; margin-top: 7px; background: rgba(255, 255, 255, 70); }"
@@ -100,7 +99,7 @@ QLayout* frmNewGame::BuildSeats() {
   for (int i = 0; i < MaxSeats; ++i) {
     BuildSeat(i);
     const std::initializer_list<QWidget*> Row{TxtPlayerName[i], chkComputer[i], cboStyle[i]};
-    for (QWidget* Cell : Row) Cell->setFixedHeight(Pixels(SeatPitch) - SeatGap);
+    for (QWidget* Cell : Row) Cell->setFixedHeight(SeatPitch - SeatGap);
     Seats->addWidget(TxtPlayerName[i], i + 1, 0);
     Seats->addWidget(chkComputer[i], i + 1, 1, Qt::AlignCenter);
     Seats->addWidget(cboStyle[i], i + 1, 2);
@@ -190,9 +189,7 @@ void frmNewGame::Form_Activate() {
   cmdPlay->setFocus();
 }
 
-void frmNewGame::Place() {
-  PlaceFrame(*this, FramePlace(*parentWidget()).topLeft() + QPoint(Pixels(OffsetLeft), Pixels(OffsetTop)));
-}
+void frmNewGame::Place() { PlaceFrame(*this, FramePlace(*parentWidget()).topLeft() + Offset); }
 
 void frmNewGame::optNumPlayers_Click(int Index) {
   const GameSetup Layout = SetupForPlayers(Index + 1);
@@ -220,8 +217,7 @@ void frmNewGame::FitHeight(int Index) {
   layout()->activate();
   const int Seats = Index < 1 ? 2 : Index + 1;
   const QSize Needed = layout()->minimumSize();
-  FixSize(*this, {qMax(Pixels(InnerWidth), Needed.width()),
-                  qMax(Pixels(SmallestHeight + SeatPitch * (Seats - 2)), Needed.height())});
+  FixSize(*this, {qMax(InnerWidth, Needed.width()), qMax(SmallestHeight + SeatPitch * (Seats - 2), Needed.height())});
 }
 
 bool frmNewGame::eventFilter(QObject* Watched, QEvent* Event) {

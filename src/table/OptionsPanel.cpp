@@ -14,12 +14,11 @@
 #include "widgets/Fonts.h"
 #include "widgets/FormBuilder.h"
 #include "widgets/Materials.h"
-#include "widgets/Twips.h"
 
 namespace blunko {
 
-constexpr int PanelWidth = 2385, PanelHeight = 7695;  // twips; the table covers the rest of the panel
-constexpr int StripWidth = 1890;                      // twips, of the panel on the screen
+constexpr QSize PanelSize(159, 513);  // px; the table covers the rest of the panel
+constexpr int StripWidth = 126;       // px, of the panel on the screen
 
 constexpr int CommandHeight = 27;  // px
 
@@ -46,13 +45,13 @@ OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QS
     : QWidget(&Main), form(Main), game(Table), settings(Options), backgrounds(std::move(BackgroundFolders)) {
   setObjectName(QStringLiteral("picOptionsTray"));
   setAccessibleName(QStringLiteral("Options"));
-  setGeometry(TwipsRect(0, 0, PanelWidth, PanelHeight));
+  resize(PanelSize);
   setFont(FontOf(Typeface::Verdana, 8.25));
   const QColor Ink = palette().color(QPalette::HighlightedText);
   SetColours(*this, {{QPalette::WindowText, Contrast(Ink, Navy) < 4.5 ? Ivory : Ink}});
   setStyleSheet(FrameStyle.arg(palette().color(QPalette::WindowText).name()) + PaperStyle());
   frames = new QVBoxLayout(this);
-  frames->setContentsMargins(6, 3, 6 + width() - Pixels(StripWidth), 6);
+  frames->setContentsMargins(6, 3, 6 + width() - StripWidth, 6);
   frames->setSpacing(3);
   BuildSwitches();
   BuildLists();
@@ -151,7 +150,7 @@ void OptionsPanel::BuildCommands() {
 void OptionsPanel::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
   DrawNavy(Painter, rect());
-  constexpr int Edge = Pixels(StripWidth), Deep = 10;  // px
+  constexpr int Edge = StripWidth, Deep = 10;  // px
   QLinearGradient Shadow({Edge - Deep, 0}, {Edge, 0});
   Shadow.setColorAt(0, Thin(Shade, 0));
   Shadow.setColorAt(1, Thin(Shade, 0.6));
@@ -176,7 +175,7 @@ void OptionsPanel::Open() {
   LoadOptionControls();
   show();
   ShowWholeRows();
-  strip.Open(grab(QRect(0, 0, Pixels(StripWidth), height())));
+  strip.Open(grab(QRect(0, 0, StripWidth, height())));
   form.ShowControls();
   ARCmdSaveOptions->setFocus();
 }

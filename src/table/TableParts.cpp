@@ -7,22 +7,12 @@
 #include "widgets/Fonts.h"
 #include "widgets/FormBuilder.h"
 #include "widgets/Materials.h"
-#include "widgets/Twips.h"
 
 namespace blunko {
 
 namespace {
 
-// All in twips.
-constexpr int WindowWidth = 5865, WindowHeight = 7695;
-constexpr int TableWidth = 5895;
-constexpr int TrayLeft = 195, TrayWidth = 5470, TrayHeight = 945;
-constexpr int Tray1Top = 435, Tray2Top = 1380;
-constexpr int SampleTop = 1410;
-constexpr int DieTop = 45, DieSide = 816;
-constexpr std::array<int, 6> MarkerLeft{603, 1503, 2388, 3288, 4188, 5073};
-constexpr int MarkerTop = 300, MarkerSide = 50;  // the first one is 45 wide: three pixels, too
-constexpr int DividerTop = 120, DividerWidth = 75, DividerHeight = 870;
+constexpr std::array<int, 6> MarkerLeft{40, 100, 159, 219, 279, 338};  // px
 
 /// Draws one of the numbered bitmaps in its top left corner, smaller where it has no room.
 class BitmapBox : public QWidget {
@@ -66,7 +56,7 @@ TableParts::TableParts() : QWidget(nullptr, Qt::Window) {
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
   setFocusPolicy(Qt::ClickFocus);  // keys work without a control; Tab stops on what is seen
-  setFixedSize(Pixels(WindowWidth), Pixels(WindowHeight));
+  setFixedSize(391, 513);
   PlaceTrays();
 }
 
@@ -78,17 +68,16 @@ void TableParts::PlaceRest() {
 }
 
 void TableParts::PlaceTrays() {
-  picGameTray = Placed(Make<QWidget>(this, QStringLiteral("picGameTray")), TwipsRect(0, 0, TableWidth, 7725));
+  picGameTray = Placed(Make<QWidget>(this, QStringLiteral("picGameTray")), QRect(0, 0, 393, 515));
   picGameTray->setAutoFillBackground(true);
   // A little wider than the window. The shipped pictures have just twice this size, in which they are quickly decoded.
-  Image1 =
-      Placed(Make<StretchedPicture>(picGameTray, QStringLiteral("Image1")), TwipsRect(0, 0, TableWidth, WindowHeight));
+  Image1 = Placed(Make<StretchedPicture>(picGameTray, QStringLiteral("Image1")), QRect(0, 0, 393, 513));
   Placed(Make<FrameBox>(picGameTray, QStringLiteral("picTrayFrame")), QRect(0, 0, 391, 200));
   const auto Tray = [this](const QString& Name, int Top, int Sunk) {
-    return Placed(Make<DiceTray>(picGameTray, Name, Sunk), TwipsRect(TrayLeft, Top, TrayWidth, TrayHeight));
+    return Placed(Make<DiceTray>(picGameTray, Name, Sunk), QRect(13, Top, 365, 63));
   };
-  picTray1 = Tray(QStringLiteral("picTray1"), Tray1Top, 0);
-  picTray2 = Tray(QStringLiteral("picTray2"), Tray2Top, 0);
+  picTray1 = Tray(QStringLiteral("picTray1"), 29, 0);
+  picTray2 = Tray(QStringLiteral("picTray2"), 92, 0);
   SetName(*picGameTray, QStringLiteral("Table"));
   SetName(*picTray1, QStringLiteral("Dice on the table"));
   SetName(*picTray2, QStringLiteral("Dice set aside"));
@@ -96,20 +85,19 @@ void TableParts::PlaceTrays() {
     for (const int Index : {i, 10 + i}) {
       auto* Box =
           Make<DieBox>(Index < 10 ? picTray1 : picTray2, QStringLiteral("Picture1(%1)").arg(Index), Index, Pictures);
-      Picture1[Index < 10 ? i : 6 + i] = Placed(Box, TwipsRect(DieBoxLeft[i], DieTop, DieSide, DieSide));
+      Picture1[Index < 10 ? i : 6 + i] = Placed(Box, QRect(Pixels(DieBoxLeft[i]), 3, 54, 54));
     }
     const auto Mark = [&](const QString& Name, int Bitmap, const QRect& Place) {
       return Placed(Make<BitmapBox>(picGameTray, Name.arg(i), Bitmap, Pictures), Place);
     };
-    picLamp[i] = Mark("picLamp(%1)", LampBitmap, QRect(Pixels(MarkerLeft[i]) - 21, 12, 45, 44));
-    picMarker[i] = Mark("picMarker(%1)", MarkerBitmap,
-                        QRect(Pixels(MarkerLeft[i]), Pixels(MarkerTop), Pixels(MarkerSide), Pixels(MarkerSide)));
+    picLamp[i] = Mark("picLamp(%1)", LampBitmap, QRect(MarkerLeft[i] - 21, 12, 45, 44));
+    picMarker[i] = Mark("picMarker(%1)", MarkerBitmap, QRect(MarkerLeft[i], 20, 3, 3));
     SetName(*picMarker[i], QStringLiteral("Mark over die %1").arg(i + 1));
   }
-  pctDivider = Placed(Make<BitmapBox>(picTray2, QStringLiteral("pctDivider"), DividerBitmap, Pictures),
-                      TwipsRect(0, DividerTop, DividerWidth, DividerHeight));
+  pctDivider =
+      Placed(Make<BitmapBox>(picTray2, QStringLiteral("pctDivider"), DividerBitmap, Pictures), QRect(0, 8, 5, 58));
   SetName(*pctDivider, QStringLiteral("Divider"));
-  picSampleDice = Tray(QStringLiteral("picSampleDice"), SampleTop, Pixels(SampleTop - Tray2Top));
+  picSampleDice = Tray(QStringLiteral("picSampleDice"), 94, 2);
   PlaceCover();
 }
 

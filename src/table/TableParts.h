@@ -15,6 +15,9 @@ class QMenu;
 
 namespace blunko {
 
+/// Logical pixels of a length in twips, 0 or more: 15 twips are one pixel.
+constexpr int Pixels(int Twips) { return (Twips + 7) / 15; }
+
 /// The table's window as it is built: every control at its place, and menus that pop up under their words. It knows no
 /// game.
 class TableParts : public QWidget {

@@ -15,7 +15,6 @@
 #include "widgets/FormBuilder.h"
 #include "widgets/HeldKeys.h"
 #include "widgets/PlacedDialog.h"
-#include "widgets/Twips.h"
 
 namespace blunko {
 

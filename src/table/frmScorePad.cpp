@@ -8,20 +8,16 @@
 #include "widgets/FormBuilder.h"
 #include "widgets/Materials.h"
 #include "widgets/PlacedDialog.h"
-#include "widgets/Twips.h"
 #include "widgets/X11.h"
 
 namespace blunko {
 
 namespace {
 
-constexpr int Width = 2595;                                      // twips
-constexpr int GapToTable = 175;                                  // twips
-constexpr int FirstRow = 1380, RowPitch = 420, RowHeight = 375;  // twips
+constexpr int Width = 173, GapToTable = 12, FirstRow = 92, RowPitch = 28, RowHeight = 25;  // px
 const QColor SeatOnTurn(0x30, 0xFF, 0x30);
 const QColor OtherSeat(Qt::black);
 const QColor Heading(Qt::yellow);
-constexpr int ScoreEdge = 2415;  // twips: where the scores end, as their heading does
 constexpr int HeadHeight = 84, RowStrip = 23, Margin = 8, Mark = 4;  // px
 constexpr qreal Round = 3.5, Wood = 3;                               // px
 
@@ -50,13 +46,10 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
     Made->setAttribute(Qt::WA_TransparentForMouseEvents);
     return Made;
   };
-  lblGoal = Text(QStringLiteral("lblGoal"), {}, TwipsRect(120, 90, 2250, 375), Qt::AlignHCenter, Heading);
-  label_break_in =
-      Text(QStringLiteral("label_break_in"), {}, TwipsRect(120, 480, 2250, 375), Qt::AlignHCenter, Heading);
-  Label2 =
-      Text(QStringLiteral("Label2"), QStringLiteral("Player"), TwipsRect(240, 960, 1095, 375), Qt::AlignLeft, Heading);
-  Label3 =
-      Text(QStringLiteral("Label3"), QStringLiteral("Score"), TwipsRect(1800, 960, 615, 375), Qt::AlignRight, Heading);
+  lblGoal = Text(QStringLiteral("lblGoal"), {}, QRect(8, 6, 150, 25), Qt::AlignHCenter, Heading);
+  label_break_in = Text(QStringLiteral("label_break_in"), {}, QRect(8, 32, 150, 25), Qt::AlignHCenter, Heading);
+  Label2 = Text(QStringLiteral("Label2"), QStringLiteral("Player"), QRect(16, 64, 73, 25), Qt::AlignLeft, Heading);
+  Label3 = Text(QStringLiteral("Label3"), QStringLiteral("Score"), QRect(120, 64, 41, 25), Qt::AlignRight, Heading);
   for (FitLabel* Head : {lblGoal, label_break_in, Label2, Label3}) SetColours(*Head, {{QPalette::Window, Navy}});
   for (FitLabel* Underlined : {Label2, Label3}) {
     QFont Font = Underlined->font();
@@ -65,12 +58,11 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
   }
   for (int i = 0; i < MaxSeats; ++i) {
     const int Top = FirstRow + RowPitch * i;
-    lblPlayer[i] = Text(QStringLiteral("lblPlayer(%1)").arg(i), {}, TwipsRect(240, Top, 1560, RowHeight), Qt::AlignLeft,
-                        OtherSeat);
+    lblPlayer[i] =
+        Text(QStringLiteral("lblPlayer(%1)").arg(i), {}, QRect(16, Top, 104, RowHeight), Qt::AlignLeft, OtherSeat);
     lblPlayer[i]->setContentsMargins(0, 0, 4, 0);  // a long name keeps away from the score
-    lblScore[i] =
-        Text(QStringLiteral("lblScore(%1)").arg(i), {}, TwipsRect(1800, Top, 750, 255), Qt::AlignRight, OtherSeat);
-    lblScore[i]->setContentsMargins(0, 0, Pixels(1800 + 750 - ScoreEdge), 0);
+    lblScore[i] = Text(QStringLiteral("lblScore(%1)").arg(i), {}, QRect(120, Top, 50, 17), Qt::AlignRight, OtherSeat);
+    lblScore[i]->setContentsMargins(0, 0, 9, 0);  // to the end of their heading
   }
   UpdateActivePlayer();
   if (PlacesWindows()) return;
@@ -82,7 +74,7 @@ void frmScorePad::SetPosition() {
   // What hangs on the table is placed from its corner, as on Wayland the table itself has no place, and has to touch
   // it: mutter would take it away.
   const QRect Table = (PlacesWindows() ? table->geometry() : table->rect()) + FrameOf(*table);
-  const int Gap = PlacesWindows() ? Pixels(GapToTable) : 0;
+  const int Gap = PlacesWindows() ? GapToTable : 0;
   int Left = Table.right() + 1 + Gap;
   if (PlacesWindows() ? Left > table->screen()->geometry().right() : turned)
     Left = Table.left() - Gap - FramePlace(*this).width();
@@ -134,7 +126,7 @@ void frmScorePad::paintEvent(QPaintEvent*) {
   Painter.fillRect(QRectF(0, HeadHeight, width(), 1), Brass);
   Painter.fillRect(QRectF(0, HeadHeight + 1, width(), 2), Thin(Shade, 0.35));
   for (int i = 0; i < m.NumPlayers; ++i) {
-    const QRectF Row(Margin, Pixels(FirstRow + RowPitch * i) - 4, width() - 2 * Margin, RowStrip);
+    const QRectF Row(Margin, FirstRow + RowPitch * i - 4, width() - 2 * Margin, RowStrip);
     if (i == m.CurrentPlayer) {
       DrawPlate(Painter, Row, Round, Navy);
       Painter.setPen(Qt::NoPen);
@@ -178,7 +170,7 @@ void frmScorePad::Form_Activate() {
   label_break_in->setText(QStringLiteral("(%1 to break in)").arg(m.BreakInScore));
   for (int i = 0; i < m.NumPlayers; ++i) lblPlayer[i]->setText(QString::fromStdString(m.PlayerName[i]));
   const int LastSeat = m.NumPlayers > 1 ? m.NumPlayers - 1 : 1;
-  FixSize(*this, {Pixels(Width), Pixels(FirstRow + RowPitch * LastSeat + RowHeight)});
+  FixSize(*this, {Width, FirstRow + RowPitch * LastSeat + RowHeight});
   UpdateActivePlayer();
 }
 
