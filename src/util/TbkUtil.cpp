@@ -12,7 +12,6 @@
 #include <QTextStream>
 #include <QThread>
 #include <QTimer>
-#include <QUrl>
 #include <QVersionNumber>
 
 #include <optional>
@@ -23,15 +22,12 @@ namespace blunko {
 
 namespace {
 
-constexpr qint64 LongestAnswer = 64;  // bytes
-constexpr int LongestEnd = 200;       // ms that a killed program may take
-
 /// Value of the first line of a system file that begins with `Name`, as "model name : ...".
 QString ValueFrom(const QString& Path, const QByteArray& Name) {
   QFile File(Path);
   if (!File.open(QIODevice::ReadOnly)) return {};
   for (const QByteArray& Line : File.readAll().split('\n')) {
-    if (Line.startsWith(Name)) return QString::fromUtf8(Line.mid(Line.indexOf(':') + 1).trimmed());
+    if (Line.startsWith(Name)) return QString::fromUtf8(Line).section(':', 1).trimmed();
   }
   return {};
 }
@@ -74,26 +70,20 @@ void TbkUtil::UtilSurveyHardware() const {
 }
 
 TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revision) const {
-  const QUrl Address(versionAddress);
-  if (Address.scheme() != QLatin1String("http") && Address.scheme() != QLatin1String("https")) return VersionError;
   auto* const Asker = new QProcess;
-  Asker->setStandardErrorFile(QProcess::nullDevice());
   QEventLoop Loop;
-  const auto Look = [&] {
-    if (Asker->state() == QProcess::NotRunning || Asker->bytesAvailable() > LongestAnswer) Loop.quit();
-  };
-  QObject::connect(Asker, &QProcess::stateChanged, &Loop, Look);
-  QObject::connect(Asker, &QProcess::readyRead, &Loop, Look);
+  QObject::connect(Asker, &QProcess::stateChanged, &Loop, [&](QProcess::ProcessState State) {
+    if (State == QProcess::NotRunning) Loop.quit();
+  });
   QTimer::singleShot(timeLimit, Qt::PreciseTimer, &Loop, &QEventLoop::quit);
   Asker->start(asker.isEmpty() ? VersionAsker() : asker, {versionAddress});
   if (Asker->state() != QProcess::NotRunning) Loop.exec(QEventLoop::ExcludeUserInputEvents);
 
-  // One that failed has printed nothing.
-  const bool Answered = Asker->state() == QProcess::NotRunning && Asker->bytesAvailable() <= LongestAnswer;
-  const auto Newest = Answered ? ParseVersion(Asker->readAll()) : std::nullopt;
-  Asker->kill();
-  // One that the system doesn't let go at once is left to itself: its object would wait for it.
-  if (Asker->state() == QProcess::NotRunning || Asker->waitForFinished(LongestEnd)) delete Asker;
+  // One that failed has printed nothing. One that the system doesn't let go at once is not waited for.
+  const bool Ended = Asker->state() == QProcess::NotRunning;
+  const auto Newest = Ended ? ParseVersion(Asker->readAll()) : std::nullopt;
+  QObject::connect(Asker, &QProcess::stateChanged, Asker, &QObject::deleteLater);
+  Ended ? Asker->deleteLater() : Asker->kill();
   if (!Newest) return VersionError;
   return *Newest > QVersionNumber(Major, Minor, Revision) ? NewerExists : UpToDate;
 }

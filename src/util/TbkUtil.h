@@ -22,7 +22,7 @@ class TbkUtil {
   /// and nothing is sent anywhere. Failure is silent.
   void UtilSurveyHardware() const;
 
-  enum VersionAnswer { VersionError = 0, UpToDate = 1, NewerExists = 2 };
+  enum VersionAnswer { VersionError, UpToDate, NewerExists };
   /// Compares with the newest version. Anything unexpected is an error, and so is no answer within the time limit.
   VersionAnswer UtilCheckVersion(int Major, int Minor, int Revision) const;
 

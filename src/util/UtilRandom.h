@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <random>
 
@@ -17,13 +18,12 @@ class FairDice : public NumberSource {
 
   /// 1 to `Bound`; a bound below 1 counts as 1.
   std::int32_t UtilRandom(std::int32_t Bound) override {
-    const std::uint32_t Range = Bound < 1 ? 1U : static_cast<std::uint32_t>(Bound);
+    const auto Range = static_cast<std::uint32_t>(std::max(Bound, 1));
     // The high half of draw * range is the result; the draws whose low half falls short would favour some faces.
-    std::uint64_t Product = std::uint64_t{NextWord()} * Range;
-    if (static_cast<std::uint32_t>(Product) < Range) {
-      const std::uint32_t Reject = (0U - Range) % Range;
-      while (static_cast<std::uint32_t>(Product) < Reject) Product = std::uint64_t{NextWord()} * Range;
-    }
+    const std::uint32_t Reject = -Range % Range;
+    std::uint64_t Product = 0;
+    do Product = std::uint64_t{NextWord()} * Range;
+    while (static_cast<std::uint32_t>(Product) < Reject);
     return static_cast<std::int32_t>(Product >> 32) + 1;
   }
 

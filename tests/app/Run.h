@@ -53,11 +53,7 @@ inline void ExpectSeenAs(const QString& Kept, QWidget& Form) {
       Form.grab().scaled(Form.size() / 4, {}, Qt::SmoothTransformation).toImage().convertToFormat(QImage::Format_RGB32);
   if (qEnvironmentVariableIsSet("TBK_KEEP_FORMS")) Now.save(Kept);
   const QImage Then = QImage(Kept).convertToFormat(Now.format());
-  ASSERT_EQ(Now.size(), Then.size()) << Kept.toStdString();
-  for (qsizetype i = 0; i < Now.sizeInBytes(); ++i) {
-    const qsizetype Row = i / Now.bytesPerLine(), Column = i % Now.bytesPerLine() / 4;
-    ASSERT_NEAR(Now.constBits()[i], Then.constBits()[i], 4) << Kept.toStdString() << ", " << Column << ", " << Row;
-  }
+  EXPECT_TRUE(Now == Then) << Kept.toStdString();
 }
 
 /// Holds what a window says it consists of, a line a part, against what tests/app/forms keeps. A change there is looked
@@ -88,7 +84,8 @@ inline void ExpectAsKept(QWidget& Form, const QString& State = {}) {
     }
   }
   EXPECT_EQ(Expected, Got) << Kept.toStdString();
-  if (QT_VERSION < QT_VERSION_CHECK(6, 5, 0) && Form.devicePixelRatioF() == 1) {
+  const bool RoundsAlike = QT_VERSION < QT_VERSION_CHECK(6, 5, 0) && QSysInfo::buildCpuArchitecture() == "x86_64";
+  if (RoundsAlike && Form.devicePixelRatioF() == 1) {
     ExpectSeenAs(Kept.replace(".txt", ".png"), Form);
   }
 }
