@@ -13,9 +13,11 @@ namespace blunko {
 /// may well be good, but the system didn't hand it out; so is a link that leads to nothing.
 enum class FileState { Whole, Missing, Foreign, Unreadable };
 
+/// Bytes of a file of the game's own, which holds some thousands.
+inline constexpr qint64 LargestFile = 1 << 20;
 /// All bytes of a plain file of at most `Limit` bytes; nothing in every state but `Whole`. Waits for nobody, whatever
 /// stands there.
-std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit, FileState* State = nullptr);
+std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit = LargestFile, FileState* State = nullptr);
 
 /// Tells a file from what another copy of the program, or its owner, made of it, without reading it.
 struct FileStamp {

@@ -15,7 +15,6 @@ namespace {
 
 const QString FolderName = QStringLiteral("tollmoor-blunko");
 constexpr QFile::Permissions OwnerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
-constexpr qint64 LargestState = 1 << 20;  // bytes of a file
 
 /// Makes the folder and those above it that are missing, closed to everybody else.
 bool MakePrivate(const QString& Folder) {
@@ -33,7 +32,7 @@ QString InstalledFiles(const QString& Program) {
 void TakeOver(const QString& From, const QString& To) {
   if (From == To || QFileInfo::exists(To)) return;
   const FileLock Lock(To);
-  const auto Bytes = ReadWholeFile(From, LargestState);
+  const auto Bytes = ReadWholeFile(From);
   if (Lock.IsHeld() && Bytes && !QFileInfo::exists(To)) ReplaceFile(To, *Bytes);
 }
 

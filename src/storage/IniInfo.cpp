@@ -13,8 +13,7 @@ namespace blunko {
 
 namespace {
 
-constexpr qint64 LargestFile = 1 << 20;  // bytes; an info file has some thousands
-constexpr qint64 ClockStep = 20;         // ms: the longest time in which a file system's clock may stand still
+constexpr qint64 ClockStep = 20;  // ms: the longest time in which a file system's clock may stand still
 const QByteArray Section = "Info";
 const QByteArray ByteOrderMark = "\xEF\xBB\xBF";
 

@@ -10,7 +10,6 @@ namespace blunko {
 
 namespace {
 
-constexpr qint64 LargestFile = 1 << 16;  // bytes; the lists have some hundreds
 const QString TurnWord = QStringLiteral("turn");
 
 }  // namespace
