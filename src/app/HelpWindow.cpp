@@ -76,7 +76,6 @@ HelpWindow::HelpWindow(const QString& Folder, const QWidget* Beside) : folder(Fo
   LayOut();
   ConnectControls();
   ConnectKeys();
-  FixButtonColours(*this);
   for (const QString& Name : Pages) AddPage(Name);
   setStyleSheet(PaperStyle());
   PlaceBeside(Beside);

@@ -12,7 +12,6 @@
 namespace blunko {
 
 const QColor TipsColour(165, 205, 255);
-const QColor ExitColour(145, 195, 255);
 constexpr QSize ButtonSize(300, 36);  // px, at least
 constexpr QSize DiceSize(344, 92);    // px: with its frame no wider than the table
 
@@ -28,7 +27,6 @@ frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
   cmdWebSite = MakeButton(this, "cmdWebSite", "Visit Tollmoor Games's Web Site", [] { OpenInShell(WebSite); });
   cmdExit = MakeButton(this, "cmdExit", "Start Playing Blunko!", &QDialog::accept);
   cmdTips->setBackColor(TipsColour);
-  cmdExit->setBackColor(ExitColour);
   SetFirst(cmdExit);
   lblCheck = Make<TickBox>(this, "lblCheck");
   lblShowWelcome = MakeWordsOf(lblCheck, "lblShowWelcome", "Show this welcome window");

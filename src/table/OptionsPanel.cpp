@@ -57,7 +57,6 @@ OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QS
   BuildLists();
   BuildSwatches();
   BuildCommands();
-  FixButtonColours(*this);
   // A style sheet keeps the panel's colours from being inherited.
   for (auto* Option : findChildren<QAbstractButton*>()) Option->setPalette(palette());
   lower();

@@ -64,7 +64,6 @@ void TableParts::PlaceRest() {
   PlaceButtons();
   PlaceLabels();
   BuildMenus();
-  FixButtonColours(*this);
 }
 
 void TableParts::PlaceTrays() {

@@ -1,6 +1,5 @@
 #include "widgets/ButtonPlus.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -10,14 +9,7 @@
 
 namespace blunko {
 
-namespace {
-
 constexpr int CaptionSpace = 8;  // px at either side
-
-/// The style of that name is the plain look of a desktop that has no theme.
-bool IsThemeActive() { return QApplication::style()->name() != QLatin1String("windows"); }
-
-}  // namespace
 
 ButtonPlus::ButtonPlus(const QString& Caption, QWidget* Parent) : QPushButton(Caption, Parent), body(ButtonNavy) {
   setFont(FontOf(Typeface::Verdana, 9.75));
@@ -25,16 +17,11 @@ ButtonPlus::ButtonPlus(const QString& Caption, QWidget* Parent) : QPushButton(Ca
   setAutoDefault(true);  // Enter presses it, too
 }
 
-void ButtonPlus::setBackColor(const QColor& Colour) { setBody(Mixed(ButtonNavy, Colour, 0.2)); }
-
-void ButtonPlus::setBody(const QColor& Colour) {
-  body = Colour;
-  update();
-}
+void ButtonPlus::setBackColor(const QColor& Colour) { body = Mixed(ButtonNavy, Colour, 0.2); }
 
 void ButtonPlus::setHero() {
   hero = true;
-  setBody(HeroNavy);
+  body = HeroNavy;
 }
 
 QSize ButtonPlus::sizeHint() const {
@@ -62,12 +49,6 @@ void ButtonPlus::paintEvent(QPaintEvent*) {
   Painter.drawText(Room.translated(0, -1), How, text());
   Painter.setPen(Ink);
   Painter.drawText(Room, How, text());
-}
-
-void FixButtonColours(QWidget& Form) {
-  if (IsThemeActive()) return;
-  const QColor Face = QApplication::palette().color(QPalette::Button);
-  for (ButtonPlus* Button : Form.findChildren<ButtonPlus*>()) Button->setBody(Face);
 }
 
 }  // namespace blunko

@@ -14,8 +14,6 @@ class ButtonPlus : public QPushButton {
   explicit ButtonPlus(const QString& Caption, QWidget* Parent = nullptr);
 
   void setBackColor(const QColor& Colour);
-  /// The whole body in a colour.
-  void setBody(const QColor& Colour);
   /// One of the few that a window is there for.
   void setHero();
 
@@ -29,9 +27,5 @@ class ButtonPlus : public QPushButton {
   QColor body;
   bool hero = false;
 };
-
-/// Buttons keep their own colours on a desktop with a theme; else every button of the form gets the system's
-/// button-face colour.
-void FixButtonColours(QWidget& Form);
 
 }  // namespace blunko

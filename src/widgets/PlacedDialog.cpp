@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <chrono>
 
-#include "widgets/ButtonPlus.h"
 #include "widgets/X11.h"
 
 namespace blunko {
@@ -129,7 +128,6 @@ void PlacedDialog::setVisible(bool Visible) {
   if (Visible && !isVisible()) {
     if (lining == Cloth::Pearl && styleSheet().isEmpty()) setStyleSheet(PaperStyle());
     ensurePolished();
-    FixButtonColours(*this);
     if (layout() != nullptr) layout()->activate();
     if (!testAttribute(Qt::WA_Resized)) adjustSize();
     Place();

@@ -138,9 +138,14 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   Run->Controls.Busted = true;
   Form.Wears.TextColour = 0xFFFFFF;  // letters that stand out by their edge alone
   for (QWidget* Part : Form.findChildren<QWidget*>()) Part->setAttribute(Qt::WA_UnderMouse);
+  Form.cmdHighRollers->setDown(true);
   Form.ShowControls();
   ExpectAsKept(Form, "-last-turn");
-  Next.Press(&GameBox::cmdYes);
+  Form.cmdHighRollers->setDown(false);
+  Next.Expect<GameBox>([](GameBox& Box) {
+    ExpectAsKept(Box, "-question");
+    Click(Box.cmdYes);
+  });
   Next.Expect<frmNewGame>([&](frmNewGame& Dialog) {
     EXPECT_TRUE(Form.ARCmdNewGame->isVisible()) << "behind a dialog the table stands as the game has it";
     Dialog.reject();
