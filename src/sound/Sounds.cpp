@@ -22,11 +22,10 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Milliseconds = Sounds::Milliseconds;
 
-constexpr qint64 LargestFile = 32 << 20;            // bytes
-constexpr qint64 LargestSound = 256 << 20;          // bytes in the device's form, 25 minutes
-constexpr Milliseconds LongestOpening{2000};        // a sound that comes later than this no longer fits
-constexpr Milliseconds LongestClosing{500};         // at the program's end
-constexpr std::size_t MostWaiting = 16;             // sounds, while a device or a disk hangs
+constexpr qint64 Largest = 128 << 20;         // bytes of a file, and of its sound in the device's form: 12 minutes
+constexpr Milliseconds LongestOpening{2000};  // a sound that comes later than this no longer fits
+constexpr Milliseconds LongestClosing{500};   // at the program's end
+constexpr std::size_t MostWaiting = 16;       // sounds, while a device or a disk hangs
 constexpr int DeviceRate = 44100, DeviceFrame = 4;  // Hz; bytes of two channels of 16 bits
 constexpr int DevicePeriod = 1024;                  // samples, 23 ms
 
@@ -35,7 +34,7 @@ constexpr int DevicePeriod = 1024;                  // samples, 23 ms
 struct SoundLibrary {
   /// A device that calls `Feed` for its samples; 0 when there is none.
   SDL_AudioDeviceID Open(SDL_AudioCallback Feed, void* Player) const;
-  void Close(SDL_AudioDeviceID Device) const;
+  void Close() const;
   bool Works(SDL_AudioDeviceID Device) const { return GetAudioDeviceStatus(Device) != SDL_AUDIO_STOPPED; }
   /// The samples of a wave file as the device takes them; nothing for what is no wave.
   QByteArray InDeviceForm(const QByteArray& File) const;
@@ -54,7 +53,6 @@ struct SoundLibrary {
   decltype(&SDL_AudioInit) AudioInit = Find("SDL_AudioInit");
   decltype(&SDL_AudioQuit) AudioQuit = Find("SDL_AudioQuit");
   decltype(&SDL_OpenAudioDevice) OpenAudioDevice = Find("SDL_OpenAudioDevice");
-  decltype(&SDL_CloseAudioDevice) CloseAudioDevice = Find("SDL_CloseAudioDevice");
   decltype(&SDL_PauseAudioDevice) PauseAudioDevice = Find("SDL_PauseAudioDevice");
   decltype(&SDL_GetAudioDeviceStatus) GetAudioDeviceStatus = Find("SDL_GetAudioDeviceStatus");
   decltype(&SDL_RWFromConstMem) RWFromConstMem = Find("SDL_RWFromConstMem");
@@ -83,27 +81,26 @@ SDL_AudioDeviceID SoundLibrary::Open(SDL_AudioCallback Feed, void* Player) const
   Form.callback = Feed;
   Form.userdata = Player;
   const SDL_AudioDeviceID Device = OpenAudioDevice(nullptr, 0, &Form, nullptr, 0);
-  if (Device != 0) PauseAudioDevice(Device, 0);
+  PauseAudioDevice(Device, 0);
   return Device;
 }
 
-void SoundLibrary::Close(SDL_AudioDeviceID Device) const {
+void SoundLibrary::Close() const {
   if (!file.isLoaded()) return;
-  if (Device != 0) CloseAudioDevice(Device);
-  AudioQuit();
+  AudioQuit();   // the device is closed with it
   TLSCleanup();  // what the library keeps for this thread
 }
 
 QByteArray SoundLibrary::InDeviceForm(const QByteArray& File) const {
   SDL_AudioSpec Form{};
   Uint8* Wave = nullptr;
-  Uint32 Length = 0;
+  Uint32 Length{};
   SDL_RWops* const Source = RWFromConstMem(File.constData(), static_cast<int>(File.size()));
   if (Source == nullptr || LoadWAV_RW(Source, 1, &Form, &Wave, &Length) == nullptr) return {};
   const std::unique_ptr<Uint8, decltype(&SDL_FreeWAV)> Owner(Wave, FreeWAV);
   SDL_AudioCVT Converter{};
   if (BuildAudioCVT(&Converter, Form.format, Form.channels, Form.freq, AUDIO_S16SYS, 2, DeviceRate) < 0 ||
-      qint64{Length} * Converter.len_mult > LargestSound) {
+      qint64{Length} * Converter.len_mult > Largest) {
     return {};
   }
   QByteArray Sound(static_cast<qsizetype>(qint64{Length} * Converter.len_mult), Qt::Uninitialized);
@@ -118,8 +115,8 @@ QByteArray SoundLibrary::InDeviceForm(const QByteArray& File) const {
 /// A plain file of no more than the largest size; empty for anything else. A pipe or a device isn't even opened.
 QByteArray ReadSoundFile(const QString& Path) {
   QFile File(Path);
-  if (!QFileInfo(Path).isFile() || File.size() > LargestFile || !File.open(QIODevice::ReadOnly)) return {};
-  return File.read(LargestFile);
+  if (!QFileInfo(Path).isFile() || File.size() > Largest || !File.open(QIODevice::ReadOnly)) return {};
+  return File.read(Largest);
 }
 
 }  // namespace
@@ -170,7 +167,7 @@ void Sounds::Player::Run() {
       sound.clear();
     }
     Lock.unlock();
-    Library.Close(Device);
+    Library.Close();
     Lock.lock();
   }  // a sound can be asked for while the device closes
   running = false;

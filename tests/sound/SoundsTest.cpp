@@ -28,6 +28,8 @@ struct SoundRecorder : Place {
     qputenv("SDL_AUDIODRIVER", "disk");
     qputenv("SDL_DISKAUDIODELAY", Period);
     qputenv("SDL_DISKAUDIOFILE", QFile::encodeName(recorded));
+    for (const char* Wish : {"SDL_AUDIO_FREQUENCY", "SDL_AUDIO_CHANNELS"}) qputenv(Wish, "1");  // of other programs
+    qputenv("SDL_AUDIO_FORMAT", "U8");
   }
   ~SoundRecorder() { qputenv("SDL_AUDIODRIVER", "dummy"); }
   Q_DISABLE_COPY_MOVE(SoundRecorder)
@@ -128,9 +130,12 @@ TEST(Sounds, UsualWavesSoundAlikeAndWhatIsNoneGivesWayToTheNext) {
 TEST(Sounds, WithoutADeviceNothingWaitsAndLaterItIsTriedAgain) {
   const SoundRecorder Recorder("1");
   const QString File = Recorder.Put("wave.wav", Wave{}.File());
-  qputenv("SDL_AUDIODRIVER", "nosuch");
+  qputenv("SDL_AUDIODRIVER", "alsa");
+  qputenv("ALSA_CONFIG_PATH", "/dev/null");  // knows no device
+  testing::internal::CaptureStderr();
   Sounds Player(Milliseconds(2000), Milliseconds(1000));
   PlayToEnd(Player, File);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
   qputenv("SDL_AUDIODRIVER", "disk");
   Player.Play(File);
   EXPECT_FALSE(Player.IsPlaying());  // too early
