@@ -117,16 +117,16 @@ void frmScorePad::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
   Painter.setRenderHint(QPainter::Antialiasing);
   Painter.setPen(Qt::NoPen);
-  const QRectF Head(0, 0, width(), HeadHeight);
-  QLinearGradient Fall({0, HeadHeight}, {width() * 0.6, height() * 1.0});
+  const qreal Wide = width(), High = height();
+  QLinearGradient Fall({0, HeadHeight}, {Wide * 0.6, High});
   Fall.setColorAt(0, FormBlue.lighter(104));
   Fall.setColorAt(1, FormBlue.darker(107));
   Painter.fillRect(rect(), Fall);
-  DrawNavy(Painter, Head);
-  Painter.fillRect(QRectF(0, HeadHeight, width(), 1), Brass);
-  Painter.fillRect(QRectF(0, HeadHeight + 1, width(), 2), Thin(Shade, 0.35));
+  DrawNavy(Painter, {0, 0, Wide, HeadHeight});
+  Painter.fillRect(QRectF(0, HeadHeight, Wide, 1), Brass);
+  Painter.fillRect(QRectF(0, HeadHeight + 1, Wide, 2), Thin(Shade, 0.35));
   for (int i = 0; i < m.NumPlayers; ++i) {
-    const QRectF Row(Margin, FirstRow + RowPitch * i - 4, width() - 2 * Margin, RowStrip);
+    const QRectF Row(Margin, FirstRow + RowPitch * i - 4, Wide - 2 * Margin, RowStrip);
     if (i == m.CurrentPlayer) {
       DrawPlate(Painter, Row, Round, Navy);
       Painter.setPen(Qt::NoPen);
@@ -144,19 +144,17 @@ void frmScorePad::paintEvent(QPaintEvent*) {
     Painter.drawRoundedRect(Row, Round, Round);
     Painter.fillRect(QRectF(Row.left() + Round, Row.top(), Row.width() - 2 * Round, 1), Thin(Qt::white, 0.5));
   }
-  for (const QRectF& Rail : {QRectF(0, 0, Wood, height()),
-                             {width() - Wood, 0, Wood, height() * 1.0},
-                             {0, height() - Wood, width() * 1.0, Wood}}) {
+  for (const QRectF& Rail : {QRectF(0, 0, Wood, High), {Wide - Wood, 0, Wood, High}, {0, High - Wood, Wide, Wood}}) {
     Painter.fillRect(Rail, Walnut);
   }
   Painter.setBrush(Qt::NoBrush);
   Painter.setPen(WalnutDark);
-  Painter.drawPolyline(QPolygonF{{0.5, 0}, {0.5, height() - 0.5}, {width() - 0.5, height() - 0.5}, {width() - 0.5, 0}});
+  Painter.drawPolyline(QPolygonF{{0.5, 0}, {0.5, High - 0.5}, {Wide - 0.5, High - 0.5}, {Wide - 0.5, 0}});
   Painter.setPen(Thin(Brass, 0.9));
   Painter.drawPolyline(QPolygonF{{Wood + 0.5, 0},
-                                 {Wood + 0.5, height() - Wood - 0.5},
-                                 {width() - Wood - 0.5, height() - Wood - 0.5},
-                                 {width() - Wood - 0.5, 0}});
+                                 {Wood + 0.5, High - Wood - 0.5},
+                                 {Wide - Wood - 0.5, High - Wood - 0.5},
+                                 {Wide - Wood - 0.5, 0}});
 }
 
 QList<QWidget*> frmScorePad::Rows() const {

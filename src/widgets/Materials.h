@@ -69,10 +69,10 @@ QPixmap Felt(const QSize& Size, const QColor& Colour, qreal Scale);
 
 /// How a button looks at the moment.
 struct ButtonLook {
-  QColor Base;        ///< the middle of its face
-  bool Hero = false;  ///< one of those that the game is played with: in gold, and the ground's light in it
-  bool On = true;     ///< else engraved
-  bool Down = false, Focused = false;
+  QColor Base;  ///< the middle of its face
+  bool Hero;    ///< one of those that the game is played with: in gold, and the ground's light in it
+  bool On;      ///< else engraved
+  bool Down, Focused;
 };
 /// Draws the body, and returns the colour for the caption.
 QColor DrawButton(QPainter& Painter, const QRectF& Face, const ButtonLook& Look);

@@ -68,7 +68,6 @@ const QPixmap& Bitmaps::ShadowOf(int Number, qreal Scale) {
     Painter.drawPixmap(Place, Picture);
     Painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     Painter.fillRect(QRectF(QPointF(), Size), Thin(Qt::black, Strength));
-    Painter.end();
     QPainter(&Both).drawImage(QPoint(), Blurred(Shadow.toImage(), Blur * Scale));
   }
   return Both;

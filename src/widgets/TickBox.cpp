@@ -15,16 +15,16 @@ QSize TickBox::sizeHint() const { return {Side + 2 * FocusRingWidth, Side + 2 * 
 void TickBox::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
   Painter.setRenderHint(QPainter::Antialiasing);
-  Painter.translate((width() - Side) / 2.0, (height() - Side) / 2.0);
+  Painter.translate((width() - Side) / 2, (height() - Side) / 2);
   const QRectF Square(0.5, 0.5, Side - 1, Side - 1);
   if (hasFocus()) {
     constexpr qreal Around = FocusRingWidth + 0.5;
     DrawFocusRing(Painter, Square.adjusted(-Around, -Around, Around, Around), FocusRingWidth);
   }
   Painter.setPen(QPen(Mixed(Brass, WalnutDark, 0.3), 1));
-  Painter.setBrush(isEnabled() && !isDown() ? Paper : Paper.darker(115));
+  Painter.setBrush(isDown() ? Paper.darker(115) : Paper);
   Painter.drawRoundedRect(Square, 2.5, 2.5);
-  if (isChecked()) DrawTick(Painter, QRectF(0, 0, Side, Side), isEnabled() ? PaperInk : Mixed(PaperInk, Paper, 0.5));
+  if (isChecked()) DrawTick(Painter, QRectF(0, 0, Side, Side), PaperInk);
 }
 
 void DrawTick(QPainter& Painter, const QRectF& Place, const QColor& Colour) {
