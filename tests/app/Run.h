@@ -47,10 +47,10 @@ struct Desk : Table {
   Desk() { InstallAccessibility(); }
 };
 
-/// Holds what a window looks like, at a quarter of its size, against the picture kept.
+/// Holds what a window looks like, at half its size, against the picture kept.
 inline void ExpectSeenAs(const QString& Kept, QWidget& Form) {
   const QImage Now =
-      Form.grab().scaled(Form.size() / 4, {}, Qt::SmoothTransformation).toImage().convertToFormat(QImage::Format_RGB32);
+      Form.grab().scaled(Form.size() / 2, {}, Qt::SmoothTransformation).toImage().convertToFormat(QImage::Format_RGB32);
   if (qEnvironmentVariableIsSet("TBK_KEEP_FORMS")) Now.save(Kept);
   const QImage Then = QImage(Kept).convertToFormat(Now.format());
   EXPECT_TRUE(Now == Then) << Kept.toStdString();
@@ -85,7 +85,7 @@ inline void ExpectAsKept(QWidget& Form, const QString& State = {}) {
   }
   EXPECT_EQ(Expected, Got) << Kept.toStdString();
   const bool RoundsAlike = QT_VERSION < QT_VERSION_CHECK(6, 5, 0) && QSysInfo::buildCpuArchitecture() == "x86_64";
-  if (RoundsAlike && Form.devicePixelRatioF() == 1) {
+  if (RoundsAlike && Form.devicePixelRatioF() == 2) {
     ExpectSeenAs(Kept.replace(".txt", ".png"), Form);
   }
 }

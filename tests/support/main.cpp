@@ -4,9 +4,14 @@
 
 #include "widgets/Materials.h"
 
-// With the rings of the game, and outliving its windows as the game does.
+// With the rings of the game, and outliving its windows as the game does. Unless a scale is set, the windows have twice
+// their size, on a screen that holds them and gives them frames: that shows more.
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
+  if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
+    qputenv("QT_SCALE_FACTOR", "2");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" TBK_SCREEN);
+  }
   QApplication app(argc, argv);
   blunko::RingStandardControls();
   QApplication::setQuitOnLastWindowClosed(false);
