@@ -133,7 +133,9 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   ExpectAsKept(Form, "-options");
   Key(Qt::Key_Escape);
   Roll(35, {1, 2, 3, 4, 5});
-  Run->Controls.lblLastRoll.Caption = "(Last Roll - Need 5050 To Win)";
+  Run->Controls.lblStatus.Caption = "Roll, select, or pass the dice. (Undo)";  // the longest texts
+  Run->Controls.lblLastRoll.Caption = "(Last Roll - Need 32767 To Take The Lead)";
+  Run->Controls.lblPlayer.Caption = "WWWWWWWWWWWWWW";
   Run->Controls.ShowLastRoll();
   Run->Controls.Busted = true;
   Form.Wears.TextColour = 0xFFFFFF;  // letters that stand out by their edge alone

@@ -1,5 +1,4 @@
 #include <QAction>
-#include <QBitmap>
 #include <QMenu>
 #include <QScreen>
 #include <QWheelEvent>
@@ -212,24 +211,6 @@ TEST_F(TheTable, AllOfItIsReachedOnALowScreen) {
   Form.cmdHighRollers->setFocus();
   QTest::keyClick(Form.cmdHighRollers, Qt::Key_Tab);
   EXPECT_EQ(Form.cmdExit->mapToGlobal(Form.cmdExit->rect().bottomLeft()).y() + 12, Screen.bottom());
-}
-
-TEST_F(TheTable, NoTextIsCut) {
-  Begin({"WWWWWWWWWWWWWW", "Bob"});
-  Form.Wears.TextColour = 0x0000FF;
-  t.lblTurnScore.Caption = "32767";
-  t.lblLastRoll.Caption = "(Last Roll - Need 32767 To Take The Lead)";
-  t.ShowLastRoll();
-  for (const char* Status : {"Select Dice or Pass Dice. (Undo)", "Roll, select, or pass the dice. (Undo)"}) {
-    t.lblStatus.Caption = Status;
-    Form.ShowControls();
-    for (FitLabel* Label : Form.picGameTray->findChildren<FitLabel*>()) {
-      const QPixmap Seen = Label->grab();
-      const QRect Ink = QRegion(Seen.createMaskFromColor(Qt::red, Qt::MaskOutColor)).boundingRect();
-      const bool Whole = Ink.width() > 4 && Seen.rect().adjusted(0, 0, -1, 0).contains(Ink);
-      EXPECT_TRUE(Whole || Label->text().isEmpty()) << Label->objectName().toStdString();
-    }
-  }
 }
 
 }  // namespace blunko::test
