@@ -47,9 +47,8 @@ OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QS
   setAccessibleName(QStringLiteral("Options"));
   resize(PanelSize);
   setFont(FontOf(Typeface::Verdana, 8.25));
-  const QColor Ink = palette().color(QPalette::HighlightedText);
-  SetColours(*this, {{QPalette::WindowText, Contrast(Ink, Navy) < 4.5 ? Ivory : Ink}});
-  setStyleSheet(FrameStyle.arg(palette().color(QPalette::WindowText).name()) + PaperStyle());
+  SetColours(*this, {{QPalette::WindowText, Ivory}});
+  setStyleSheet(FrameStyle.arg(Ivory.name()) + PaperStyle());
   frames = new QVBoxLayout(this);
   frames->setContentsMargins(6, 3, 6 + width() - StripWidth, 6);
   frames->setSpacing(3);

@@ -129,7 +129,6 @@ void frmScorePad::paintEvent(QPaintEvent*) {
     const QRectF Row(Margin, FirstRow + RowPitch * i - 4, Wide - 2 * Margin, RowStrip);
     if (i == m.CurrentPlayer) {
       DrawPlate(Painter, Row, Round, Navy);
-      Painter.setPen(Qt::NoPen);
       Painter.setBrush(SeatOnTurn);
       const QPointF Tip(Row.left() + 2 + Mark * 1.5, Row.center().y());
       Painter.drawPolygon(QPolygonF{Tip, Tip + QPointF(-Mark * 1.5, -Mark), Tip + QPointF(-Mark * 1.5, Mark)});

@@ -75,7 +75,7 @@ inline void ExpectAsKept(QWidget& Form, const QString& State = {}) {
   QString All = Found.join('\n') + '\n';
   for (const QString& Set : {WebSite, SupportMail}) All.replace(Set, QStringLiteral("(set by the build)"));
   const std::string Text = All.toStdString();
-  QString Kept = QStringLiteral(TBK_FORMS "/%1%2.txt").arg(Form.objectName(), State);
+  QString Kept = QStringLiteral(TBK_TESTS "/app/forms/%1%2.txt").arg(Form.objectName(), State);
   if (qEnvironmentVariableIsSet("TBK_KEEP_FORMS")) ReplaceFile(Kept, Text.c_str());
   std::string Expected = ReadWholeFile(Kept).value_or("").toStdString(), Got = Text;
   if (QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)) {  // later toolkits give a radio button another size

@@ -125,14 +125,17 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
     Key(Qt::Key_1);
   };
   Form.Wears.TextColour = 0x1800B0;  // letters with a hint of a shadow
-  Roll(30, {1, 1, 5, 2, 3, 4});
+  Roll(30, {1, 1, 2, 3, 5, 5});
   ExpectAsKept(Form, "-turn");
   ExpectAsKept(*Form.findChild<frmScorePad*>());
   Run->Controls.Busted = true;  // lost dice are pale, samples aren't
   Click(Form.cmdOptions);
+  Form.activateWindow();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Form.isActiveWindow(); }));
+  Form.findChild<QWidget*>("lblColor(2)")->setFocus();
   ExpectAsKept(Form, "-options");
   Key(Qt::Key_Escape);
-  Roll(35, {1, 2, 3, 4, 5});
+  Roll(35, {1, 1, 2, 5, 5});
   Run->Controls.lblStatus.Caption = "Roll, select, or pass the dice. (Undo)";  // the longest texts
   Run->Controls.lblLastRoll.Caption = "(Last Roll - Need 32767 To Take The Lead)";
   Run->Controls.lblPlayer.Caption = "WWWWWWWWWWWWWW";

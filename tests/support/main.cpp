@@ -10,7 +10,7 @@ int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
     qputenv("QT_SCALE_FACTOR", "2");
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" TBK_SCREEN);
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" TBK_TESTS "/support/screen.json");
   }
   QApplication app(argc, argv);
   blunko::RingStandardControls();
