@@ -23,11 +23,11 @@ using Clock = std::chrono::steady_clock;
 using Milliseconds = Sounds::Milliseconds;
 
 constexpr qint64 Largest = 128 << 20;         // bytes of a file, and of its sound in the device's form: 12 minutes
-constexpr Milliseconds LongestOpening{2000};  // a sound that comes later than this no longer fits
+constexpr Milliseconds LongestOpening{2000};  // a sound that comes later than this no longer fits, nor goes on
 constexpr Milliseconds LongestClosing{500};   // at the program's end
 constexpr std::size_t MostWaiting = 16;       // sounds, while a device or a disk hangs
-constexpr int DeviceRate = 44100, DeviceFrame = 4;  // Hz; bytes of two channels of 16 bits
-constexpr int DevicePeriod = 1024;                  // samples, 23 ms
+constexpr int DeviceRate = 44100;             // Hz
+constexpr int DevicePeriod = 1024;            // samples, 23 ms
 
 /// The sound library, for the thread that makes it. It is loaded with the first sound: it would make up a good part of
 /// the start.
@@ -161,10 +161,9 @@ void Sounds::Player::Run() {
       if (!Usable || Sound.isEmpty() || Clock::now() > Latest) continue;
       waiting.clear();
       sound = std::move(Sound);
-      // A device that has hung up takes no more: it isn't waited for much beyond the time that the sound lasts.
-      const Milliseconds Lasts(sound.size() * 1000LL / (DeviceRate * DeviceFrame));
-      changed.wait_for(Lock, Lasts + LongestOpening, [this] { return sound.isEmpty() || stopping; });
-      sound.clear();
+      const auto Fed = [&] { return changed.wait_for(Lock, LongestOpening) == std::cv_status::no_timeout; };
+      while (!sound.isEmpty() && !stopping && Fed()) continue;
+      sound.clear();  // of a device that has hung up
     }
     Lock.unlock();
     Library.Close();
@@ -179,9 +178,10 @@ void Sounds::Player::Feed(void* Self, Uint8* Stream, int Length) {
   Player& p = *static_cast<Player*>(Self);
   const std::lock_guard Lock(p.mutex);
   const qsizetype Part = std::min<qsizetype>(Length, p.sound.size());
-  std::fill_n(std::copy_n(p.sound.constData(), Part, Stream), Length - Part, Uint8{0});
+  std::fill_n(Stream, Length, Uint8{});
+  std::copy_n(p.sound.constData(), Part, Stream);
   p.sound.remove(0, Part);
-  if (Part > 0 && p.sound.isEmpty()) p.changed.notify_all();
+  p.changed.notify_all();
 }
 
 Sounds::Sounds(Milliseconds IdleTime, Milliseconds RetryTime) : player(new Player{IdleTime, RetryTime}) {}
