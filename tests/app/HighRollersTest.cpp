@@ -14,7 +14,7 @@ TEST_F(TheProgram, ABankedTurnGoesThroughTheRealDialogs) {
   Run->State.Quitting = true;  // nobody is asked
   Run->Rollers.CheckHighTurn(std::string(80, 'n'), 1990);
   Run->State.Quitting = false;
-  Begin(2, false, "Player1");
+  Begin(2, 0, "Player1");
   Next.Expect<GameBox>([&](GameBox& Box) {
     EXPECT_EQ(Box.txtAnswer->text(), "Player1");
     ExpectAsKept(Box);

@@ -211,10 +211,11 @@ class TheProgram : public testing::Test {
     Dice->Faces = {2};
     ASSERT_TRUE(Run->Main());
   }
-  void Begin(int Seats, bool Computers, const char* Name = "Somebody") {
+  /// With a computer in every seat whose bit is set.
+  void Begin(int Seats, int Computers, const char* Name = "Somebody") {
     GameSetup Setup;
     Setup.NumPlayers = static_cast<std::uint8_t>(Seats);
-    for (auto& Seat : Setup.Seats) Seat = {Name, Computers, Simple};
+    for (int i = 0; i < MaxSeats; ++i) Setup.Seats[i] = {Name, (Computers >> i & 1) != 0, Simple};
     Run->Form->Handle([&] { Run->Table.FreshGame(Setup); });
   }
 };

@@ -70,7 +70,7 @@ TEST_F(Playing, EveryWayOutInsideEveryOtherLeavesTheTableOrEndsTheProgram) {
          Within(&GameBox::cmdNo, OutSoon);
          Next.Press(&GameBox::cmdYes);
          OutSoon();
-         Begin(8, true);
+         Begin(8, 0xFF);
        }},
   };
   for (const auto& Place : Places) {
@@ -79,7 +79,7 @@ TEST_F(Playing, EveryWayOutInsideEveryOtherLeavesTheTableOrEndsTheProgram) {
       SCOPED_TRACE(std::string(Place.Where) + ", " + Way);
       Start();
       const bool Plays = &Place != Places, Ends = Place.Asked[i] == '2';
-      if (Plays && !Ends) Begin(2, false);
+      if (Plays && !Ends) Begin(2, 0);
       Next.Seen.clear();
       Place.In(Out, Place.Asked[i]);
       EXPECT_EQ(std::ranges::count(Next.Seen, QuitGame), Place.Asked[i] - '0');
@@ -102,7 +102,7 @@ TEST_F(Playing, EveryFaceOfTumblingDiceIsPaintedAtOnce) {
     }
   } Seen;
   Start();
-  Begin(2, false);
+  Begin(2, 0);
   Run->Screen.WaitFactor = 0.5;
   ASSERT_TRUE(QTest::qWaitForWindowExposed(Run->Form.get(), 2000));
   for (int i = 0; i < 36; ++i) Dice->Faces.push_back(i < 30 ? (i / 6 + i % 6) % 6 + 1 : 36 - i);
@@ -117,7 +117,7 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   ExpectAsKept(Form, "-start");
   Run->Screen.SetMousePointer(MousePointer::Hourglass);
   EXPECT_EQ(Form.cursor().shape(), Qt::WaitCursor);
-  Begin(3, false);
+  Begin(3, 2);
   const auto Roll = [&](std::size_t Tumbling, std::initializer_list<int> Faces) {
     Dice->Faces.assign(Tumbling, 6);
     Dice->Faces.insert(Dice->Faces.end(), Faces);
@@ -156,7 +156,7 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
     Dialog.reject();
   });
   Key(Qt::Key_F2);
-  Begin(3, false);
+  Begin(3, 0);
   QEvent Quit(QEvent::Quit);  // told to die by the system
   QSpontaneKeyEvent::setSpontaneous(&Quit);
   qApp->notify(qApp, &Quit);
