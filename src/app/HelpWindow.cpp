@@ -252,8 +252,7 @@ void HelpWindow::MarkInContents(const QUrl& Source) {
   QTreeWidgetItem* Best = nullptr;
   for (QTreeWidgetItemIterator Item(Contents); *Item != nullptr; ++Item) {
     const QUrl Address = (*Item)->data(0, AddressRole).toUrl();
-    const bool SamePage = Address == Source.adjusted(QUrl::RemoveFragment);
-    if (Address == Source || (SamePage && Best == nullptr)) Best = *Item;
+    if (Address == Source.adjusted(QUrl::RemoveFragment) || Address == Source) Best = *Item;
   }
   Contents->setCurrentItem(Best);
 }
