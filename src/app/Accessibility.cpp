@@ -34,7 +34,7 @@ class AccessiblePart : public QAccessibleWidget {
   }
   QAccessible::State state() const override {
     QAccessible::State State = QAccessibleWidget::state();
-    State.invisible = State.invisible || text(QAccessible::Name).trimmed().isEmpty();
+    State.invisible |= text(QAccessible::Name).trimmed().isEmpty();
     return State;
   }
 };
@@ -67,7 +67,7 @@ class AccessibleDie : public AccessibleButton {
 
   QAccessible::State state() const override {
     QAccessible::State State = AccessibleButton::state();
-    State.disabled = State.disabled || !static_cast<DieBox*>(object())->IsTakeable();
+    State.disabled |= !static_cast<DieBox*>(object())->IsTakeable();
     return State;
   }
 };
@@ -80,7 +80,7 @@ class AccessibleWord : public AccessibleButton {
   QAccessible::State state() const override {
     QAccessible::State State = AccessibleButton::state();
     State.hasPopup = true;
-    State.invisible = State.invisible || widget()->focusPolicy() == Qt::NoFocus;
+    State.invisible |= widget()->focusPolicy() == Qt::NoFocus;
     return State;
   }
 };
@@ -102,7 +102,7 @@ class AccessiblePad : public QAccessibleWidget {
 
   int childCount() const override { return static_cast<int>(Rows().size()); }
   QAccessibleInterface* child(int Index) const override {
-    return Index >= 0 && Index < childCount() ? QAccessible::queryAccessibleInterface(Rows().at(Index)) : nullptr;
+    return QAccessible::queryAccessibleInterface(Rows().value(Index));
   }
   int indexOfChild(const QAccessibleInterface* Child) const override {
     return static_cast<int>(Rows().indexOf(static_cast<QWidget*>(Child->object())));
@@ -166,13 +166,16 @@ void PassOn(QAccessibleEvent& Event) {
 /// Of an announcement it is told only that it is there, of the table only where the focus is: TableNews tells the rest.
 void PassOnWhatCounts(QAccessibleEvent* Event) {
   const auto* Widget = qobject_cast<QWidget*>(Event->object());
-  const bool Announces = Widget != nullptr && qobject_cast<Announcer*>(Widget->parentWidget()) != nullptr;
-  if (Announces && Event->type() != QAccessible::ObjectShow) return;
+  if (Widget == nullptr) return PassOn(*Event);
+  const bool Announces = qobject_cast<Announcer*>(Widget->parentWidget()) != nullptr;
   // A focus that waits at the window, until a button or die is there again, is as good as where it was.
-  if (Event->type() == QAccessible::Focus && qobject_cast<frmMain*>(Event->object()) != nullptr) return;
-  if (Widget != nullptr && Event->type() != QAccessible::Focus && IsOfTable(Widget)) return;
-  if (Widget != nullptr && Widget->window()->windowHandle() == nullptr) return;  // never shown: nobody has read it
-  PassOn(*Event);
+  const bool Waits = qobject_cast<const frmMain*>(Widget) != nullptr;
+  const bool WasShown = Widget->window()->windowHandle() != nullptr;  // else nobody has read it
+  const QAccessible::Event Kind = Event->type();
+  const bool Counts = Kind == QAccessible::Focus ? !Waits
+                      : Announces                ? Kind == QAccessible::ObjectShow
+                                                 : !IsOfTable(Widget);
+  if (Counts && WasShown) PassOn(*Event);
 }
 
 }  // namespace

@@ -215,7 +215,7 @@ void frmNewGame::chkComputer_Click(int Index) {
 
 void frmNewGame::FitHeight(int Index) {
   layout()->activate();
-  const int Seats = Index < 1 ? 2 : Index + 1;
+  const int Seats = qMax(Index + 1, 2);
   const QSize Needed = layout()->minimumSize();
   FixSize(*this, {qMax(InnerWidth, Needed.width()), qMax(SmallestHeight + SeatPitch * (Seats - 2), Needed.height())});
 }

@@ -41,6 +41,8 @@ TEST(Help, ContentsGoToTheHeadingsAndLinksOutward) {
   for (const auto Key : {Qt::Key_Tab, Qt::Key_Return}) QTest::keyClick(&Window.Page, Key);
   EXPECT_EQ(Next.Opened, Lines{"https://example.org/a?b=c"});
   EXPECT_EQ(Told, Lines{"outward, link"});
+  Click(Window.Help.cmdContents);
+  EXPECT_FALSE(Window.Contents.isVisible());
 }
 
 TEST(Help, FindsOnFromPageToPageAndRoundAgain) {

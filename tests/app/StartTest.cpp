@@ -127,7 +127,11 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   Form.Wears.TextColour = 0x1800B0;  // letters with a hint of a shadow
   Roll(30, {1, 1, 2, 3, 5, 5});
   ExpectAsKept(Form, "-turn");
-  ExpectAsKept(*Form.findChild<frmScorePad*>());
+  auto& Pad = *Form.findChild<frmScorePad*>();
+  ExpectAsKept(Pad);
+  Pad.close();
+  QTest::mouseClick(&Form, Qt::LeftButton, {}, {100, 320});
+  EXPECT_TRUE(Pad.isVisible()) << "a click on the scores brings it back";
   Run->Controls.Busted = true;  // lost dice are pale, samples aren't
   Click(Form.cmdOptions);
   Form.activateWindow();
@@ -211,8 +215,6 @@ TEST_F(TheProgram, AsksItsQuestionsAtTheFirstStartAndForTheVersionNowAndThen) {
         QEvent Quit(QEvent::Quit);
         QSpontaneKeyEvent::setSpontaneous(&Quit);
         EXPECT_FALSE(static_cast<QObject&>(*Run).eventFilter(qApp, &Quit)) << "there is no table to ask yet";
-        const bool IsShort = Box.lblText->text().size() < 30;
-        EXPECT_EQ(Box.lblText->height() < 2 * Box.lblText->fontMetrics().height(), IsShort) << "in one line";
         Click(Answer == 'y' ? Box.cmdYes : Answer == 'n' ? Box.cmdNo : Box.cmdOK);
       });
     }
