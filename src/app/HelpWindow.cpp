@@ -70,7 +70,7 @@ const QStringList HelpWindow::Pages{QStringLiteral("PlayingBlunko.htm"), QString
 HelpWindow::HelpWindow(const QString& Folder, const QWidget* Beside) : folder(Folder) {
   setObjectName("HelpWindow");
   setWindowTitle("Tollmoor Blunko Help");
-  setFont(FontOf(Typeface::Verdana, 8.25));
+  setFont(FontOf(Typeface::Verdana, 11));
   BuildPage();
   BuildControls();
   LayOut();
@@ -87,7 +87,7 @@ void HelpWindow::BuildPage() {
   Page->setOpenExternalLinks(true);
   Page->setTextInteractionFlags(Page->textInteractionFlags() | Qt::TextSelectableByKeyboard);  // a caret, for readers
   Page->setWordWrapMode(QTextOption::WordWrap);  // no table column narrower than its words
-  Page->setFont(FontOf(Typeface::Verdana, 9.75));
+  Page->setFont(FontOf(Typeface::Verdana, 13));
   SetColours(*Page, {{QPalette::Text, Shade},
                      {QPalette::Highlight, Gilt},  // seen also while the focus is in the find line
                      {QPalette::HighlightedText, Shade}});
@@ -110,8 +110,6 @@ void HelpWindow::BuildControls() {
     Button->setFont(font());
     Button->setToolTip(Tip);
   }
-  cmdBack->setEnabled(false);
-  cmdForward->setEnabled(false);
   Contents = Make<QTreeWidget>(this, "Contents");
   Contents->setAccessibleName("Contents");
   Contents->setHeaderHidden(true);
@@ -190,7 +188,7 @@ void HelpWindow::AddPage(const QString& Name) {
   const QUrl Address = AddressOf(Name);
   auto* Top = new QTreeWidgetItem(Contents, {QFileInfo(Name).completeBaseName()});
   Top->setData(0, AddressRole, Address);
-  Top->setFont(0, FontOf(Typeface::Verdana, 8.25, true));
+  Top->setFont(0, FontOf(Typeface::Verdana, 11, true));
   QTextDocument Document;
   QFile File(Address.toLocalFile());
   if (File.open(QIODevice::ReadOnly)) Document.setHtml(QString::fromUtf8(File.readAll()));

@@ -25,16 +25,16 @@ void DieButton::paintEvent(QPaintEvent*) {
 
 frmAbout::frmAbout(const Folders& Where, const GameSettings& Options, Desktop& Screen, QWidget* Main)
     : PlacedDialog(Main, "frmAbout", "About Tollmoor Blunko"), settings(Options), desktop(Screen) {
-  const QFont Plain = FontOf(Typeface::Verdana, 9.75), Small = FontOf(Typeface::Verdana, 6.75);
+  const QFont Plain = FontOf(Typeface::Verdana, 13), Small = FontOf(Typeface::Verdana, 9);
   const QString Die = Where.Shipped("Data") + "/Dice_Blue_5.gif";
   Picture1 = MakeDie("Picture1", Die);
   Label3 = MakeText(this, "Label3", "Tollmoor Games Presents", Plain);
-  Label2 = MakeTitle(this, "Label2", ProductName, 21.75, Navy);
+  Label2 = MakeTitle(this, "Label2", ProductName, 29, Navy);
   Label_Version = MakeText(this, "Label_Version",
                            QStringLiteral("v%1.%2.%3").arg(VersionMajor).arg(VersionMinor).arg(VersionRevision), Plain);
   Label_Version->setAccessibleName(ProductName + ", version " + Label_Version->text().mid(1));
   Picture2 = MakeDie("Picture2", Die);
-  Label1 = MakeText(this, "Label1", "Tollmoor Games", FontOf(Typeface::Verdana, 9.75, true));
+  Label1 = MakeText(this, "Label1", "Tollmoor Games", FontOf(Typeface::Verdana, 13, true));
   lblURL = MakeLink("lblURL", WebSite, WebSite);
   lblMail = MakeLink("lblMail", SupportMail, "mailto:" + SupportMail);
   lblDisclaimer = MakeText(this, "lblDisclaimer", LegalNotice[0], Small);

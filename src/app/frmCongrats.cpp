@@ -32,7 +32,7 @@ frmCongrats::frmCongrats(const QString& Winner, std::string& FormMessage, Deskto
   Placed(Image2, {{0, 0}, Image2->sizeHint()});
   Image1 = Make<SvgBox>(this, "Image1", ":/art/greeting.svg");
   Placed(Image1, {{(width() - Image1->sizeHint().width()) / 2, GreetingTop}, Image1->sizeHint()});
-  lblWinner = MakeText<FitLabel>(this, "lblWinner", "Engraving...", FontOf(Typeface::ComicSans, 14.25, true));
+  lblWinner = MakeText<FitLabel>(this, "lblWinner", "Engraving...", FontOf(Typeface::ComicSans, 19, true));
   Placed(lblWinner, {113, 408, 171, 25});
   SetColours(*lblWinner, {{QPalette::Window, PlateColour}, {QPalette::WindowText, Qt::yellow}});
   BuildButtons();
@@ -45,7 +45,7 @@ void frmCongrats::BuildButtons() {
   int Left = 10;
   for (ButtonPlus* Button : {cmdSameGame, cmdDifferentGame, cmdQuit}) {
     Placed(Button, {Left, 466, 113, 33});
-    Button->setFont(FontOf(Typeface::Verdana, 8.25));  // the longest caption fits
+    Button->setFont(FontOf(Typeface::Verdana, 11));  // the longest caption fits
     Button->setBackColor(Button == cmdQuit ? QColor(0, 128, 255) : QColor(0, 0, 225));
     Button->setEnabled(false);
     Left += 128;

@@ -19,7 +19,7 @@ const QColor TextColour(255, 255, 0);
 constexpr int TextFlags = Qt::AlignHCenter | Qt::TextWordWrap;
 
 ScrollBox::ScrollBox(QWidget* Parent) : QWidget(Parent) {
-  setFont(FontOf(Typeface::ComicSans, 12));
+  setFont(FontOf(Typeface::ComicSans, 16));
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -50,7 +50,7 @@ void ScrollBox::DrawText(qreal Scale) {
 }
 
 frmCredits::frmCredits(QWidget* Owner) : PlacedDialog(Owner, "frmCredits", "Tollmoor Blunko Credits") {
-  Label1 = MakeTitle(this, "Label1", "Credits & Stuff", 18, Navy);
+  Label1 = MakeTitle(this, "Label1", "Credits & Stuff", 24, Navy);
   picScroll = Make<ScrollBox>(this, "picScroll");
   picScroll->setFixedSize(ScrollSize);
   picScroll->setAccessibleName(CreditsText());

@@ -25,7 +25,7 @@ frmCustomizeSounds::frmCustomizeSounds(std::string& FormMessage, GameSettings& O
       message(FormMessage),
       settings(Options),
       desktop(Screen) {
-  setFont(FontOf(Typeface::Verdana, 8.25));
+  setFont(FontOf(Typeface::Verdana, 11));
   BuildControls();
   LayOut();
   Form_Load();

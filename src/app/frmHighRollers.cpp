@@ -14,7 +14,6 @@ constexpr int NameColumn = 16;        // letters, dots included
 constexpr int ScoreColumn = 5;        // digits
 constexpr qsizetype LongestRow = 60;  // letters
 constexpr int Spare = 4, Border = 9;  // px in the text boxes
-constexpr double ListPoints = 9.75;
 const QColor ListGround(0, 0, 128);
 
 frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Main)
@@ -24,7 +23,7 @@ frmHighRollers::frmHighRollers(HighRollers& Lists, Desktop& Screen, QWidget* Mai
   SetColours(*this, {{QPalette::WindowText, Qt::yellow}, {QPalette::Link, Qt::yellow}});
   Image1 = Make<SvgBox>(this, "Image1", ":/art/rollers_top.svg");
   Image2 = Make<SvgBox>(this, "Image2", ":/art/rollers_bottom.svg");
-  const QFont Heading = FontOf(Typeface::Verdana, 9.75, true);
+  const QFont Heading = FontOf(Typeface::Verdana, 13, true);
   lblHSTS = MakeText(this, "lblHSTS", "Highest Single\nTurn Score:", Heading);
   lblBMoV = MakeText(this, "lblBMoV", "Biggest Whoopin'\n(Margin of Victory)", Heading);
   txtHSTSList = MakeList("txtHSTSList", "Highest Single Turn Score");
@@ -63,7 +62,7 @@ QPlainTextEdit* frmHighRollers::MakeList(const QString& Name, const QString& Des
   Made->setTabChangesFocus(true);
   Made->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   Made->setLineWrapMode(QPlainTextEdit::NoWrap);
-  Made->setFont(FontOf(Typeface::CourierNew, ListPoints));
+  Made->setFont(FontOf(Typeface::CourierNew, 13));
   Made->setFrameShape(QFrame::NoFrame);
   Made->document()->setDocumentMargin(Border);
   SetColours(*Made, {{QPalette::Base, ListGround}, {QPalette::Text, Qt::yellow}});

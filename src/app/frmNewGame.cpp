@@ -58,7 +58,7 @@ frmNewGame::frmNewGame(Desktop& Screen, const IniInfo& Info, const GameSettings&
       desktop(Screen),
       info(Info),
       settings(Options) {
-  setFont(FontOf(Typeface::Verdana, 8.25));
+  setFont(FontOf(Typeface::Verdana, 11));
   auto* Outer = new QVBoxLayout(this);
   Outer->setContentsMargins(Margin, Margin, Margin, Margin);
   Outer->setSpacing(Gap);
@@ -93,7 +93,7 @@ QLayout* frmNewGame::BuildSeats() {
   const QString Headings[] = {"Name", "Computer Player?", "Computer Style"};
   for (int Column = 0; Column < 3; ++Column) {
     Seats->addWidget(MakeText(this, QStringLiteral("lblHeading%1").arg(Column), Headings[Column],
-                              FontOf(Typeface::Verdana, 8.25, true), Qt::AlignLeft | Qt::AlignBottom),
+                              FontOf(Typeface::Verdana, 11, true), Qt::AlignLeft | Qt::AlignBottom),
                      0, Column);
   }
   for (int i = 0; i < MaxSeats; ++i) {

@@ -16,11 +16,11 @@ frmViewHRListYN::frmViewHRListYN(std::string& FormMessage, Desktop& Screen, cons
       desktop(Screen),
       info(Info) {
   const QStringList Fields = QString::fromStdString(message).split(FieldSeparator);
-  lblWayToGo = MakeTitle(this, "lblWayToGo", "Great Job, " + Fields.value(0) + "!!!", 15.75, Gilt);
+  lblWayToGo = MakeTitle(this, "lblWayToGo", "Great Job, " + Fields.value(0) + "!!!", 21, Gilt);
   lblMessage =
       MakeText(this, "lblMessage",
                PlaceMade(Fields.value(1), Fields.value(2)) + "Would you like to view the high rollers list now?",
-               FontOf(Typeface::Verdana, 9.75));
+               FontOf(Typeface::Verdana, 13));
   lblMessage->setWordWrap(true);
   cmdYes = MakeButton(this, "cmdYes", "Yes", [this] { Leave("Yes"); });
   cmdNo = MakeButton(this, "cmdNo", "No", [this] { Leave("No"); });

@@ -17,8 +17,8 @@ constexpr QSize DiceSize(344, 92);    // px: with its frame no wider than the ta
 
 frmWelcome::frmWelcome(const IniInfo& Info, Desktop& Screen, QWidget* Main)
     : PlacedDialog(Main, "frmWelcome", "How to Blunko"), info(Info), desktop(Screen) {
-  Label1 = MakeTitle(this, "Label1", ProductName, 24, Navy);
-  Label2 = MakeText(this, "Label2", "by Tollmoor Games", FontOf(Typeface::Verdana, 9.75));
+  Label1 = MakeTitle(this, "Label1", ProductName, 32, Navy);
+  Label2 = MakeText(this, "Label2", "by Tollmoor Games", FontOf(Typeface::Verdana, 13));
   cmdLearn =
       MakeButton(this, "cmdLearn", "How to Play Tollmoor Blunko", [this] { emit helpAsked("PlayingBlunko.htm"); });
   cmdPoints =

@@ -46,7 +46,7 @@ OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QS
   setObjectName(QStringLiteral("picOptionsTray"));
   setAccessibleName(QStringLiteral("Options"));
   resize(PanelSize);
-  setFont(FontOf(Typeface::Verdana, 8.25));
+  setFont(FontOf(Typeface::Verdana, 11));
   SetColours(*this, {{QPalette::WindowText, Ivory}});
   setStyleSheet(FrameStyle.arg(Ivory.name()) + PaperStyle());
   frames = new QVBoxLayout(this);

@@ -103,7 +103,7 @@ void TableParts::PlaceTrays() {
 /// The words on the plate that covers the lower tray.
 void TableParts::PlaceCover() {
   auto* lblSampleDice = MakeText(picSampleDice, QStringLiteral("lblSampleDice"), QStringLiteral("(Sample Dice)"),
-                                 FontOf(Typeface::Verdana, 11.25, true));
+                                 FontOf(Typeface::Verdana, 15, true));
   // Dark blue letters need a light ground on every set's colour.
   lblSampleDice->setStyleSheet(QStringLiteral("background: %1; color: %2; border: 1px solid %3; border-radius: 3px;")
                                    .arg(Paper.name(), PaperInk.name(), Brass.name()));
@@ -118,7 +118,7 @@ void TableParts::PlaceButtons() {
   cmdRoll = Add("cmdRoll", QStringLiteral("Roll Dice"), QRect(12, 163, 175, 37));
   cmdPassDice = Add("cmdPassDice", QStringLiteral("Pass Dice"), QRect(204, 163, 175, 37));
   for (ButtonPlus* Big : {ARCmdNewGame, cmdRoll, cmdPassDice}) {
-    Big->setFont(FontOf(Typeface::Verdana, 11.25, true));
+    Big->setFont(FontOf(Typeface::Verdana, 15, true));
     Big->setHero();
   }
   cmdOptions = Add("cmdOptions", QStringLiteral("Options"), QRect(12, 464, 115, 36));
@@ -127,26 +127,26 @@ void TableParts::PlaceButtons() {
 }
 
 void TableParts::PlaceLabels() {
-  const auto Text = [this](const char* Name, const QString& Caption, QRect Place, double Points, bool Bold,
+  const auto Text = [this](const char* Name, const QString& Caption, QRect Place, int Size, bool Bold,
                            Qt::Alignment Side) {
-    auto* Made = MakeText<FitLabel>(picGameTray, QLatin1String(Name), Caption, FontOf(Typeface::Verdana, Points, Bold),
+    auto* Made = MakeText<FitLabel>(picGameTray, QLatin1String(Name), Caption, FontOf(Typeface::Verdana, Size, Bold),
                                     Side | Qt::AlignVCenter);
     Made->setPicture(Image1);
     return Placed(Made, Place);
   };
-  lblStatus = Text("lblStatus", {}, QRect(5, Pixels(StatusTop), 381, 30), 15.75, false, Qt::AlignHCenter);
-  lblLastRoll = Text("lblLastRoll", {}, QRect(5, 237, 381, 23), 11.25, true, Qt::AlignHCenter);
-  Label1 = Text("Label1", QStringLiteral("Current Player:"), QRect(13, 300, 178, 26), 11.25, true, Qt::AlignRight);
-  lblPlayer = Text("lblPlayer", {}, QRect(200, 300, 180, 26), 11.25, true, Qt::AlignLeft);
-  lblTurnScoreLabel = Text("lblTurnScoreLabel", QStringLiteral("Score This Turn:"), QRect(13, 330, 178, 26), 11.25,
-                           true, Qt::AlignRight);
-  lblTurnScore = Text("lblTurnScore", {}, QRect(200, 330, 180, 26), 11.25, true, Qt::AlignLeft);
+  lblStatus = Text("lblStatus", {}, QRect(5, Pixels(StatusTop), 381, 30), 21, false, Qt::AlignHCenter);
+  lblLastRoll = Text("lblLastRoll", {}, QRect(5, 237, 381, 23), 15, true, Qt::AlignHCenter);
+  Label1 = Text("Label1", QStringLiteral("Current Player:"), QRect(13, 300, 178, 26), 15, true, Qt::AlignRight);
+  lblPlayer = Text("lblPlayer", {}, QRect(200, 300, 180, 26), 15, true, Qt::AlignLeft);
+  lblTurnScoreLabel =
+      Text("lblTurnScoreLabel", QStringLiteral("Score This Turn:"), QRect(13, 330, 178, 26), 15, true, Qt::AlignRight);
+  lblTurnScore = Text("lblTurnScore", {}, QRect(200, 330, 180, 26), 15, true, Qt::AlignLeft);
   for (FitLabel* Score : {Label1, lblPlayer, lblTurnScoreLabel, lblTurnScore}) {
     Score->setAttribute(Qt::WA_TransparentForMouseEvents);
   }
   const auto MenuWord = [this](const char* Name, const QString& Caption, const QRect& Place) {
     auto* Made = Placed(Make<WordButton>(picGameTray, QLatin1String(Name), Caption), Place);
-    Made->setFont(FontOf(Typeface::Verdana, 8.25));
+    Made->setFont(FontOf(Typeface::Verdana, 11));
     Made->setPicture(Image1);
     return Made;
   };

@@ -41,7 +41,7 @@ frmScorePad::frmScorePad(const Module1& State, QWidget* Table)
 
   const auto Text = [this](const QString& Name, const QString& Caption, QRect Place, Qt::Alignment Side, QColor Ink) {
     auto* Made = Placed(
-        MakeText<FitLabel>(this, Name, Caption, FontOf(Typeface::Verdana, 9.75, true), Side | Qt::AlignTop), Place);
+        MakeText<FitLabel>(this, Name, Caption, FontOf(Typeface::Verdana, 13, true), Side | Qt::AlignTop), Place);
     SetColours(*Made, {{QPalette::WindowText, Ink}});
     Made->setAttribute(Qt::WA_TransparentForMouseEvents);
     return Made;

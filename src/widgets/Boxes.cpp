@@ -38,7 +38,7 @@ int BalancedWidth(const QLabel& Text) {
 GameBox::GameBox(QWidget* Owner, Kind Which, const QString& Title, const QString& Text, Sign Bears)
     : PlacedDialog(Owner, QStringLiteral("GameBox"), Title, Cloth::Pearl,
                    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
-  lblText = MakeText(this, "lblText", Text, FontOf(Typeface::Verdana, 9.75), Qt::AlignLeft | Qt::AlignVCenter);
+  lblText = MakeText(this, "lblText", Text, FontOf(Typeface::Verdana, 13), Qt::AlignLeft | Qt::AlignVCenter);
   lblText->setWordWrap(true);
   const int Width = BalancedWidth(*lblText);
   lblText->setFixedSize(Width, lblText->heightForWidth(Width));

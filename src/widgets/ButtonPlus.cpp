@@ -12,7 +12,7 @@ namespace blunko {
 constexpr int CaptionSpace = 8;  // px at either side
 
 ButtonPlus::ButtonPlus(const QString& Caption, QWidget* Parent) : QPushButton(Caption, Parent), body(ButtonNavy) {
-  setFont(FontOf(Typeface::Verdana, 9.75));
+  setFont(FontOf(Typeface::Verdana, 13));
   setAttribute(Qt::WA_Hover);
   setAutoDefault(true);  // Enter presses it, too
 }

@@ -29,11 +29,11 @@ QStringList InstalledFamilies(Typeface Face) {
 
 }  // namespace
 
-QFont FontOf(Typeface Face, double Points, bool Bold) {
+QFont FontOf(Typeface Face, int Size, bool Bold) {
   QFont Font;
   Font.setFamilies(InstalledFamilies(Face));
   if (Face == Typeface::CourierNew) Font.setStyleHint(QFont::Monospace);
-  Font.setPixelSize(qRound(Points * 20 / 15));
+  Font.setPixelSize(Size);
   Font.setBold(Bold);
   return Font;
 }

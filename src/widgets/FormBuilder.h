@@ -81,9 +81,8 @@ inline void SetFirst(ButtonPlus* Button) {
 }
 
 /// A title in the letters of the trophy's greeting.
-inline QLabel* MakeTitle(QWidget* Parent, const QString& Name, const QString& Caption, double Points,
-                         const QColor& Colour) {
-  QLabel* Made = MakeText(Parent, Name, Caption, FontOf(Typeface::Serif, Points, true));
+inline QLabel* MakeTitle(QWidget* Parent, const QString& Name, const QString& Caption, int Size, const QColor& Colour) {
+  QLabel* Made = MakeText(Parent, Name, Caption, FontOf(Typeface::Serif, Size, true));
   SetColours(*Made, {{QPalette::WindowText, Colour}});
   return Made;
 }
@@ -96,7 +95,7 @@ inline void SetName(QWidget& Widget, const QString& Name) {
 /// The words beside a tick box: a click on them is one on the box, which takes the focus for both.
 inline WordButton* MakeWordsOf(TickBox* Box, const QString& Name, const QString& Caption) {
   auto* Made = Make<WordButton>(Box->parentWidget(), Name, Caption);
-  Made->setFont(FontOf(Typeface::Verdana, 8.25));
+  Made->setFont(FontOf(Typeface::Verdana, 11));
   Made->setFocusPolicy(Qt::NoFocus);
   Box->setAccessibleName(Caption);
   QObject::connect(Made, &QPushButton::clicked, Box, &QAbstractButton::click);

@@ -14,10 +14,9 @@ constexpr qint64 LargestOfSeveralScans = 12 << 20;  // bytes of the file
 
 /// What the markers of a picture tell of the work that it makes.
 struct Work {
-  qint64 Pixels = 0;
-  qint64 Kept = 0;  ///< bytes of the decoder, if it has to keep all of it
-  qint64 Scans = 0;
-  bool Progressive = false;
+  qint64 Pixels, Scans;
+  qint64 Kept;  ///< bytes of the decoder, if it has to keep all of it
+  bool Progressive;
 };
 
 bool IsFrame(int Marker) {
@@ -38,7 +37,7 @@ void ReadFrame(const QByteArray& Frame, Work& Found) {
 }
 
 Work ReadMarkers(const QByteArray& File) {
-  Work Found;
+  Work Found{};
   for (qsizetype At = 2; (At = File.indexOf('\xFF', At)) >= 0 && At + 4 <= File.size();) {
     const int Marker = static_cast<uchar>(File[At + 1]);
     if (Marker == 0xD9) break;  // the picture's end

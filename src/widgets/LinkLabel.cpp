@@ -10,7 +10,7 @@ namespace blunko {
 constexpr int Margin = FocusRingWidth + 1;  // px
 
 LinkLabel::LinkLabel(const QString& Caption, QWidget* Parent) : QPushButton(Caption, Parent) {
-  QFont Font = FontOf(Typeface::Verdana, 9.75);
+  QFont Font = FontOf(Typeface::Verdana, 13);
   Font.setUnderline(true);
   setFont(Font);
   setCursor(Qt::PointingHandCursor);

@@ -30,9 +30,9 @@ Display* Server() {
 }  // namespace
 
 QMargins FrameTold(const QWidget& Window) {
-  Atom Type = None;
-  int Format = 0;
-  unsigned long Count = 0, Rest = 0;
+  Atom Type{};
+  int Format{};
+  unsigned long Count{}, Rest{};
   unsigned char* Data = nullptr;
   if (Display* const To = Server(); To != nullptr) {
     XGetWindowProperty(To, Window.winId(), XInternAtom(To, "_NET_FRAME_EXTENTS", False), 0, 4, False, XA_CARDINAL,
@@ -99,8 +99,8 @@ void HoldRightEdge(QWidget& Window, const QImage& Whole) {
 QRect PlaceOnServer(const QWidget& Window) {
   Display* const To = Server();
   XWindowAttributes Is{};
-  int Left = 0, Top = 0;
-  ::Window Child = None;
+  int Left{}, Top{};
+  ::Window Child{};
   if (To == nullptr || XGetWindowAttributes(To, Window.winId(), &Is) == 0) return Window.geometry();
   XTranslateCoordinates(To, Window.winId(), Is.root, 0, 0, &Left, &Top, &Child);
   return {Left, Top, Is.width, Is.height};

@@ -83,7 +83,6 @@ TEST(Sounds, ASoundIsNeverCutTheNewRequestIsDroppedAndTheDeviceIsGivenBack) {
   Player.Play(Long);
   Player.Play(High);  // while the device opens
   ASSERT_TRUE(QTest::qWaitFor([&] { return Recorder.Seconds() > 0.2; }));
-  EXPECT_TRUE(Player.IsPlaying());
   PlayToEnd(Player, High);  // in the midst of it
   EXPECT_NEAR(Recorder.Seconds(), 2.4, 0.03);
   EXPECT_EQ(Recorder.Seconds(0.8), 0);
