@@ -19,7 +19,6 @@ TEST(About, DiceSoundLinksOpenAndTheCreditsScrollRound) {
   frmAbout Form(At.Where, At.Settings, At.Screen, nullptr);
   Next.Expect<frmAbout>([&](frmAbout&) {
     ExpectUsable(Form);
-    EXPECT_FALSE(Form.Picture1->icon().isNull() || Form.Picture2->icon().isNull());
     QTest::keyClick(Form.Picture2, Qt::Key_Space);
     Click(Form.Picture1);
     const Lines Log = At.TakeLog();
@@ -155,6 +154,7 @@ TEST_F(TheProgram, GreetsOnceAndTheHelpOutlivesTheWelcomeAndGoesWithTheGame) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return Help != nullptr && QApplication::activeModalWidget() == nullptr; }, 5000));
   EXPECT_EQ(Next.Opened.size(), 1U);
   EXPECT_TRUE(Help->isVisible());
+  EXPECT_TRUE(Help->devicePixelRatioF() != 2 || Help->geometry() == QRect(1, 143, 470, 640)) << "over the table";
   QTest::keyClick(Help, Qt::Key_Escape);
   EXPECT_FALSE(Help->isVisible() || Run->State.Quitting) << "Escape was the help's";
   Run->Form->hide();

@@ -10,7 +10,6 @@ namespace blunko::test {
 TEST(X11, TheTableUnderAWindowManager) {
   if (QGuiApplication::platformName() != QLatin1String("xcb")) {
     QProcess Again;
-    Again.setProcessChannelMode(QProcess::MergedChannels);
     Again.start("bash", {"-c",
                          ". " TBK_TESTS "/program/display.sh; open_display; QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1 $0 "
                          "--gtest_filter=-*AKeyIsACommandOnce*:ScorePad.Stands*",
