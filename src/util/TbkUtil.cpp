@@ -22,6 +22,8 @@ namespace blunko {
 
 namespace {
 
+constexpr int LongestEnd = 200;  // ms that a killed program may take
+
 /// Value of the first line of a system file that begins with `Name`, as "model name : ...".
 QString ValueFrom(const QString& Path, const QByteArray& Name) {
   QFile File(Path);
@@ -79,11 +81,12 @@ TbkUtil::VersionAnswer TbkUtil::UtilCheckVersion(int Major, int Minor, int Revis
   Asker->start(asker.isEmpty() ? VersionAsker() : asker, {versionAddress});
   if (Asker->state() != QProcess::NotRunning) Loop.exec(QEventLoop::ExcludeUserInputEvents);
 
-  // One that failed has printed nothing. One that the system doesn't let go at once is not waited for.
+  // One that failed has printed nothing.
   const bool Ended = Asker->state() == QProcess::NotRunning;
   const auto Newest = Ended ? ParseVersion(Asker->readAll()) : std::nullopt;
-  QObject::connect(Asker, &QProcess::stateChanged, Asker, &QObject::deleteLater);
-  Ended ? Asker->deleteLater() : Asker->kill();
+  Asker->kill();
+  // One that the system doesn't let go at once is left to itself: its object would wait for it.
+  if (Ended || Asker->waitForFinished(LongestEnd)) delete Asker;
   if (!Newest) return VersionError;
   return *Newest > QVersionNumber(Major, Minor, Revision) ? NewerExists : UpToDate;
 }
