@@ -8,7 +8,6 @@ namespace blunko {
 
 Announcer::Announcer(QWidget* Table) : QWidget(Table) {
   setObjectName(QStringLiteral("announcer"));
-  setAttribute(Qt::WA_TransparentForMouseEvents);
   resize(1, 1);
   clock.start();
   next.setSingleShot(true);

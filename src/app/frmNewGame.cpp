@@ -176,8 +176,8 @@ void frmNewGame::Form_Load() {
 /// The dialog always opens with the saved game, not with the last one.
 void frmNewGame::Form_Activate() {
   const GameSetup Saved = ReadSetup(info, settings);
-  optPlayTo[Saved.PlayToScore == 10000 ? 1 : 0]->setChecked(true);
-  optBreakIn[Saved.BreakInScore == 500 ? 0 : 1]->setChecked(true);
+  optPlayTo[Saved.PlayToScore == 10000]->setChecked(true);
+  optBreakIn[Saved.BreakInScore != 500]->setChecked(true);
   optNumPlayers[Saved.NumPlayers - 1]->setChecked(true);
   for (int i = 0; i < Saved.NumPlayers; ++i) {
     const GameSetup::Seat& Seat = Saved.Seats[i];

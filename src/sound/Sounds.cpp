@@ -22,12 +22,13 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Milliseconds = Sounds::Milliseconds;
 
-constexpr qint64 Largest = 128 << 20;         // bytes of a file, and of its sound in the device's form: 12 minutes
-constexpr Milliseconds LongestOpening{2000};  // a sound that comes later than this no longer fits, nor goes on
-constexpr Milliseconds LongestClosing{500};   // at the program's end
-constexpr std::size_t MostWaiting = 16;       // sounds, while a device or a disk hangs
-constexpr int DeviceRate = 44100;             // Hz
-constexpr int DevicePeriod = 1024;            // samples, 23 ms
+constexpr qint64 Largest = 128 << 20;  // bytes of a file, and of its sound in the device's form: 12 minutes
+// A sound that comes later than this no longer fits, and a device that takes nothing for so long has hung up.
+constexpr Milliseconds LongestOpening{2000};
+constexpr Milliseconds LongestClosing{500};  // at the program's end
+constexpr std::size_t MostWaiting = 16;      // sounds, while a device or a disk hangs
+constexpr int DeviceRate = 44100;            // Hz
+constexpr int DevicePeriod = 1024;           // samples, 23 ms
 
 /// The sound library, for the thread that makes it. It is loaded with the first sound: it would make up a good part of
 /// the start.
