@@ -172,9 +172,9 @@ void PassOnWhatCounts(QAccessibleEvent* Event) {
   const bool Waits = qobject_cast<const frmMain*>(Widget) != nullptr;
   const bool WasShown = Widget->window()->windowHandle() != nullptr;  // else nobody has read it
   const QAccessible::Event Kind = Event->type();
-  const bool Counts = Kind == QAccessible::Focus ? !Waits
-                      : Announces                ? Kind == QAccessible::ObjectShow
-                                                 : !IsOfTable(Widget);
+  const bool Counts = Announces                    ? Kind == QAccessible::ObjectShow
+                      : Kind == QAccessible::Focus ? !Waits
+                                                   : !IsOfTable(Widget);
   if (Counts && WasShown) PassOn(*Event);
 }
 

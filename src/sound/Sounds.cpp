@@ -22,7 +22,8 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Milliseconds = Sounds::Milliseconds;
 
-constexpr qint64 Largest = 128 << 20;  // bytes of a file, and of its sound in the device's form: 12 minutes
+constexpr qint64 LargestFile = 32 << 20;    // bytes
+constexpr qint64 LargestSound = 256 << 20;  // bytes in the device's form, 25 minutes
 // A sound that comes later than this no longer fits, and a device that takes nothing for so long has hung up.
 constexpr Milliseconds LongestOpening{2000};
 constexpr Milliseconds LongestClosing{500};  // at the program's end
@@ -35,7 +36,7 @@ constexpr int DevicePeriod = 1024;           // samples, 23 ms
 struct SoundLibrary {
   /// A device that calls `Feed` for its samples; 0 when there is none.
   SDL_AudioDeviceID Open(SDL_AudioCallback Feed, void* Player) const;
-  void Close() const;
+  void Close(SDL_AudioDeviceID Device) const;
   bool Works(SDL_AudioDeviceID Device) const { return GetAudioDeviceStatus(Device) != SDL_AUDIO_STOPPED; }
   /// The samples of a wave file as the device takes them; nothing for what is no wave.
   QByteArray InDeviceForm(const QByteArray& File) const;
@@ -54,6 +55,7 @@ struct SoundLibrary {
   decltype(&SDL_AudioInit) AudioInit = Find("SDL_AudioInit");
   decltype(&SDL_AudioQuit) AudioQuit = Find("SDL_AudioQuit");
   decltype(&SDL_OpenAudioDevice) OpenAudioDevice = Find("SDL_OpenAudioDevice");
+  decltype(&SDL_CloseAudioDevice) CloseAudioDevice = Find("SDL_CloseAudioDevice");
   decltype(&SDL_PauseAudioDevice) PauseAudioDevice = Find("SDL_PauseAudioDevice");
   decltype(&SDL_GetAudioDeviceStatus) GetAudioDeviceStatus = Find("SDL_GetAudioDeviceStatus");
   decltype(&SDL_RWFromConstMem) RWFromConstMem = Find("SDL_RWFromConstMem");
@@ -86,9 +88,10 @@ SDL_AudioDeviceID SoundLibrary::Open(SDL_AudioCallback Feed, void* Player) const
   return Device;
 }
 
-void SoundLibrary::Close() const {
+void SoundLibrary::Close(SDL_AudioDeviceID Device) const {
   if (!file.isLoaded()) return;
-  AudioQuit();   // the device is closed with it
+  CloseAudioDevice(Device);
+  AudioQuit();
   TLSCleanup();  // what the library keeps for this thread
 }
 
@@ -101,7 +104,7 @@ QByteArray SoundLibrary::InDeviceForm(const QByteArray& File) const {
   const std::unique_ptr<Uint8, decltype(&SDL_FreeWAV)> Owner(Wave, FreeWAV);
   SDL_AudioCVT Converter{};
   if (BuildAudioCVT(&Converter, Form.format, Form.channels, Form.freq, AUDIO_S16SYS, 2, DeviceRate) < 0 ||
-      qint64{Length} * Converter.len_mult > Largest) {
+      qint64{Length} * Converter.len_mult > LargestSound) {
     return {};
   }
   QByteArray Sound(static_cast<qsizetype>(qint64{Length} * Converter.len_mult), Qt::Uninitialized);
@@ -116,8 +119,8 @@ QByteArray SoundLibrary::InDeviceForm(const QByteArray& File) const {
 /// A plain file of no more than the largest size; empty for anything else. A pipe or a device isn't even opened.
 QByteArray ReadSoundFile(const QString& Path) {
   QFile File(Path);
-  if (!QFileInfo(Path).isFile() || File.size() > Largest || !File.open(QIODevice::ReadOnly)) return {};
-  return File.read(Largest);
+  if (!QFileInfo(Path).isFile() || File.size() > LargestFile || !File.open(QIODevice::ReadOnly)) return {};
+  return File.read(LargestFile);
 }
 
 }  // namespace
@@ -167,7 +170,7 @@ void Sounds::Player::Run() {
       sound.clear();  // of a device that has hung up
     }
     Lock.unlock();
-    Library.Close();
+    Library.Close(Device);
     Lock.lock();
   }  // a sound can be asked for while the device closes
   running = false;
@@ -182,7 +185,7 @@ void Sounds::Player::Feed(void* Self, Uint8* Stream, int Length) {
   std::fill_n(Stream, Length, Uint8{});
   std::copy_n(p.sound.constData(), Part, Stream);
   p.sound.remove(0, Part);
-  p.changed.notify_all();
+  if (Part > 0) p.changed.notify_all();
 }
 
 Sounds::Sounds(Milliseconds IdleTime, Milliseconds RetryTime) : player(new Player{IdleTime, RetryTime}) {}

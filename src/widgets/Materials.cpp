@@ -23,7 +23,7 @@ namespace blunko {
 
 namespace {
 
-constexpr qreal ButtonRadius = 6, RingLine = FocusRingWidth / 2;  // px
+constexpr qreal ButtonRadius = 6, RingLine = qreal{FocusRingWidth} / 2;  // px
 
 /// A picture of the resources in the size in which it is shown.
 QImage Read(const QString& Resource, const QSize& Size) {

@@ -44,10 +44,11 @@ TEST(Announcements, AGameAsAListenerHearsIt) {
   Listener Seats;
   EXPECT_EQ(Seats.After("S"), "No game is on.");
   Seats.Begin({"Ann", "Normal", "Simple"});
-  std::ifstream Rows(TBK_TESTS "/app/announcements.txt");
+  std::ifstream Rows(TBK_TEST_FILES "/app/announcements.txt");
   for (std::string Row; std::getline(Rows, Row);) {
     if (Row.starts_with('#')) continue;
-    const auto Words = std::min(Row.find(" > "), Row.size() - 2);
+    const auto Words = Row.find(" >");
+    ASSERT_NE(Words, std::string::npos) << Row;
     EXPECT_EQ(Seats.After(Row.substr(0, Words)), Row.substr(std::min(Words + 3, Row.size())));
   }
   EXPECT_EQ(Seats.m.Winner, 1);

@@ -75,7 +75,7 @@ inline void ExpectAsKept(QWidget& Form, const QString& State = {}) {
   QString All = Found.join('\n') + '\n';
   for (const QString& Set : {WebSite, SupportMail}) All.replace(Set, QStringLiteral("(set by the build)"));
   const std::string Text = All.toStdString();
-  QString Kept = QStringLiteral(TBK_TESTS "/app/forms/%1%2.txt").arg(Form.objectName(), State);
+  QString Kept = QStringLiteral(TBK_TEST_FILES "/app/forms/%1%2.txt").arg(Form.objectName(), State);
   if (qEnvironmentVariableIsSet("TBK_KEEP_FORMS")) ReplaceFile(Kept, Text.c_str());
   std::string Expected = ReadWholeFile(Kept).value_or("").toStdString(), Got = Text;
   if (QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)) {  // later toolkits give a radio button another size
@@ -106,7 +106,9 @@ inline void ExpectUsable(QWidget& Form, const QString& State = {}) {
       const QPixmap Seen = Form.grab(QRect(Part->mapTo(&Form, QPoint(-4, -4)), Part->size() + QSize(8, 8)));
       const QImage Bits = Seen.toImage().convertToFormat(QImage::Format_RGB32);
       const auto* const Pixels = reinterpret_cast<const QRgb*>(Bits.constBits());
-      EXPECT_GE(std::count(Pixels, Pixels + Bits.width() * Bits.height(), Gilt.rgb()), Part->width()) << "its ring";
+      EXPECT_GE(std::count(Pixels, Pixels + Bits.width() * Bits.height(), Gilt.rgb()),
+                Part->width() * Form.devicePixelRatio())
+          << "its ring";
     }
     if (qobject_cast<QLabel*>(Part) == nullptr && qobject_cast<QAbstractButton*>(Part) == nullptr) continue;
     const QSize Needed =

@@ -135,7 +135,7 @@ TEST(DiceSets, HaveTheNumbersAndTrayColoursOfEver) {
     for (const QRgb Colour : {Set->Start, Set->Open, Set->Pick}) All += " " + QColor(Colour).name().toLatin1();
     All += '\n';
   }
-  EXPECT_EQ(All, ReadWholeFile(TBK_TESTS "/table/diceSets.txt").value());
+  EXPECT_EQ(All, ReadWholeFile(TBK_TEST_FILES "/table/diceSets.txt").value());
 }
 
 TEST(OptionsPanel, DiceOfARunningGameComeBackInTheChosenSetWithTheChosenMarks) {

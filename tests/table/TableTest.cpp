@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QBitmap>
 #include <QMenu>
 #include <QScreen>
 #include <QWheelEvent>
@@ -211,6 +212,21 @@ TEST_F(TheTable, AllOfItIsReachedOnALowScreen) {
   Form.cmdHighRollers->setFocus();
   QTest::keyClick(Form.cmdHighRollers, Qt::Key_Tab);
   EXPECT_EQ(Form.cmdExit->mapToGlobal(Form.cmdExit->rect().bottomLeft()).y() + 12, Screen.bottom());
+}
+
+TEST_F(TheTable, NoTextIsCut) {
+  Begin({"WWWWWWWWWWWWWW", "Bob"});
+  Form.Wears.TextColour = 0x0000FF;
+  t.lblStatus.Caption = "Roll, select, or pass the dice. (Undo)";
+  t.lblLastRoll.Caption = "(Last Roll - Need 32767 To Take The Lead)";
+  t.ShowLastRoll();
+  Form.ShowControls();
+  for (FitLabel* Label : Form.picGameTray->findChildren<FitLabel*>()) {
+    const QPixmap Seen = Label->grab();
+    const QRect Ink = QRegion(Seen.createMaskFromColor(Qt::red, Qt::MaskOutColor)).boundingRect();
+    EXPECT_TRUE(Ink.width() > 4 && Seen.rect().adjusted(0, 0, -1, 0).contains(Ink))
+        << Label->objectName().toStdString();
+  }
 }
 
 }  // namespace blunko::test

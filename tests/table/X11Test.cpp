@@ -10,10 +10,12 @@ namespace blunko::test {
 TEST(X11, TheTableUnderAWindowManager) {
   if (QGuiApplication::platformName() != QLatin1String("xcb")) {
     QProcess Again;
-    Again.start("bash", {"-c",
-                         ". " TBK_TESTS "/program/display.sh; open_display; QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1 $0 "
-                         "--gtest_filter=-*AKeyIsACommandOnce*:ScorePad.Stands*",
-                         QCoreApplication::applicationFilePath()});
+    Again.start("bash",
+                {"-c",
+                 ". '" TBK_TEST_FILES "/program/display.sh'; open_display; QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1 "
+                 "timeout 280 \"$0\" "
+                 "--gtest_filter=-*AKeyIsACommandOnce*:ScorePad.Stands*",
+                 QCoreApplication::applicationFilePath()});
     ASSERT_TRUE(Again.waitForFinished(300'000));
     EXPECT_EQ(Again.exitCode(), 0) << Again.readAll().constData();
     return;
@@ -26,7 +28,6 @@ TEST(X11, TheTableUnderAWindowManager) {
   }
   EXPECT_TRUE(QTest::qWaitFor([&] { return FrameTold(Game.Form).top() > 10; }));
   EXPECT_EQ(FrameTold(Game.Form), Game.Form.windowHandle()->frameMargins());
-  EXPECT_EQ(PlaceOnServer(Game.Form), Game.Form.geometry());
 }
 
 }  // namespace blunko::test
