@@ -10,11 +10,8 @@ Announcer::Announcer(QWidget* Table) : QWidget(Table) {
   setObjectName(QStringLiteral("announcer"));
   resize(1, 1);
   clock.start();
-  next.setSingleShot(true);
   connect(&next, &QTimer::timeout, this, &Announcer::TellNext);
 }
-
-bool Announcer::IsHeard() { return QAccessible::isActive(); }
 
 void Announcer::Tell(const SpokenLine& Line) {
   queue.Add(Line, AnnouncementQueue::Time(clock.elapsed()));
@@ -24,11 +21,11 @@ void Announcer::Tell(const SpokenLine& Line) {
 void Announcer::TellNext() {
   const AnnouncementQueue::Time Now(clock.elapsed());
   while (const auto Line = queue.Take(Now)) Answer(QString::fromStdString(Line->Text), Line->Interrupts);
-  if (const auto Due = queue.Due()) next.start(*Due - Now);
+  const auto Due = queue.Due();
+  Due ? next.start(*Due - Now) : next.stop();
 }
 
 void Announcer::Answer(const QString& Text, [[maybe_unused]] bool Interrupts) {
-  if (!IsHeard()) return;
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
   QAccessibleAnnouncementEvent Event(parentWidget(), Text);
   if (Interrupts) Event.setPoliteness(QAccessible::AnnouncementPoliteness::Assertive);

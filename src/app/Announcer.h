@@ -15,8 +15,6 @@ class Announcer : public QWidget {
  public:
   explicit Announcer(QWidget* Table);
 
-  /// Whether anybody listens.
-  static bool IsHeard();
   /// Says it when its turn in the queue has come.
   void Tell(const SpokenLine& Line);
   /// Says at once what a key has done in another window.

@@ -1,5 +1,6 @@
 #include "app/Application.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -186,7 +187,7 @@ frmNewGame& Application::NewGame() {
 }
 
 void Application::Announce(GameEvent Event) {
-  if (Announcer::IsHeard()) speaker->Tell(Announcement(Event, State, Controls));
+  if (QAccessible::isActive()) speaker->Tell(Announcement(Event, State, Controls));
 }
 
 void Application::UpdateActivePlayer() {

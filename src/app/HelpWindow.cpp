@@ -43,9 +43,7 @@ QString AnchorOf(const QTextBlock& Block) {
 
 QVariant HelpPage::loadResource(int Type, const QUrl& Address) {
   const QString File = Address.toLocalFile();
-  if (Type == QTextDocument::ImageResource && File.endsWith(QLatin1String(".svg"))) {
-    return RenderSvg(File, devicePixelRatioF());
-  }
+  if (File.endsWith(QLatin1String(".svg"))) return RenderSvg(File, devicePixelRatioF());
   if (Type == QTextDocument::HtmlResource && !QFileInfo(File).isFile()) {
     return QStringLiteral(
                "<h1>This page is missing</h1><p>The help page <b>%1</b> should lie in the "
@@ -71,7 +69,6 @@ HelpWindow::HelpWindow(const QString& Folder, const QWidget* Beside) : folder(Fo
   setObjectName("HelpWindow");
   setWindowTitle("Tollmoor Blunko Help");
   setFont(FontOf(Typeface::Verdana, 11));
-  BuildPage();
   BuildControls();
   LayOut();
   ConnectControls();
@@ -79,6 +76,28 @@ HelpWindow::HelpWindow(const QString& Folder, const QWidget* Beside) : folder(Fo
   for (const QString& Name : Pages) AddPage(Name);
   setStyleSheet(PaperStyle());
   PlaceBeside(Beside);
+}
+
+/// In the order of the eye, which is that of Tab.
+void HelpWindow::BuildControls() {
+  cmdContents = Make<ButtonPlus>(this, "cmdContents", "Contents");
+  cmdContents->setCheckable(true);
+  cmdBack = MakeButton(this, "cmdBack", "Back", [this] { Page->backward(); });
+  cmdForward = MakeButton(this, "cmdForward", "Forward", [this] { Page->forward(); });
+  lblFound = MakeText(this, "lblFound", {}, font());
+  Contents = Make<QTreeWidget>(this, "Contents");
+  Contents->setAccessibleName("Contents");
+  Contents->setHeaderHidden(true);
+  Contents->setIndentation(14);
+  Contents->setTextElideMode(Qt::ElideRight);
+  Contents->hide();
+  BuildPage();
+  txtFind = Make<QLineEdit>(this, "txtFind");
+  txtFind->setPlaceholderText("Find (Ctrl+F)");
+  txtFind->setAccessibleName("Find");
+  txtFind->setClearButtonEnabled(true);
+  cmdFindPrevious = MakeButton(this, "cmdFindPrevious", "Previous", [this] { Find(true); });
+  cmdFindNext = MakeButton(this, "cmdFindNext", "Next", [this] { Find(false); });
 }
 
 void HelpWindow::BuildPage() {
@@ -91,35 +110,6 @@ void HelpWindow::BuildPage() {
   SetColours(*Page, {{QPalette::Text, Shade},
                      {QPalette::Highlight, Gilt},  // seen also while the focus is in the find line
                      {QPalette::HighlightedText, Shade}});
-}
-
-void HelpWindow::BuildControls() {
-  cmdContents = Make<ButtonPlus>(this, "cmdContents", "Contents");
-  cmdContents->setCheckable(true);
-  cmdContents->setChecked(true);
-  cmdBack = MakeButton(this, "cmdBack", "Back", [this] { Page->backward(); });
-  cmdForward = MakeButton(this, "cmdForward", "Forward", [this] { Page->forward(); });
-  cmdFindPrevious = MakeButton(this, "cmdFindPrevious", "Previous", [this] { Find(true); });
-  cmdFindNext = MakeButton(this, "cmdFindNext", "Next", [this] { Find(false); });
-  const std::pair<ButtonPlus*, const char*> Tips[] = {{cmdContents, "Show or hide the contents"},
-                                                      {cmdBack, "The page before (Alt+Left)"},
-                                                      {cmdForward, "The page after (Alt+Right)"},
-                                                      {cmdFindPrevious, "Find backward (Shift+F3)"},
-                                                      {cmdFindNext, "Find again (F3)"}};
-  for (const auto& [Button, Tip] : Tips) {
-    Button->setFont(font());
-    Button->setToolTip(Tip);
-  }
-  Contents = Make<QTreeWidget>(this, "Contents");
-  Contents->setAccessibleName("Contents");
-  Contents->setHeaderHidden(true);
-  Contents->setIndentation(14);
-  Contents->setTextElideMode(Qt::ElideRight);
-  txtFind = Make<QLineEdit>(this, "txtFind");
-  txtFind->setPlaceholderText("Find (Ctrl+F)");
-  txtFind->setAccessibleName("Find");
-  txtFind->setClearButtonEnabled(true);
-  lblFound = MakeText(this, "lblFound", {}, font());
 }
 
 void HelpWindow::LayOut() {
@@ -136,17 +126,14 @@ void HelpWindow::LayOut() {
   Halves->setStretchFactor(1, 1);
   auto* Search = new QHBoxLayout;
   Search->setSpacing(6);
-  Search->addWidget(txtFind, 1);
-  Search->addWidget(cmdFindPrevious);
-  Search->addWidget(cmdFindNext);
+  for (QWidget* Part :
+       {static_cast<QWidget*>(txtFind), static_cast<QWidget*>(cmdFindPrevious), static_cast<QWidget*>(cmdFindNext)})
+    Search->addWidget(Part);
   auto* Column = new QVBoxLayout(this);
   Column->setContentsMargins(8, 8, 8, 8);
   Column->addLayout(Bar);
   Column->addWidget(Halves, 1);
   Column->addLayout(Search);
-  // The page is made first; the order of Tab is that of the eye.
-  QWidget* const Order[] = {cmdContents, cmdBack, cmdForward, Contents, Page, txtFind, cmdFindPrevious, cmdFindNext};
-  for (std::size_t i = 1; i < std::size(Order); ++i) setTabOrder(Order[i - 1], Order[i]);
 }
 
 void HelpWindow::ConnectControls() {
@@ -157,7 +144,7 @@ void HelpWindow::ConnectControls() {
   connect(Page, &QTextBrowser::sourceChanged, this, &HelpWindow::PlaceCaret);
   connect(Page, &HelpPage::linkReached, this, [this](const QString& Words) { emit told(Words + ", link"); });
   connect(Page, &QTextBrowser::sourceChanged, lblFound, &QLabel::clear);
-  connect(txtFind, &QLineEdit::returnPressed, this, [this] { Find(false); });
+  connect(txtFind, &QLineEdit::returnPressed, cmdFindNext, &QAbstractButton::click);
   connect(txtFind, &QLineEdit::textChanged, lblFound, &QLabel::clear);
   connect(Contents, &QTreeWidget::currentItemChanged, this, &HelpWindow::GoTo);
   connect(Contents, &QTreeWidget::itemClicked, this, &HelpWindow::GoTo);  // also from a heading that is chosen already
@@ -169,14 +156,21 @@ void HelpWindow::ConnectKeys() {
     connect(new QShortcut(Keys, this), &QShortcut::activated, this, Run);
   };
   Key(Qt::Key_Escape, [this] { close(); });
-  Key(Qt::ALT | Qt::Key_Left, [this] { Page->backward(); });
-  Key(Qt::ALT | Qt::Key_Right, [this] { Page->forward(); });
   Key(QKeySequence::Find, [this] {
     txtFind->setFocus();
     txtFind->selectAll();
   });
-  Key(Qt::Key_F3, [this] { Find(false); });
-  Key(Qt::SHIFT | Qt::Key_F3, [this] { Find(true); });
+  const std::tuple<ButtonPlus*, QKeySequence, const char*> Ways[] = {
+      {cmdContents, {}, "Show or hide the contents"},
+      {cmdBack, Qt::ALT | Qt::Key_Left, "The page before (Alt+Left)"},
+      {cmdForward, Qt::ALT | Qt::Key_Right, "The page after (Alt+Right)"},
+      {cmdFindPrevious, Qt::SHIFT | Qt::Key_F3, "Find backward (Shift+F3)"},
+      {cmdFindNext, Qt::Key_F3, "Find again (F3)"}};
+  for (const auto& [Button, Keys, Tip] : Ways) {
+    Button->setFont(font());
+    Button->setToolTip(Tip);
+    Key(Keys, [Clicked = Button] { Clicked->click(); });
+  }
 }
 
 void HelpWindow::GoTo(const QTreeWidgetItem* Entry) {
@@ -227,7 +221,7 @@ void HelpWindow::paintEvent(QPaintEvent*) {
 void HelpWindow::resizeEvent(QResizeEvent* Event) {
   QWidget::resizeEvent(Event);
   const bool Wide = width() >= FoldingWidth, WasWide = Event->oldSize().width() >= FoldingWidth;
-  if (Wide != WasWide || !Event->oldSize().isValid()) cmdContents->setChecked(Wide);
+  if (Wide != WasWide) cmdContents->setChecked(Wide);
 }
 
 QUrl HelpWindow::AddressOf(const QString& Topic) const {
@@ -240,7 +234,6 @@ void HelpWindow::ShowTopic(const QString& Topic) {
   raise();
   activateWindow();
   Page->setFocus();
-  lblFound->clear();
   Page->setSource(AddressOf(Topic));  // the window has its size by now, or the anchor would miss its place
 }
 
@@ -265,10 +258,9 @@ void HelpWindow::PlaceCaret(const QUrl& Source) {
 }
 
 void HelpWindow::Find(bool Backward) {
-  lblFound->clear();
   if (txtFind->text().isEmpty()) return txtFind->setFocus();
   const bool Found = FindInPages(txtFind->text(), Backward ? QTextDocument::FindBackward : QTextDocument::FindFlags());
-  if (!Found) lblFound->setText(QStringLiteral("Not found"));
+  lblFound->setText(Found ? QString() : QStringLiteral("Not found"));
   emit told(Found ? Page->textCursor().block().text() : lblFound->text());
 }
 

@@ -1,11 +1,43 @@
+#define QT_STATICPLUGIN  // before the toolkit's headers
+
+#include <QAccessibleBridge>
+#include <QAccessiblePlugin>
+#include <QtPlugin>
+
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "app/Announcements.h"
+#include "app/Announcer.h"
+#include "table/frmScorePad.h"
 #include "tests/app/Run.h"
 
 namespace blunko::test {
+
+/// Hears what goes to a screen reader.
+struct Reader : QAccessibleBridge {
+  static inline QString* Heard = nullptr;
+
+  void setRootObject(QAccessibleInterface*) override {}
+  void notifyAccessibilityUpdate(QAccessibleEvent* Event) override {
+    if (Heard == nullptr) return;
+    QDebug(Heard).noquote() << Event->type() << Event->accessibleInterface()->text(QAccessible::Name) << '|';
+  }
+  static std::string Of(const std::function<void()>& Do) {
+    QString All;
+    Heard = &All;
+    Do();
+    Heard = nullptr;
+    return All.remove("QAccessible::").toStdString();
+  }
+};
+
+class Readers : public QAccessibleBridgePlugin {
+  Q_OBJECT
+  Q_PLUGIN_METADATA(IID QAccessibleBridgeFactoryInterface_iid FILE "reader.json")
+  QAccessibleBridge* create(const QString&) override { return new Reader; }
+};
 
 /// Hears what the queue lets out of the events of a game, by a clock that goes as told.
 struct Listener : Table {
@@ -20,7 +52,7 @@ struct Listener : Table {
     };
   }
   void Listen() {
-    while (const auto Line = Queue.Take(Now)) Heard.push_back(Line->Text);
+    while (const auto Line = Queue.Take(Now)) Heard.push_back((Line->Interrupts ? "!" : "") + Line->Text);
   }
   /// What is heard of moves ("wait 1000" and "bank 500" among them, and letters of keys), joined by " | ".
   std::string After(const std::string& Moves) {
@@ -54,4 +86,41 @@ TEST(Announcements, AGameAsAListenerHearsIt) {
   EXPECT_EQ(Seats.m.Winner, 1);
 }
 
+TEST_F(TheProgram, AReaderIsToldOfTheTableWhatACommandHasChanged) {
+  Start();
+  Begin(2, 0);
+  frmMain& Form = *Run->Form;
+  Roll(30, {1, 1, 2, 3, 5, 5});
+  TableNews News;
+  News.Tell(Form);
+  QTest::keyClick(&Form, Qt::Key_1);
+  EXPECT_EQ(
+      Reader::Of([&] { News.Tell(Form); }),
+      "ObjectHide Die 2: one, scores | ObjectShow Tray 2: one, can be taken back | NameChanged Tray 2: one, can be "
+      "taken back | StateChanged Tray 2: one, can be taken back | NameChanged 200 | ");
+  EXPECT_EQ(Reader::Of([&] { News.Tell(Form); }), "") << "once";
+  auto* Voice = Form.findChild<Announcer*>();
+  for (const char* Text : {"one", "two"}) Voice->Tell({.Text = Text});
+  const char* const Said = QT_VERSION < QT_VERSION_CHECK(6, 8, 0) ? "ObjectShow two" : "Announcement";
+  EXPECT_THAT(Reader::Of([] { QTest::qWait(200); }), testing::HasSubstr(Said));
+  const auto Filter = QAccessible::installUpdateHandler(nullptr);
+  QWidget Line(Voice), Dialog, Hidden;
+  Dialog.show();
+  auto& Pad = *Form.findChild<frmScorePad*>();
+  using enum QAccessible::Event;
+  const std::tuple<QObject*, QAccessible::Event, bool> Rows[] = {
+      {qApp, NameChanged, true},           {&Line, ObjectShow, true},
+      {&Line, NameChanged, false},         {&Form, Focus, false},
+      {Form.cmdRoll, Focus, true},         {Form.cmdRoll, NameChanged, false},
+      {Pad.Rows()[0], NameChanged, false}, {&Pad, ObjectShow, true},
+      {&Dialog, NameChanged, true},        {&Hidden, NameChanged, false}};
+  for (const auto& [Object, Kind, Passes] : Rows) {
+    QAccessibleEvent Event(Object, Kind);
+    EXPECT_EQ(Reader::Of([&, Filter = Filter] { Filter(&Event); }).empty(), !Passes) << Kind;
+  }
+}
+
 }  // namespace blunko::test
+
+Q_IMPORT_PLUGIN(Readers)
+#include "AnnouncementsTest.moc"

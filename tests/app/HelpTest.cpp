@@ -1,5 +1,6 @@
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTextBlock>
 #include <QTreeWidget>
 
@@ -16,9 +17,10 @@ struct Opened {
 
   explicit Opened(const char* Topic) {
     InstallAccessibility();
-    Help.resize(700, 500);
+    Help.resize(640, 500);
+    Help.showMinimized();
     Help.ShowTopic(QLatin1String(Topic));
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&Help));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&Help) && !Help.isMinimized());
   }
   QString Shown() const { return Page.source().fileName(); }
 };
@@ -43,6 +45,21 @@ TEST(Help, ContentsGoToTheHeadingsAndLinksOutward) {
   EXPECT_EQ(Told, Lines{"outward, link"});
   Window.Help.resize(639, 500);
   EXPECT_FALSE(Window.Contents.isVisible()) << "a narrow window is all page";
+  Window.Help.ShowTopic(QStringLiteral("gone.htm"));
+  EXPECT_THAT(Window.Page.toPlainText().toStdString(), testing::StartsWith("This page is missing"));
+}
+
+TEST(Help, ComesUpBesideTheTable) {
+  // at its left, at its right where there is just room, or over it
+  for (const auto& [Table, Help] : {std::pair(QRect(490, 90, 300, 200), QRect(0, 89, 483, 640)),
+                                    {QRect(310, 500, 13, 200), QRect(328, 158, 470, 640)},
+                                    {QRect(200, 90, 300, 700), QRect(0, 89, 470, 640)}}) {
+    QWidget Beside;
+    Beside.setGeometry(Table);
+    Beside.show();
+    const HelpWindow Window(QString(), &Beside);
+    EXPECT_TRUE(Window.devicePixelRatioF() != 2 || Window.geometry() == Help) << Window.x();
+  }
 }
 
 TEST(Help, FindsOnFromPageToPageAndRoundAgain) {
@@ -59,7 +76,9 @@ TEST(Help, FindsOnFromPageToPageAndRoundAgain) {
   for (const auto& [Start, Text, Keys, Page, Place] : Rows) {
     SCOPED_TRACE(Text);
     Opened Window(Start);
-    QTest::keyClick(&Window.Help, Qt::Key_F, Qt::ControlModifier);
+    QSignalSpy Told(&Window.Help, &HelpWindow::told);
+    *Keys == 'n' ? QTest::keyClick(&Window.Help, Qt::Key_F3)
+                 : QTest::keyClick(&Window.Help, Qt::Key_F, Qt::ControlModifier);
     QTest::keyClicks(Window.Help.focusWidget(), QLatin1String(Text));
     for (const char Key : std::string_view(Keys)) {
       QTest::keyClick(Window.Help.txtFind, Key == 'r' ? Qt::Key_Return : Qt::Key_F3,
@@ -69,8 +88,10 @@ TEST(Help, FindsOnFromPageToPageAndRoundAgain) {
     EXPECT_EQ(Window.Help.lblFound->text().isEmpty(), Place > 0);
     const QString Before = Window.Page.toPlainText().left(Window.Page.textCursor().selectionEnd());
     EXPECT_EQ(Before.count(QLatin1String(Text), Qt::CaseInsensitive), Place);
-    Window.Help.ShowTopic(QStringLiteral("FairDice.htm"));
-    EXPECT_EQ(Window.Help.lblFound->text(), QString()) << "another page";
+    EXPECT_EQ(Told.back()[0].toString().contains(QLatin1String(Text), Qt::CaseInsensitive), Place > 0);
+    Place == 1 ? Window.Help.ShowTopic(QStringLiteral("FairDice.htm"))
+               : QTest::keyClick(Window.Help.txtFind, Qt::Key_Backspace);
+    EXPECT_EQ(Window.Help.lblFound->text(), QString());
   }
 }
 

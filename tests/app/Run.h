@@ -219,6 +219,13 @@ class TheProgram : public testing::Test {
     for (int i = 0; i < MaxSeats; ++i) Setup.Seats[i] = {Name, (Computers >> i & 1) != 0, Simple};
     Run->Form->Handle([&] { Run->Table.FreshGame(Setup); });
   }
+  /// And takes the first die.
+  void Roll(std::size_t Tumbling, std::initializer_list<int> Faces) {
+    Dice->Faces.assign(Tumbling, 6);
+    Dice->Faces.insert(Dice->Faces.end(), Faces);
+    Click(Run->Form->cmdRoll);
+    QTest::keyClick(Run->Form.get(), Qt::Key_1);
+  }
 };
 
 }  // namespace blunko::test

@@ -118,12 +118,6 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   Run->Screen.SetMousePointer(MousePointer::Hourglass);
   EXPECT_EQ(Form.cursor().shape(), Qt::WaitCursor);
   Begin(3, 2);
-  const auto Roll = [&](std::size_t Tumbling, std::initializer_list<int> Faces) {
-    Dice->Faces.assign(Tumbling, 6);
-    Dice->Faces.insert(Dice->Faces.end(), Faces);
-    Click(Form.cmdRoll);
-    Key(Qt::Key_1);
-  };
   Form.Wears.TextColour = 0x1800B0;  // letters with a hint of a shadow
   Roll(30, {1, 1, 2, 3, 5, 5});
   ExpectAsKept(Form, "-turn");
