@@ -28,6 +28,7 @@ function(add_module_tests folder)
   add_executable(${folder}_tests ${sources})
   target_include_directories(${folder}_tests PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${folder}_tests PRIVATE blunko_${folder} blunko_warnings GTest::gmock ${ARGN})
+  target_compile_definitions(${folder}_tests PRIVATE TBK_TEST_FILES="${PROJECT_SOURCE_DIR}/tests")
   target_compile_options(${folder}_tests PRIVATE -O0)  # takes longer to optimise than to run
   add_test(NAME ${folder} COMMAND ${folder}_tests)
   set_tests_properties(${folder} PROPERTIES TIMEOUT 600

@@ -79,7 +79,6 @@ bool Application::Main() {
     if (!CheckForUpdate(Screen, Util)) return false;
   }
   Uniform = UniformGenerator(static_cast<std::uint64_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000));
-  State.PauseComputer = false;
   State.TempFolder = folders.Temp.toStdString();
   ExtractSounds(folders.Temp);
   LoadForm();

@@ -4,7 +4,6 @@
 #include <QAccessiblePlugin>
 #include <QtPlugin>
 
-#include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -12,6 +11,7 @@
 #include "app/Announcer.h"
 #include "table/frmScorePad.h"
 #include "tests/app/Run.h"
+#include "tests/support/Rows.h"
 
 namespace blunko::test {
 
@@ -76,13 +76,7 @@ TEST(Announcements, AGameAsAListenerHearsIt) {
   Listener Seats;
   EXPECT_EQ(Seats.After("S"), "No game is on.");
   Seats.Begin({"Ann", "Normal", "Simple"});
-  std::ifstream Rows(TBK_TEST_FILES "/app/announcements.txt");
-  for (std::string Row; std::getline(Rows, Row);) {
-    if (Row.starts_with('#')) continue;
-    const auto Words = Row.find(" >");
-    ASSERT_NE(Words, std::string::npos) << Row;
-    EXPECT_EQ(Seats.After(Row.substr(0, Words)), Row.substr(std::min(Words + 3, Row.size())));
-  }
+  for (const auto& [Moves, Heard] : RowsOf("app/announcements.txt")) EXPECT_EQ(Seats.After(Moves), Heard) << Moves;
   EXPECT_EQ(Seats.m.Winner, 1);
 }
 

@@ -35,6 +35,7 @@ TEST(Help, ContentsGoToTheHeadingsAndLinksOutward) {
     const QScrollBar& Bar = *Window.Page.verticalScrollBar();
     EXPECT_TRUE(Heading == (*Entry)->text(0) || Bar.value() == Bar.maximum()) << Heading.toStdString();
     EXPECT_EQ(Window.Page.textCursor().block().text(), (*Entry)->text(0)) << "a reader goes on from there";
+    EXPECT_EQ(Window.Contents.currentItem(), *Entry);
   }
   const Answers Next;
   Lines Told;

@@ -115,6 +115,7 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   Start("ShowWelcomeMessage=0\nDieColor=124\n");
   frmMain& Form = *Run->Form;
   ExpectAsKept(Form, "-start");
+  EXPECT_EQ(QApplication::windowIcon().availableSizes().size(), 5);
   Run->Screen.SetMousePointer(MousePointer::Hourglass);
   EXPECT_EQ(Form.cursor().shape(), Qt::WaitCursor);
   Begin(3, 2);
@@ -122,7 +123,6 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   Roll(30, {1, 1, 2, 3, 5, 5});
   ExpectAsKept(Form, "-turn");
   auto& Pad = *Form.findChild<frmScorePad*>();
-  ExpectAsKept(Pad);
   Pad.close();
   QTest::mouseClick(Form.windowHandle(), Qt::LeftButton, {}, {100, 320});
   EXPECT_TRUE(Pad.isVisible()) << "a click on the scores brings it back";
@@ -131,7 +131,9 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   ExpectAsKept(Form, "-options");
   Key(Qt::Key_Escape);
   Roll(35, {1, 1, 2, 5, 5});
-  Run->Controls.lblLastRoll.Caption = "(Last Roll - Need 5050 To Win)";
+  Run->Controls.lblLastRoll.Caption = "(Last Roll - Need 32767 To Take The Lead)";  // the longest
+  Run->Controls.lblStatus.Caption = "Roll, select, or pass the dice. (Undo)";
+  Run->Controls.lblPlayer.Caption = "WWWWWWWWWWWWWW";
   Run->Controls.ShowLastRoll();
   Run->Controls.Busted = true;
   Form.Wears.TextColour = 0xFFFFFF;  // letters that stand out by their edge alone
@@ -148,7 +150,10 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
     Dialog.reject();
   });
   Key(Qt::Key_F2);
-  Begin(3, 0);
+  Begin(3, 2);
+  Run->State.TurnScore = 600;
+  Form.Handle([this] { Run->Table.cmdPassDice_Click(); });
+  ExpectAsKept(Pad);
   QEvent Quit(QEvent::Quit);  // told to die by the system
   QSpontaneKeyEvent::setSpontaneous(&Quit);
   qApp->notify(qApp, &Quit);

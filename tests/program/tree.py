@@ -6,7 +6,7 @@ import sys
 import tempfile
 import time
 
-last_name, repeated, heard, listeners, times = {}, [], [], [], []
+heard, listeners, times = [], [], []
 
 
 def in_session(run, screen, limit):
@@ -36,8 +36,7 @@ def start(program, stderr=None, **environment):
     """The program, listened to."""
     heard.clear()
     if not listeners:
-        listeners.extend([on_name, on_showing])
-        pyatspi.Registry.registerEventListener(on_name, "object:property-change:accessible-name")
+        listeners.append(on_showing)
         pyatspi.Registry.registerEventListener(on_showing, "object:state-changed:showing")
         pyatspi.Registry.registerEventListener(lambda event: heard.append(event.any_data), "object:announcement")
         pyatspi.Registry.registerEventListener(lambda event: times.append(time.time()), "object")
@@ -116,14 +115,6 @@ def could_press(name, role="button"):
 
 def press(name, role="button"):
     wait_for(lambda: could_press(name, role), name)
-
-
-def on_name(event):
-    key = (event.source.getRoleName(), event.source.path)
-    name = event.source.name
-    if last_name.get(key) == name and not (name or "").startswith("BLUNKO"):  # spelled quicker than one can ask
-        repeated.append(f"{key[0]}: {name}")
-    last_name[key] = name
 
 
 def busiest():

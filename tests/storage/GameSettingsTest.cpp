@@ -5,6 +5,7 @@
 #include "storage/GameSettings.h"
 #include "storage/SavedSetup.h"
 #include "tests/support/Place.h"
+#include "tests/support/Rows.h"
 
 namespace blunko::test {
 
@@ -36,28 +37,9 @@ struct GameSettingsTest : testing::Test {
 };
 
 TEST_F(GameSettingsTest, TakesWhateverStandsInTheFile) {
-  const std::pair<const char*, QByteArrayList> Rows[] = {
-      {"0 ",
-       {"Scanned=", "SoundFXOFF=", "Scanned=perhaps", "ShowWelcomeMessage=0", "SortDice=fALSE", "MarkScorers=False",
-        "ComputerFast=", "TextColor=", "TextColor=12345", "TextColor=-1", "TextColor=99999999999"}},
-      {"1 ", {"ShowWelcomeMessage=", "SortDice=", "MarkScorers=", "Scanned=-1", "SoundFXOFF=True"}},
-      {"16711680 ", {"TextColor=4", "TextColor=16711680"}},
-      {"112 ", {"DieColor=", "DieColor=blue 240", "DieColor=0", "DieColor=32768", "DieColor=nan"}},
-      {"240 ", {"DieColor=240 blue", "DieColor=+240"}},
-      {"114 ", {"DieColor=113.5", "DieColor=114.5"}},
-      {"5000 ", {"defPlayToScore=", "defPlayToScore=7500"}},
-      {"500 ", {"defBreakInScore=", "defBreakInScore=501"}},
-      {"7 ", {"ComputerFast=7"}},
-      {"-5 ", {"DieColor=-5"}},
-      {"100 ", {"Scale=", "Scale=401", "Scale=99"}},
-      {"101 ", {"Scale= 101 "}},
-      {"Satin.jpg ", {"Background="}},
-      {"/tmp/own/undo.wav ", {"UndoSound="}}};
-  for (const auto& [Value, Lines] : Rows) {
-    for (const QByteArray& Line : Lines) {
-      EXPECT_THAT(Held(Load(Line)), testing::HasSubstr(' ' + Line.left(Line.indexOf('=') + 1).toStdString() + Value));
-      EXPECT_EQ(Keys(), Line) << "reading repairs nothing";
-    }
+  for (const auto& [Line, Value] : RowsOf("storage/settings.txt")) {
+    EXPECT_THAT(Held(Load(Line.c_str())), testing::HasSubstr(' ' + Line.substr(0, Line.find('=') + 1) + Value + ' '));
+    EXPECT_EQ(Keys(), Line.c_str()) << "reading repairs nothing";
   }
 }
 

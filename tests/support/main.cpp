@@ -4,8 +4,8 @@
 
 #include "widgets/Materials.h"
 
-// With the rings of the game, and outliving its windows as the game does. Unless the scale is set to 1, the windows have twice
-// their size, on a screen that holds them and gives them frames: that shows more.
+// With the rings of the game, and outliving its windows as the game does. Unless the scale is set to 1, the windows
+// have twice their size, on a screen that holds them and gives them frames: that shows more.
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   if (qgetenv("QT_SCALE_FACTOR") != "1") {

@@ -1,10 +1,10 @@
 #include <QAction>
-#include <QBitmap>
 #include <QMenu>
 #include <QScreen>
 #include <QWheelEvent>
 
 #include "table/KeyEvents.h"
+#include "tests/support/Rows.h"
 #include "tests/table/TableForm.h"
 #include "widgets/HeldKeys.h"
 
@@ -61,22 +61,7 @@ struct ReadersBridge : QObject {
 };
 
 TEST_F(TheTable, AKeyIsACommandOnceAtItsReleaseInTheWindowOfItsPress) {
-  // E is Esc, 1 the digit, S Shift, F F2 and R Return; T brings the table up, D a dialog and M a menu. Then what comes
-  // of it: 1 for a die taken, Q for the question, N for a new game, K for the dialog's button.
-  const std::tuple<const char*, const char*, const char*> Rows[] = {
-      {"repeats are none", "+1 +1 -1", "1"},
-      {"a release alone neither", "-1", ""},
-      {"Shift may be let go first", "+S +1 -S -1", "1"},
-      {"another window was active in between", "+1 D T +1 -1", ""},
-      {"it ended a dialog", "D +E T +E +E -E", ""},
-      {"and counts the next time", "D +E T +E -E +E -E", "Q"},
-      {"it ended a menu", "M +E +E -E +E -E", "Q"},
-      {"Shift counts at the release", "+S +F -F -S", "N"},
-      {"let go before, it doesn't", "+S +F -S -F", "Q"},
-      {"a button takes no press of before", "+R D +R -R", ""},
-      {"nor one press twice", "D +R +R -R", "K"},
-      {"but each", "+R D -R +R -R +R -R", "KK"},
-  };
+  const auto Rows = RowsOf("table/keys.txt");
   const std::map<char, std::pair<quint32, int>> Keys{{'E', {9, Qt::Key_Escape}},
                                                      {'1', {10, Qt::Key_1}},
                                                      {'S', {50, Qt::Key_Shift}},
@@ -85,9 +70,9 @@ TEST_F(TheTable, AKeyIsACommandOnceAtItsReleaseInTheWindowOfItsPress) {
   const HeldKeys Held(false);
   ReadersBridge Bridge;
   Screen.Answer = false;
-  for (std::size_t Row = 0; Row < 2 * std::size(Rows); ++Row) {
-    if (Row == std::size(Rows)) qApp->installEventFilter(&Bridge);  // all again for a reader
-    const auto& [Rule, Strokes, Outcome] = Rows[Row % std::size(Rows)];
+  for (std::size_t Row = 0; Row < 2 * Rows.size(); ++Row) {
+    if (Row == Rows.size()) qApp->installEventFilter(&Bridge);  // all again for a reader
+    const auto& [Strokes, Outcome] = Rows[Row % Rows.size()];
     QWidget Dialog;
     ButtonPlus OK("OK", &Dialog);
     QObject::connect(&OK, &QPushButton::clicked, [this] { Screen.Log.push_back("OK"); });
@@ -97,7 +82,7 @@ TEST_F(TheTable, AKeyIsACommandOnceAtItsReleaseInTheWindowOfItsPress) {
     bool Shift = false;
     quint64 Moment = 0;
     QWidget* Active = &Form;
-    for (const QString& Stroke : QString(Strokes).split(' ')) {
+    for (const QString& Stroke : QString::fromStdString(Strokes).split(' ')) {
       const char What = Stroke.front().toLatin1();
       if (What == 'M') QTest::mouseClick(Form.lblMnuGame, Qt::LeftButton);
       if (What == 'T' || What == 'D') Activate(*(Active = What == 'T' ? &Form : &Dialog));
@@ -120,7 +105,7 @@ TEST_F(TheTable, AKeyIsACommandOnceAtItsReleaseInTheWindowOfItsPress) {
     for (const std::string& Line : TakeLog()) {
       Came += Line == Question ? "Q" : Line == "new game" ? "N" : Line == "OK" ? "K" : "";
     }
-    EXPECT_EQ(Came, Outcome) << Rule;
+    EXPECT_EQ(Came, Outcome) << Strokes;
   }
 }
 
@@ -212,21 +197,6 @@ TEST_F(TheTable, AllOfItIsReachedOnALowScreen) {
   Form.cmdHighRollers->setFocus();
   QTest::keyClick(Form.cmdHighRollers, Qt::Key_Tab);
   EXPECT_EQ(Form.cmdExit->mapToGlobal(Form.cmdExit->rect().bottomLeft()).y() + 12, Screen.bottom());
-}
-
-TEST_F(TheTable, NoTextIsCut) {
-  Begin({"WWWWWWWWWWWWWW", "Bob"});
-  Form.Wears.TextColour = 0x0000FF;
-  t.lblStatus.Caption = "Roll, select, or pass the dice. (Undo)";
-  t.lblLastRoll.Caption = "(Last Roll - Need 32767 To Take The Lead)";
-  t.ShowLastRoll();
-  Form.ShowControls();
-  for (FitLabel* Label : Form.picGameTray->findChildren<FitLabel*>()) {
-    const QPixmap Seen = Label->grab();
-    const QRect Ink = QRegion(Seen.createMaskFromColor(Qt::red, Qt::MaskOutColor)).boundingRect();
-    EXPECT_TRUE(Ink.width() > 4 && Seen.rect().adjusted(0, 0, -1, 0).contains(Ink))
-        << Label->objectName().toStdString();
-  }
 }
 
 }  // namespace blunko::test
