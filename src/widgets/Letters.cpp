@@ -72,9 +72,9 @@ void DrawLetters(QPainter& Painter, const QRectF& Room, Qt::Alignment Side, cons
   Painter.save();
   Painter.translate(Start);
   Painter.setFont(Fitted);
-  const auto Write = [&](const QColor& Colour) {
+  const auto Write = [&](const QColor& Colour, QPointF Place) {
     Painter.setPen(Colour);
-    Painter.drawText(QPointF(), Text);
+    Painter.drawText(Place, Text);
   };
   const double Standing = Contrast(Ink, Ground);
   const QColor Edge = BestGround(Ink);
@@ -87,12 +87,8 @@ void DrawLetters(QPainter& Painter, const QRectF& Room, Qt::Alignment Side, cons
     Painter.setOpacity(1);
   }
   Painter.scale(Stretch, 1);
-  if (Standing >= Least && Standing < Plain) {
-    Painter.translate(1, 1);
-    Write(Thin(Edge, 0.25 * Ink.alphaF()));
-    Painter.translate(-1, -1);
-  }
-  Write(Ink);
+  if (Standing >= Least && Standing < Plain) Write(Thin(Edge, 0.25 * Ink.alphaF()), {1, 1});
+  Write(Ink, {});
   Painter.restore();
 }
 

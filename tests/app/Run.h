@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QBitmap>
 #include <QDesktopServices>
 #include <QLabel>
 #include <QRegularExpression>
@@ -103,12 +104,9 @@ inline void ExpectUsable(QWidget& Form, const QString& State = {}) {
     SCOPED_TRACE(Part->objectName().toStdString());
     if ((Part->focusPolicy() & Qt::TabFocus) != 0 && Part->isEnabled() && Part->focusProxy() == nullptr) {
       Part->setFocus();
-      const QPixmap Seen = Form.grab(QRect(Part->mapTo(&Form, QPoint(-4, -4)), Part->size() + QSize(8, 8)));
-      const QImage Bits = Seen.toImage().convertToFormat(QImage::Format_RGB32);
-      const auto* const Pixels = reinterpret_cast<const QRgb*>(Bits.constBits());
-      EXPECT_GE(std::count(Pixels, Pixels + Bits.width() * Bits.height(), Gilt.rgb()),
-                Part->width() * Form.devicePixelRatio())
-          << "its ring";
+      const QRect Around(Part->mapTo(&Form, QPoint(-4, -4)), Part->size() + QSize(8, 8));
+      const QRegion Ring(Form.grab(Around).createMaskFromColor(Gilt, Qt::MaskOutColor));
+      EXPECT_GE(Ring.boundingRect().width() + 16, Part->width() * Form.devicePixelRatio()) << "its ring";
     }
     if (qobject_cast<QLabel*>(Part) == nullptr && qobject_cast<QAbstractButton*>(Part) == nullptr) continue;
     const QSize Needed =

@@ -123,6 +123,7 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   Roll(30, {1, 1, 2, 3, 5, 5});
   ExpectAsKept(Form, "-turn");
   auto& Pad = *Form.findChild<frmScorePad*>();
+  EXPECT_GT(Pad.x(), Form.frameGeometry().right());
   Pad.close();
   QTest::mouseClick(Form.windowHandle(), Qt::LeftButton, {}, {100, 320});
   EXPECT_TRUE(Pad.isVisible()) << "a click on the scores brings it back";

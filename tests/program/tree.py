@@ -95,11 +95,6 @@ def is_on(button):
     return button is not None and button.getState().contains(pyatspi.STATE_SENSITIVE)
 
 
-def line_at_caret(node):
-    text = node.queryText()
-    return text.getTextAtOffset(text.caretOffset, pyatspi.TEXT_BOUNDARY_LINE_START)[0]
-
-
 def do(node):
     """Presses it, if it is there and can be pressed."""
     actions = node.queryAction() if node else None
