@@ -69,7 +69,6 @@ DieButton* frmAbout::MakeDie(const QString& Name, const QString& File) {
   auto* Made = Make<DieButton>(this, Name);
   Made->setIcon(QPixmap(File));  // sharp on large screens: it has twice the pixels
   Made->setIconSize(DieSize);
-  Made->setFixedSize(DieSize);
   Made->setAccessibleName(Name == "Picture1" ? "Left die" : "Right die");
   return Made;
 }

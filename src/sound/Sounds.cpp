@@ -22,14 +22,13 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Milliseconds = Sounds::Milliseconds;
 
-constexpr qint64 LargestFile = 32 << 20;    // bytes
-constexpr qint64 LargestSound = 256 << 20;  // bytes in the device's form, 25 minutes
+constexpr qint64 Largest = 256 << 20;  // bytes of a file, and of its sound in the device's form: 25 minutes
 // A sound that comes later than this no longer fits, and a device that takes nothing for so long has hung up.
 constexpr Milliseconds LongestOpening{2000};
 constexpr Milliseconds LongestClosing{500};  // at the program's end
 constexpr std::size_t MostWaiting = 16;      // sounds, while a device or a disk hangs
-constexpr int DeviceRate = 44100;            // Hz
-constexpr int DevicePeriod = 1024;           // samples, 23 ms
+/// What the device is asked for: Hz, form and number of channels, and the samples that it takes at a time, 23 ms.
+constexpr SDL_AudioSpec DeviceForm{44100, AUDIO_S16SYS, 2, {}, 1024, {}, {}, {}, {}};
 
 /// The sound library, for the thread that makes it. It is loaded with the first sound: it would make up a good part of
 /// the start.
@@ -76,11 +75,7 @@ SDL_AudioDeviceID SoundLibrary::Open(SDL_AudioCallback Feed, void* Player) const
   if (Tell != nullptr) Tell(&Ignore);
   SetHint(SDL_HINT_APP_NAME, "Tollmoor Blunko");  // the name in the system's volume control
   if (AudioInit(nullptr) != 0) return 0;
-  SDL_AudioSpec Form{};
-  Form.freq = DeviceRate;
-  Form.format = AUDIO_S16SYS;
-  Form.channels = 2;
-  Form.samples = DevicePeriod;
+  SDL_AudioSpec Form = DeviceForm;
   Form.callback = Feed;
   Form.userdata = Player;
   const SDL_AudioDeviceID Device = OpenAudioDevice(nullptr, 0, &Form, nullptr, 0);
@@ -103,8 +98,9 @@ QByteArray SoundLibrary::InDeviceForm(const QByteArray& File) const {
   if (Source == nullptr || LoadWAV_RW(Source, 1, &Form, &Wave, &Length) == nullptr) return {};
   const std::unique_ptr<Uint8, decltype(&SDL_FreeWAV)> Owner(Wave, FreeWAV);
   SDL_AudioCVT Converter{};
-  if (BuildAudioCVT(&Converter, Form.format, Form.channels, Form.freq, AUDIO_S16SYS, 2, DeviceRate) < 0 ||
-      qint64{Length} * Converter.len_mult > LargestSound) {
+  if (BuildAudioCVT(&Converter, Form.format, Form.channels, Form.freq, DeviceForm.format, DeviceForm.channels,
+                    DeviceForm.freq) < 0 ||
+      qint64{Length} * Converter.len_mult > Largest) {
     return {};
   }
   QByteArray Sound(static_cast<qsizetype>(qint64{Length} * Converter.len_mult), Qt::Uninitialized);
@@ -119,8 +115,8 @@ QByteArray SoundLibrary::InDeviceForm(const QByteArray& File) const {
 /// A plain file of no more than the largest size; empty for anything else. A pipe or a device isn't even opened.
 QByteArray ReadSoundFile(const QString& Path) {
   QFile File(Path);
-  if (!QFileInfo(Path).isFile() || File.size() > LargestFile || !File.open(QIODevice::ReadOnly)) return {};
-  return File.read(LargestFile);
+  if (!QFileInfo(Path).isFile() || File.size() > Largest || !File.open(QIODevice::ReadOnly)) return {};
+  return File.read(Largest);
 }
 
 }  // namespace

@@ -28,7 +28,6 @@ struct Opened {
 TEST(Help, ContentsGoToTheHeadingsAndLinksOutward) {
   Opened Window("Overview.htm");
   ExpectUsable(Window.Help);
-  EXPECT_EQ(Window.Contents.currentItem(), Window.Contents.topLevelItem(3)) << "the page that is shown is marked";
   for (QTreeWidgetItemIterator Entry(&Window.Contents); *Entry != nullptr; ++Entry) {
     Window.Contents.setCurrentItem(*Entry);
     const QString Heading = Window.Page.cursorForPosition({30, 16}).block().text();

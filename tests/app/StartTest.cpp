@@ -47,12 +47,6 @@ TEST_F(Playing, EveryWayOutInsideEveryOtherLeavesTheTableOrEndsTheProgram) {
          });
          Key(Qt::Key_F2);
        }},
-      {"a roll", "0000",
-       [&](const Step& Out, char) {
-         Run->Screen.WaitFactor = 0.01;
-         QTimer::singleShot(0, Run->Form.get(), Out);
-         Click(Run->Form->cmdRoll);
-       }},
       {"the options", "0101",  // the button is off, and Esc closes the panel and no more
        [&](const Step& Out, char Asked) {
          Run->Form->cmdOptions->click();
