@@ -31,9 +31,8 @@ int ScrollBox::TextHeight() const {
 void ScrollBox::paintEvent(QPaintEvent*) {
   if (drawn.isNull() || drawn.devicePixelRatio() != devicePixelRatioF()) DrawText(devicePixelRatioF());
   QPainter Painter(this);
-  const QRect Lines(QPoint(0, Top), drawn.deviceIndependentSize().toSize());
-  for (const QRect& Bare : QRegion(rect()) - Lines) Painter.fillRect(Bare, FormBlue);
-  Painter.drawPixmap(Lines.topLeft(), drawn);
+  Painter.fillRect(rect(), FormBlue);
+  Painter.drawPixmap(0, Top, drawn);
 }
 
 void ScrollBox::DrawText(qreal Scale) {

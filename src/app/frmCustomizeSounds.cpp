@@ -38,8 +38,6 @@ void frmCustomizeSounds::BuildControls() {
     auto* Row = new QListWidgetItem(QString::fromLatin1(Event.Caption), lstEvents);
     Row->setSizeHint(QSize(0, RowHeight));
   }
-  lstEvents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  lstEvents->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstEvents->setFixedHeight(RowHeight * lstEvents->count() + 2 * lstEvents->frameWidth());
   lstEvents->setMinimumWidth(ListWidth);
   lstEvents->setAccessibleName("Event");
