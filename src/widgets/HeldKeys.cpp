@@ -21,7 +21,6 @@ HeldKeys::HeldKeys(bool RepeatsAreMarked) : marked(RepeatsAreMarked) {
     if (State == Qt::ApplicationActive) stale.merge(KeysDown().value_or(std::set<quint32>()));
     Look();
   });
-  again.setSingleShot(true);
   connect(&again, &QTimer::timeout, this, &HeldKeys::Look);
 }
 
@@ -44,7 +43,7 @@ void HeldKeys::Look() {
   if (!Down) return;
   std::erase_if(stale, [&](quint32 Key) { return !Down->contains(Key) && !lastDown.contains(Key); });
   lastDown = *std::move(Down);
-  if (!stale.empty()) again.start(LookEvery);
+  stale.empty() ? again.stop() : again.start(LookEvery);
 }
 
 bool HeldKeys::eventFilter(QObject* Receiver, QEvent* Event) {

@@ -1,5 +1,6 @@
 #include "widgets/Letters.h"
 
+#include <QColorSpace>
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -19,7 +20,9 @@ constexpr double Plain = 7, Least = 4.5;  // contrasts: from the one on no edge,
 
 /// The part of black to white, 0 to 1, that a grey of the luminance has on the screen.
 double ShadeOf(double Luminance) {
-  return Luminance <= 0.0031308 ? Luminance * 12.92 : 1.055 * std::pow(Luminance, 1 / 2.4) - 0.055;
+  static const auto ToShade = QColorSpace(QColorSpace::SRgbLinear).transformationToColorSpace(QColorSpace::SRgb);
+  const auto Grey = static_cast<float>(Luminance);
+  return ToShade.map(QColor::fromRgbF(Grey, Grey, Grey)).redF();
 }
 
 /// How strong a light, or a dark, behind the letters must be to give them the contrast on the ground.

@@ -3,6 +3,7 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCheckBox>
+#include <QColorSpace>
 #include <QComboBox>
 #include <QFocusFrame>
 #include <QImageReader>
@@ -78,10 +79,9 @@ bool IsStandard(const QWidget* Control) {
 }  // namespace
 
 double Luminance(const QColor& Colour) {
-  const auto Linear = [](double Part) {
-    return Part <= 0.04045 ? Part / 12.92 : std::pow((Part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * Linear(Colour.redF()) + 0.7152 * Linear(Colour.greenF()) + 0.0722 * Linear(Colour.blueF());
+  static const auto ToLight = QColorSpace(QColorSpace::SRgb).transformationToColorSpace(QColorSpace::SRgbLinear);
+  const QColor Light = ToLight.map(Colour);
+  return 0.2126 * Light.redF() + 0.7152 * Light.greenF() + 0.0722 * Light.blueF();
 }
 
 double Contrast(const QColor& One, const QColor& Other) {
