@@ -69,7 +69,8 @@ inline void ExpectAsKept(QWidget& Form, const QString& State = {}) {
         << Part->objectName() << Told.role() << '"' + Told.text(QAccessible::Name) + '"'
         << Told.text(QAccessible::Description) << (Told.state().invisible ? "unseen" : "")
         << (Told.state().disabled ? "off" : "") << (Told.state().checked ? "checked" : "")
-        << QRect(Part->mapTo(&Form, QPoint()), Part->size()) << Part->font().key().section(',', 2, 5)
+        << (Part == Form.focusWidget() ? "focus" : "") << QRect(Part->mapTo(&Form, QPoint()), Part->size())
+        << Part->font().key().section(',', 2, 5)
         << (ToolkitPaints ? Part->palette().color(Part->foregroundRole()).name() : QString());
   }
   for (QString& Line : Found) Line = Line.simplified();
@@ -97,9 +98,8 @@ inline void ExpectUsable(QWidget& Form, const QString& State = {}) {
   Form.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&Form, 5000));
   QWidget* const Had = Form.focusWidget();
-  if (Had != nullptr) Had->clearFocus();
   ExpectAsKept(Form, State);
-  for (QWidget* Part : Form.findChildren<QWidget*>()) {
+  for (QWidget* Part : Form.findChildren<QWidget*>(QRegularExpression("^(?!qt_).+"))) {
     if (!Part->isVisible()) continue;
     SCOPED_TRACE(Part->objectName().toStdString());
     if ((Part->focusPolicy() & Qt::TabFocus) != 0 && Part->isEnabled() && Part->focusProxy() == nullptr) {

@@ -15,5 +15,6 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   blunko::RingStandardControls();
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setCursorFlashTime(0);  // a caret is always seen
   return RUN_ALL_TESTS();
 }
