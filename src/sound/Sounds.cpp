@@ -22,7 +22,8 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Milliseconds = Sounds::Milliseconds;
 
-constexpr qint64 Largest = 256 << 20;  // bytes of a file, and of its sound in the device's form: 25 minutes
+constexpr qint64 LargestFile = 32 << 20;    // bytes
+constexpr qint64 LargestSound = 256 << 20;  // bytes in the device's form, 25 minutes
 // A sound that comes later than this no longer fits, and a device that takes nothing for so long has hung up.
 constexpr Milliseconds LongestOpening{2000};
 constexpr Milliseconds LongestClosing{500};  // at the program's end
@@ -69,12 +70,12 @@ void Ignore(const char*, int, const char*, int, const char*, ...) {}
 
 /// Only the sound part of the library is started: without its events it installs no handler for any signal.
 SDL_AudioDeviceID SoundLibrary::Open(SDL_AudioCallback Feed, void* Player) const {
-  if (!file.isLoaded()) return 0;
+  if (!file.isLoaded()) return {};
   QLibrary Driver(QStringLiteral("asound"), 2);  // it would tell the terminal at length that there is no device
   const auto Tell = reinterpret_cast<int (*)(decltype(&Ignore))>(Driver.resolve("snd_lib_error_set_handler"));
   if (Tell != nullptr) Tell(&Ignore);
   SetHint(SDL_HINT_APP_NAME, "Tollmoor Blunko");  // the name in the system's volume control
-  if (AudioInit(nullptr) != 0) return 0;
+  if (AudioInit(nullptr) != 0) return {};
   SDL_AudioSpec Form = DeviceForm;
   Form.callback = Feed;
   Form.userdata = Player;
@@ -84,10 +85,8 @@ SDL_AudioDeviceID SoundLibrary::Open(SDL_AudioCallback Feed, void* Player) const
 }
 
 void SoundLibrary::Close(SDL_AudioDeviceID Device) const {
-  if (!file.isLoaded()) return;
-  CloseAudioDevice(Device);
-  AudioQuit();
-  TLSCleanup();  // what the library keeps for this thread
+  // The last one frees what the library keeps for this thread.
+  if (file.isLoaded()) CloseAudioDevice(Device), AudioQuit(), TLSCleanup();
 }
 
 QByteArray SoundLibrary::InDeviceForm(const QByteArray& File) const {
@@ -100,7 +99,7 @@ QByteArray SoundLibrary::InDeviceForm(const QByteArray& File) const {
   SDL_AudioCVT Converter{};
   if (BuildAudioCVT(&Converter, Form.format, Form.channels, Form.freq, DeviceForm.format, DeviceForm.channels,
                     DeviceForm.freq) < 0 ||
-      qint64{Length} * Converter.len_mult > Largest) {
+      qint64{Length} * Converter.len_mult > LargestSound) {
     return {};
   }
   QByteArray Sound(static_cast<qsizetype>(qint64{Length} * Converter.len_mult), Qt::Uninitialized);
@@ -115,8 +114,8 @@ QByteArray SoundLibrary::InDeviceForm(const QByteArray& File) const {
 /// A plain file of no more than the largest size; empty for anything else. A pipe or a device isn't even opened.
 QByteArray ReadSoundFile(const QString& Path) {
   QFile File(Path);
-  if (!QFileInfo(Path).isFile() || File.size() > Largest || !File.open(QIODevice::ReadOnly)) return {};
-  return File.read(Largest);
+  if (!QFileInfo(Path).isFile() || File.size() > LargestFile || !File.open(QIODevice::ReadOnly)) return {};
+  return File.read(LargestFile);
 }
 
 }  // namespace
