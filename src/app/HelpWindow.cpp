@@ -126,9 +126,8 @@ void HelpWindow::LayOut() {
   Halves->setStretchFactor(1, 1);
   auto* Search = new QHBoxLayout;
   Search->setSpacing(6);
-  for (QWidget* Part :
-       {static_cast<QWidget*>(txtFind), static_cast<QWidget*>(cmdFindPrevious), static_cast<QWidget*>(cmdFindNext)})
-    Search->addWidget(Part);
+  const std::initializer_list<QWidget*> Finding{txtFind, cmdFindPrevious, cmdFindNext};
+  for (QWidget* Part : Finding) Search->addWidget(Part);
   auto* Column = new QVBoxLayout(this);
   Column->setContentsMargins(8, 8, 8, 8);
   Column->addLayout(Bar);

@@ -58,6 +58,7 @@ void frmHighRollers::LayOut() {
 QPlainTextEdit* frmHighRollers::MakeList(const QString& Name, const QString& Description) {
   auto* Made = Make<QPlainTextEdit>(this, Name);
   Made->setAccessibleName(Description);
+  Made->setReadOnly(true);  // no input method over it
   Made->setTabChangesFocus(true);
   Made->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   Made->setLineWrapMode(QPlainTextEdit::NoWrap);

@@ -121,6 +121,11 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   Pad.close();
   QTest::mouseClick(Form.windowHandle(), Qt::LeftButton, {}, {100, 320});
   EXPECT_TRUE(Pad.isVisible()) << "a click on the scores brings it back";
+  Pad.move(30, 40);
+  for (const bool Minimises : {true, false}) {
+    Minimises ? Form.showMinimized() : Form.showNormal();
+    EXPECT_TRUE(Pad.isVisible() != Minimises && Pad.pos() == QPoint(30, 40)) << "it goes and comes with the table";
+  }
   Run->Controls.Busted = true;  // lost dice are pale, samples aren't
   Click(Form.cmdOptions);
   ExpectAsKept(Form, "-options");

@@ -55,16 +55,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size
 #include <chrono>
 #include <random>
 
-/// file_readers_fuzz SECONDS: mutates sound files for that long.
-int main(int, char** argv) {
+/// file_readers_fuzz [seconds [seed]]: mutates sound files for that long.
+int main(int argc, char** argv) {
   const QByteArray Seeds[] = {
       "[Info]\r\nDieColor=112\r\n; a remark\r\nBackground=\"/a b/c.jpg\"\r\n\r\n[Other]\r\nDieColor=1\r\n",
       "\xEF\xBB\xBF[info]\ndiecolor = 7\nScanned=True\n[Info]\nNew=2", ScrambleText(RollerLists::Default().Text())};
   QByteArrayList Pieces = QByteArray("|[Info]|]=|\"|'|\r\n|\n|\r|DieColor|\xEF\xBB\xBF|\xA4").split('|');
   Pieces << ScrambleText("\xA4") << ScrambleText("9\r\n");
-  std::mt19937 Random;
+  std::mt19937 Random(argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 1);
   const auto Below = [&](qsizetype Bound) { return static_cast<qsizetype>(Random() % static_cast<unsigned>(Bound)); };
-  const auto End = std::chrono::steady_clock::now() + std::chrono::seconds(std::atoi(argv[1]));
+  const auto End = std::chrono::steady_clock::now() + std::chrono::seconds(argc > 1 ? std::atoi(argv[1]) : 5);
   while (std::chrono::steady_clock::now() < End) {
     QByteArray Text = Seeds[Below(std::size(Seeds))];
     for (qsizetype Changes = Below(6); Changes > 0; --Changes) {

@@ -37,7 +37,7 @@ struct GameSettingsTest : testing::Test {
 };
 
 TEST_F(GameSettingsTest, TakesWhateverStandsInTheFile) {
-  for (const auto& [Line, Value] : RowsOf("storage/settings.txt")) {
+  for (const auto& [Line, Value, Rule] : RowsOf("storage/settings.txt")) {
     EXPECT_THAT(Held(Load(Line.c_str())), testing::HasSubstr(' ' + Line.substr(0, Line.find('=') + 1) + Value + ' '));
     EXPECT_EQ(Keys(), Line.c_str()) << "reading repairs nothing";
   }

@@ -1,21 +1,24 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace blunko::test {
 
-/// The rows of a text beside the tests, "what is done > what comes of it"; remarks begin with #.
-inline std::vector<std::pair<std::string, std::string>> RowsOf(const std::string& File) {
-  std::vector<std::pair<std::string, std::string>> Rows;
+/// The rows of a text beside the tests, "what is done > what comes of it": both, and the remark above them.
+inline std::vector<std::array<std::string, 3>> RowsOf(const std::string& File) {
+  std::vector<std::array<std::string, 3>> Rows;
   std::ifstream Text(TBK_TEST_FILES "/" + File);
-  for (std::string Line; std::getline(Text, Line);) {
+  for (std::string Line, Remark; std::getline(Text, Line);) {
     const auto Middle = Line.find(" >");
-    if (!Line.starts_with('#'))
-      Rows.emplace_back(Line.substr(0, Middle), Line.substr(std::min(Middle + 3, Line.size())));
+    EXPECT_TRUE(Line.starts_with('#') || Middle != std::string::npos) << Line;
+    if (Line.starts_with('#')) Remark = Line;
+    if (Remark != Line)
+      Rows.push_back({Line.substr(0, Middle), Line.substr(std::min(Middle + 3, Line.size())), Remark});
   }
   EXPECT_FALSE(Rows.empty()) << File;
   return Rows;

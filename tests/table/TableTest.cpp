@@ -72,7 +72,7 @@ TEST_F(TheTable, AKeyIsACommandOnceAtItsReleaseInTheWindowOfItsPress) {
   Screen.Answer = false;
   for (std::size_t Row = 0; Row < 2 * Rows.size(); ++Row) {
     if (Row == Rows.size()) qApp->installEventFilter(&Bridge);  // all again for a reader
-    const auto& [Strokes, Outcome] = Rows[Row % Rows.size()];
+    const auto& [Strokes, Outcome, Rule] = Rows[Row % Rows.size()];
     QWidget Dialog;
     ButtonPlus OK("OK", &Dialog);
     QObject::connect(&OK, &QPushButton::clicked, [this] { Screen.Log.push_back("OK"); });
@@ -105,7 +105,7 @@ TEST_F(TheTable, AKeyIsACommandOnceAtItsReleaseInTheWindowOfItsPress) {
     for (const std::string& Line : TakeLog()) {
       Came += Line == Question ? "Q" : Line == "new game" ? "N" : Line == "OK" ? "K" : "";
     }
-    EXPECT_EQ(Came, Outcome) << Strokes;
+    EXPECT_EQ(Came, Outcome) << Rule;
   }
 }
 

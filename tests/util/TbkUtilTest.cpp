@@ -79,7 +79,7 @@ TEST(UtilCheckVersion, ASlowServerHasUntilTheLimit) {
   }
 }
 
-TEST(TbkUtil, PutsAReadableSurveyIntoItsFolder) {
+TEST(TbkUtil, PutsAReadableSurveyThatNamesNobodyIntoItsFolder) {
   const Place place;
   TbkUtil Util("");
   EXPECT_FALSE(Util.UtilStoreLists("lost")) << "there is no folder yet";
@@ -90,6 +90,10 @@ TEST(TbkUtil, PutsAReadableSurveyIntoItsFolder) {
   const QRegularExpression Form("\\AProcessor: .*[A-Za-z].*, \\d+ threads\nMemory: " + Memory +
                                 " kB\nSystem: .+, linux \\d.*\n(Screen: 800 x 800 pixels, scale 1\n)\\z");
   EXPECT_TRUE(Form.match(Survey).hasMatch()) << Survey.toStdString();
+  for (const QString& Name : {QSysInfo::machineHostName(), QFileInfo(place.Path()).owner(), QDir::homePath()}) {
+    const QRegularExpression Word("(?<![\\w.-])" + QRegularExpression::escape(Name) + "(?![\\w.-])");
+    EXPECT_FALSE(Survey.contains(Word)) << Name.toStdString() << " in\n" << Survey.toStdString();
+  }
 }
 
 // The draws of an implementation in another language, written from the published recurrence of the 64-bit Mersenne
