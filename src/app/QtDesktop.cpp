@@ -11,9 +11,7 @@
 
 namespace blunko {
 
-void QtDesktop::Refresh() {
-  if (form != nullptr) form->ShowControls();
-}
+void QtDesktop::Refresh() { form->ShowControls(); }
 
 void QtDesktop::Sleep(int Milliseconds) {
   Refresh();
@@ -47,7 +45,6 @@ bool QtDesktop::AskYesNo(const std::string& Text, const std::string& Title, bool
 }
 
 void QtDesktop::SetMousePointer(MousePointer Pointer) {
-  if (form == nullptr) return;
   Pointer == MousePointer::Hourglass ? form->setCursor(Qt::WaitCursor) : form->unsetCursor();
 }
 

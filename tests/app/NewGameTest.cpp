@@ -15,7 +15,8 @@ class NewGame : public testing::Test {
 
   void Choose(int Players) { Form.optNumPlayers[static_cast<std::size_t>(Players - 1)]->click(); }
   void Seat(std::size_t i, const char* Name, int Style = -1) {
-    Form.TxtPlayerName[i]->setText(QString::fromUtf8(Name));
+    Form.TxtPlayerName[i]->clear();
+    Form.TxtPlayerName[i]->insert(QString::fromUtf8(Name));  // as a paste does
     Form.chkComputer[i]->setChecked(Style >= 0);
     Form.cboStyle[i]->setCurrentIndex(qMax(0, Style));
   }
@@ -79,7 +80,7 @@ TEST_F(NewGame, OpensWithWhatWasSavedPlaysWhatIsShownAndTakesTheRestartWords) {
   EXPECT_EQ(Told([&] { Click(Form.cmdPlay); }), Saved);
   const std::string Bobs = Told([&] {
     Choose(2);
-    Seat(0, "Bob");
+    Seat(0, "B¤ob");
     Click(Form.cmdPlay);
   });
   EXPECT_EQ(Bobs, Played);

@@ -147,9 +147,10 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   });
   Next.Expect<frmNewGame>([&](frmNewGame& Dialog) {
     EXPECT_TRUE(Form.ARCmdNewGame->isVisible()) << "behind a dialog the table stands as the game has it";
-    Dialog.reject();
+    Click(Dialog.cmdPlay);
   });
   Key(Qt::Key_F2);
+  EXPECT_TRUE(Form.cmdRoll->isVisible());
   Begin(3, 2);
   Run->State.TurnScore = 600;
   Form.Handle([this] { Run->Table.cmdPassDice_Click(); });
