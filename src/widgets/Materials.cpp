@@ -107,7 +107,7 @@ QColor Thin(QColor Colour, double Strength) {
 QImage Blurred(const QImage& Picture, double Radius) {
   QImage Soft = Picture;
   for (int Pass = 0; Pass < 2; ++Pass) {  // smaller and large again is a blur
-    const QSize Small = (QSizeF(Picture.size()) / qMax(1.0, Radius)).toSize().expandedTo({1, 1});
+    const QSize Small = (QSizeF(Picture.size()) / Radius).toSize().expandedTo({1, 1});
     Soft = Soft.scaled(Small, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                .scaled(Picture.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   }

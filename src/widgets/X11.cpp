@@ -1,5 +1,6 @@
 #include "widgets/X11.h"
 
+#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QImage>
 #include <QThread>
@@ -113,7 +114,7 @@ void AwaitPlace(const QWidget& Window, const QRect& Wanted) {
                     static_cast<unsigned>(Wanted.height()));
   XUngrabServer(To);
   XFlush(To);
-  for (int Waited = 0; Window.isVisible() && Waited < LongestWait; Waited += LookEvery) {
+  for (const QDeadlineTimer Limit(LongestWait); Window.isVisible() && !Limit.hasExpired();) {
     XSync(To, False);
     if (PlaceOnServer(Window).size() == Wanted.size()) break;
     QThread::msleep(LookEvery);

@@ -230,25 +230,9 @@ TEST(Turn, OfAPersonTakesItsTime) {
   EXPECT_EQ(table.Told(),
             "dice 1234/44; score 0; status Select Dice. (Undo); sound Undo; dice 12344/4; "
             "buttons ; sound Undo; dice 123444/; sound Undo");
-}
-
-TEST(Turn, TumblesAsTheNumberOfDiceTells) {
-  const std::tuple<const char*, std::string_view, int, const char*> Rows[] = {
-      {"111112 @0", "1", 20, "20"},       {"111123 @0", "11", 30, "15"},    {"111234 @0", "111", 30, "13"},
-      {"112346 @0 @1", "1111", 32, "13"}, {"123446 @0", "11111", 35, "11"}, {"123456 @0", "111111", 30, "10"}};
-  for (const auto& [Before, Faces, Tumbles, Sleep] : Rows) {
-    for (const int Speed : {-1, 0, 1, 2}) {  // of a computer, -1 for a person
-      Table table;
-      table.Options.ComputerSpeed = std::abs(Speed);
-      table.Begin({Speed < 0 ? "Ann" : "Normal", "Bob"});
-      table.Play(Before);
-      table.TakeLog();
-      const int Steps = Speed == 2 ? 0 : Tumbles, Drawn = table.Numbers.Draws;
-      table.Play(Faces);
-      EXPECT_EQ(table.Told("sleep"), Steps == 0 ? "" : std::string("sleep ") + Sleep + " x" + std::to_string(Steps));
-      EXPECT_EQ(table.Numbers.Draws - Drawn, Steps + std::ssize(Faces)) << "one for each step and one to stay";
-    }
-  }
+  table.Begin({"Ann", "Bob"});
+  table.Play("123446 @0 12344 @0 1234 @0 123 @0 12 @0 1");
+  EXPECT_EQ(table.Told("sleep"), "sleep 10 x30; sleep 11 x35; sleep 13 x62; sleep 15 x30; sleep 20 x20") << "6 to 1";
 }
 
 TEST(Fault, NamesTheRulesThatAreBroken) {

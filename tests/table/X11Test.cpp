@@ -1,4 +1,5 @@
 #include <QProcess>
+#include <QScreen>
 #include <QWindow>
 
 #include "tests/table/TableForm.h"
@@ -26,6 +27,20 @@ TEST(X11, TheTableUnderAWindowManager) {
   }
   EXPECT_TRUE(QTest::qWaitFor([&] { return FrameTold(Game.Form).top() > 10; }));
   EXPECT_EQ(FrameTold(Game.Form), Game.Form.windowHandle()->frameMargins());
+  const QRect Was = PlaceOnServer(Game.Form), Wide = Was.adjusted(-90, 0, 0, 0), New(0, 0, 90, Wide.height());
+  QImage Whole(Wide.size(), QImage::Format_RGB32);
+  Whole.fill(Qt::red);
+  Game.Form.setMaximumSize(Wide.size());
+  const auto Grows = [&] {  // a busy manager may take longer than the table waits
+    Game.Form.setGeometry(Was);
+    if (!QTest::qWaitFor([&] { return PlaceOnServer(Game.Form) == Was; })) return false;
+    HoldRightEdge(Game.Form, Whole);
+    Game.Form.setGeometry(Wide);
+    AwaitPlace(Game.Form, Wide);
+    const QImage Seen = Game.Form.screen()->grabWindow(0, Wide.x(), Wide.y(), 90, Wide.height()).toImage();
+    return PlaceOnServer(Game.Form) == Wide && Seen.convertToFormat(Whole.format()) == Whole.copy(New);
+  };
+  EXPECT_TRUE(QTest::qWaitFor(Grows, 20'000)) << "what comes to light is seen before the program paints";
 }
 
 }  // namespace blunko::test
