@@ -77,7 +77,6 @@ void frmCredits::showEvent(QShowEvent* Event) {
 
 /// Starts the scrolling: the text stands just below the lower edge.
 void frmCredits::ScrollCredits() {
-  if (!isVisible()) return;
   if (picScroll->TextHeight() == 0) {
     ShowMessage(this, QStringLiteral("Error scrolling text"), Sign::Warning);
     reject();
