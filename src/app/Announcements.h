@@ -17,12 +17,12 @@ struct SpokenLine {
   std::string Text = {};    ///< none for a key that only asks for what waits
   std::string Folded = {};  ///< a whole turn of a computer in one line, at its end
   int Seat = Absent;        ///< whose turn it is
-  std::uint32_t Game{};     ///< `GameNumber`
-  bool OfComputer{};        ///< tells what a computer does
-  bool Kept{};              ///< goes out whatever comes after it
-  bool AtOnce{};            ///< answers a person, or ends the game
-  bool Again{};             ///< asks for the line that went out last
-  bool Interrupts{};        ///< worth cutting a reader off
+  std::uint32_t Game = 0;   ///< `GameNumber`
+  bool OfComputer = false;  ///< tells what a computer does
+  bool Kept = false;        ///< goes out whatever comes after it
+  bool AtOnce = false;      ///< answers a person, or ends the game
+  bool Again = false;       ///< asks for the line that went out last
+  bool Interrupts = false;  ///< worth cutting a reader off
 };
 
 /// One or two sentences that tell an event to a person who can't see the table, and what the person can do next.
@@ -46,7 +46,7 @@ class AnnouncementQueue {
   std::deque<SpokenLine> waiting;
   SpokenLine last;
   Time freeAt{};  ///< when a quick voice has read what went out
-  bool hurried{};
+  bool hurried = false;
 };
 
 /// "two ones and a five score", of the dice that are up.

@@ -70,12 +70,12 @@ void Ignore(const char*, int, const char*, int, const char*, ...) {}
 
 /// Only the sound part of the library is started: without its events it installs no handler for any signal.
 SDL_AudioDeviceID SoundLibrary::Open(SDL_AudioCallback Feed, void* Player) const {
-  if (!file.isLoaded()) return {};
+  if (!file.isLoaded()) return 0;
   QLibrary Driver(QStringLiteral("asound"), 2);  // it would tell the terminal at length that there is no device
   const auto Tell = reinterpret_cast<int (*)(decltype(&Ignore))>(Driver.resolve("snd_lib_error_set_handler"));
   if (Tell != nullptr) Tell(&Ignore);
   SetHint(SDL_HINT_APP_NAME, "Tollmoor Blunko");  // the name in the system's volume control
-  if (AudioInit(nullptr) != 0) return {};
+  if (AudioInit(nullptr) != 0) return 0;
   SDL_AudioSpec Form = DeviceForm;
   Form.callback = Feed;
   Form.userdata = Player;
@@ -85,8 +85,10 @@ SDL_AudioDeviceID SoundLibrary::Open(SDL_AudioCallback Feed, void* Player) const
 }
 
 void SoundLibrary::Close(SDL_AudioDeviceID Device) const {
-  // The last one frees what the library keeps for this thread.
-  if (file.isLoaded()) CloseAudioDevice(Device), AudioQuit(), TLSCleanup();
+  if (!file.isLoaded()) return;
+  CloseAudioDevice(Device);
+  AudioQuit();
+  TLSCleanup();  // what the library keeps for this thread
 }
 
 QByteArray SoundLibrary::InDeviceForm(const QByteArray& File) const {

@@ -58,6 +58,7 @@ QPixmap EdgeOf(const QString& Text, const QFont& Font, const QColor& Colour, qre
 
 void DrawLetters(QPainter& Painter, const QRectF& Room, Qt::Alignment Side, const QString& Text, const QFont& Font,
                  const QColor& Ink, const QColor& Ground) {
+  if (Text.trimmed().isEmpty()) return;
   const QFont Fitted = FittedFont(Font, Text, Room.width() / Narrowest);
   const QFontMetricsF Metrics(Fitted);
   const qreal Needed = Metrics.horizontalAdvance(Text);
