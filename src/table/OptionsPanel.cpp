@@ -110,10 +110,7 @@ void OptionsPanel::BuildLists() {
   lstSkin = Make<QListWidget>(this, QStringLiteral("lstSkin"));
   lstSkin->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstSkin->setMinimumHeight(60);
-  auto* Skin = AddFrame(QStringLiteral("Background:"));
-  Skin->addStretch();
-  Skin->addWidget(lstSkin, 1);
-  Skin->addStretch();
+  AddFrame(QStringLiteral("Background:"), {lstSkin});
   frames->setStretchFactor(lstSkin->parentWidget(), 1);
   connect(lstSkin, &QListWidget::currentRowChanged, this, &OptionsPanel::lstSkin_Click);
   // A click on the picture that is shown already brings its text colour back.
@@ -163,7 +160,7 @@ void OptionsPanel::ShowWholeRows() {
     for (QWidget* Form : {static_cast<QWidget*>(this), lstSkin->parentWidget()}) Form->layout()->activate();
   };
   LayOut(QWIDGETSIZE_MAX);
-  const int Row = qMax(lstSkin->sizeHintForRow(0), 1), Frame = 2 * lstSkin->frameWidth();
+  const int Row = lstSkin->sizeHintForRow(0), Frame = 2 * lstSkin->frameWidth();
   LayOut((lstSkin->height() - Frame) / Row * Row + Frame);
   lstSkin->scrollToItem(lstSkin->currentItem());
 }
@@ -275,9 +272,6 @@ void OptionsPanel::ApplyOptions() {
     if (lblColor[i]->isChecked()) settings.setTextColourIndex(i);
   }
   form.Wears.TextColour = settings.TextColour();
-  if (const DiceSet* Set = FindDiceSet(cboDiceColor->currentText())) {
-    settings.DieColour = static_cast<std::int16_t>(Set->Base);
-  }
 }
 
 void OptionsPanel::RevertOptions() {

@@ -166,7 +166,7 @@ void frmScorePad::Form_Activate() {
   lblGoal->setText(QStringLiteral("(Playing to %1)").arg(m.PlayToScore));
   label_break_in->setText(QStringLiteral("(%1 to break in)").arg(m.BreakInScore));
   for (int i = 0; i < m.NumPlayers; ++i) lblPlayer[i]->setText(QString::fromStdString(m.PlayerName[i]));
-  const int LastSeat = m.NumPlayers > 1 ? m.NumPlayers - 1 : 1;
+  const int LastSeat = qMax(m.NumPlayers - 1, 1);
   FixSize(*this, {Width, FirstRow + RowPitch * LastSeat + RowHeight});
   UpdateActivePlayer();
 }

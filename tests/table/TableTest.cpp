@@ -155,9 +155,8 @@ TEST_F(TheTable, AButtonThatGoesOffLeavesTheFocusToRollDiceOrToTheTable) {
   EXPECT_EQ(m.CurrentPlayer, 1);
   PressRoll({1, 1, 5, 2, 3, 4});
   Box(0)->setFocus();
-  QTest::keyClick(Box(0), Qt::Key_Left);
-  QTest::keyClick(Box(0), Qt::Key_Right);
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+  for (const auto Key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Left, Qt::Key_Right, Qt::Key_Space})
+    QTest::keyClick(QApplication::focusWidget(), Key);
   EXPECT_FALSE(Box(1)->isVisible());
   EXPECT_EQ(QApplication::focusWidget(), Box(0)) << "the first die that is left in the row";
   Form.cmdExit->setFocus();
