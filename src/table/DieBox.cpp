@@ -38,7 +38,6 @@ void DieBox::setPale(bool Pale) {
 }
 
 void DieBox::paintEvent(QPaintEvent*) {
-  if (picture == 0) return;
   QPainter Painter(this);
   const qreal Scale = devicePixelRatioF();
   const QPixmap& Die = bitmaps.Get(picture, Scale);
@@ -54,7 +53,6 @@ void DieBox::paintEvent(QPaintEvent*) {
 }
 
 void DieBox::DrawShadow(QPainter& Painter) const {
-  if (picture == 0) return;
   Painter.setOpacity(pale ? 0.3 : 1);
   Painter.drawPixmap(pos(), bitmaps.ShadowOf(picture, devicePixelRatioF()));
 }

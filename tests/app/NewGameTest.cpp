@@ -93,8 +93,16 @@ TEST_F(NewGame, OpensWithWhatWasSavedPlaysWhatIsShownAndTakesTheRestartWords) {
     Choose(1);
     Form.cboStyle[1]->setCurrentIndex(Moron - Normal);
     Click(Form.cmdSetDefault);
+    Seat(0, "Ann", Genius - Normal);
   });
-  EXPECT_EQ(Told([&] { Click(Form.cmdPlay); }), "1 10000 1000, Player1, Computer *Moron");
+  At.TakeLog();
+  const std::string Fresh = Told([&] {
+    Form.chkComputer[0]->click();
+    Click(Form.cmdPlay);
+  });
+  EXPECT_EQ(Fresh, "1 10000 1000, Player1 *Normal, Computer *Moron");
+  Told([&] { Click(Form.cmdPlay); });
+  EXPECT_EQ(At.TakeLog(), Lines{"beep"}) << "once for what was put away";
 }
 
 }  // namespace blunko::test

@@ -69,8 +69,9 @@ inline void ExpectAsKept(QWidget& Form, const QString& State = {}) {
         << Part->objectName() << Told.role() << '"' + Told.text(QAccessible::Name) + '"'
         << Told.text(QAccessible::Description) << (Told.state().invisible ? "unseen" : "")
         << (Told.state().disabled ? "off" : "") << (Told.state().checked ? "checked" : "")
-        << (Part == Form.focusWidget() ? "focus" : "") << QRect(Part->mapTo(&Form, QPoint()), Part->size())
-        << Part->font().key().section(',', 2, 5)
+        << (Part == Form.focusWidget() ? "focus" : "")
+        << (Part->cursor().shape() == Qt::PointingHandCursor ? "hand" : "")
+        << QRect(Part->mapTo(&Form, QPoint()), Part->size()) << Part->font().key().section(',', 2, 5)
         << (ToolkitPaints ? Part->palette().color(Part->foregroundRole()).name() : QString());
   }
   for (QString& Line : Found) Line = Line.simplified();

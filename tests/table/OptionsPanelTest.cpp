@@ -72,7 +72,7 @@ TEST(OptionsPanel, SaveKeepsEveryChoiceAndCancelTakesItBack) {
     Panel.optSound[0]->click();
     QTest::keyClick(Panel.cboDiceColor, Qt::Key_Down);  // from Antique to Marbles
     Panel.lstSkin->setCurrentRow(1);                    // Forest, with white text
-    EXPECT_TRUE(Panel.lblColor[7]->isChecked());
+    EXPECT_TRUE(Panel.lblColor[7]->isChecked() && Panel.lstSkin->accessibleName().endsWith("Forest"));
     EXPECT_EQ(Ink(), QColor(Qt::white)) << "the colour of the picture shows at once";
     Panel.lblColor[7]->setFocus();
     QTest::keyClick(Panel.lblColor[7], Qt::Key_Left);

@@ -179,6 +179,7 @@ TEST(KeyCodes, CountByThePlaceOnlyWhereThePlacesAreKnown) {
     const QKeyEvent Event(QEvent::KeyRelease, Key, NumPad ? Qt::KeypadModifier : Qt::NoModifier, ScanCode, 0, 0);
     EXPECT_EQ(KeyCodeOf(Event, Platform), Code) << Platform << ' ' << Key;
   }
+  EXPECT_EQ(ShiftMaskOf({QEvent::KeyRelease, Qt::Key_F2, Qt::ControlModifier | Qt::AltModifier}), 2 + 4);
 }
 
 TEST_F(TheTable, AllOfItIsReachedOnALowScreen) {
