@@ -112,7 +112,6 @@ TEST(Sounds, UsualWavesSoundAlikeAndWhatIsNoneGivesWayToTheNext) {
       {Recorder.Put("an hour", Wave{.Rate = 1000, .Width = 8, .Seconds = 3600}.File()), 0},
       {Recorder.Put("empty", ""), 0},
       {Recorder.Put("cut within the format", Plain.left(30)), 0},
-      {Recorder.Put("no samples", With(40, 0, 4)), 0},
       {Recorder.Put("65535 channels", With(22, 0xFFFF, 2)), 0},
       {Recorder.Put("four billion samples a second", With(24, 0xFFFFFFFF, 4)), 0},
       {Recorder.Pipe("pipe"), 0},
