@@ -57,7 +57,9 @@ TEST(Congrats, EngravesTheWinnerWhenTheSoundStartsAndItsButtonsLeaveTheirWords) 
     std::string Message;
     Game.TakeLog();
     Next.Expect<frmCongrats>([&, Button = Button](frmCongrats& Dialog) {
-      Game.Screen.OnSleep = [&] { EXPECT_EQ(Dialog.lblWinner->text(), QLatin1String("Engraving...")); };
+      Game.Screen.OnSleep = [&] {
+        EXPECT_TRUE(Dialog.lblWinner->text() == QLatin1String("Engraving...") && !Dialog.cmdQuit->isEnabled());
+      };
       EXPECT_TRUE(QTest::qWaitFor([&] { return Dialog.lblWinner->text() == QLatin1String("* Ann *"); }, 5000));
       EXPECT_EQ(Game.TakeLog(), (Lines{"sleep 500", "sound GameOver"}));
       ExpectAsKept(Dialog);

@@ -58,7 +58,6 @@ TEST_F(TheProgram, ABankedTurnGoesThroughTheRealDialogs) {
   Run->State.TurnScore = 1600;
   Run->Table.cmdPassDice_Click();
   EXPECT_EQ(Run->State.PlayerName[0], "Player1") << "the seat keeps its name";
-  EXPECT_EQ(Run->State.CurrentPlayer, 1);
 }
 
 }  // namespace blunko::test

@@ -91,7 +91,6 @@ TEST(Sounds, ASoundIsNeverCutTheNewRequestIsDroppedAndTheDeviceIsGivenBack) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return !Recorder.IsOpen(); }));
   EXPECT_NEAR(Recorder.Seconds(), 2.4, 0.5 / 44100) << "to the sample";
   EXPECT_NEAR(Recorder.Seconds(0.8), 0.2, 0.001);
-  EXPECT_EQ(QFile(Recorder.recorded).size() % 4096, 0) << "a period";
 }
 
 TEST(Sounds, UsualWavesSoundAlikeAndWhatIsNoneGivesWayToTheNext) {
