@@ -123,7 +123,6 @@ void frmNewGame::BuildSeat(int Index) {
   connect(cboStyle[Index], &QComboBox::textActivated, this, &frmNewGame::told);
   connect(Name, &QLineEdit::textChanged, this, [this, Index] { DescribeSeat(Index); });
   connect(chkComputer[Index], &QCheckBox::toggled, this, [this, Index] { chkComputer_Click(Index); });
-  DescribeSeat(Index);
 }
 
 /// What a screen reader calls the three controls of a seat, whose headings it doesn't see: "Style of seat 3, Ann".

@@ -103,7 +103,7 @@ TEST(CustomizeSounds, EveryEntryOfTheListIsItsEventAndOKAloneWritesAll) {
     for (const SoundEvent& Event : SoundEvents) {
       EXPECT_EQ(GameSettings(At.Where, At.Info).GetSound(Event.Name) == Own.toStdString(), Button == Form.cmdOK);
     }
-    for (const auto Key : {Qt::Key_Delete, Qt::Key_8, Qt::Key_Backspace}) QTest::keyClick(Form.txtSound, Key);
+    for (const auto Key : {Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_8}) QTest::keyClick(Form.txtSound, Key);
     EXPECT_EQ(Form.txtSound->text(), QLatin1String(SoundEvents.back().File));
     EXPECT_EQ(At.TakeLog(), Lines{"box Original Sounds Restored."});
   }

@@ -72,6 +72,7 @@ TEST_F(NewGame, OpensWithWhatWasSavedPlaysWhatIsShownAndTakesTheRestartWords) {
     At.Screen.OnSleep = [&] { Captions.push_back(Form.cmdSetDefault->text().toStdString()); };
     Click(Form.cmdSetDefault);
     EXPECT_EQ(Captions, (Lines{"Saving...", "Done..."}));
+    EXPECT_EQ(Form.cmdSetDefault->text(), "Save Game Setup as Default");
     EXPECT_EQ(At.TakeLog(), (Lines{"sleep 400", "beep", "sleep 400"}));
     Choose(5);
     QTest::keyClick(Form.TxtPlayerName[0], Qt::Key_Escape);
