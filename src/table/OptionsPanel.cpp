@@ -59,7 +59,6 @@ OptionsPanel::OptionsPanel(frmMain& Main, Game& Table, GameSettings& Options, QS
   // A style sheet keeps the panel's colours from being inherited.
   for (auto* Option : findChildren<QAbstractButton*>()) Option->setPalette(palette());
   lower();
-  hide();
 }
 
 /// A box with a caption; returns what the controls stand in.
