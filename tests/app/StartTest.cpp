@@ -126,13 +126,13 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
     Minimises ? Form.showMinimized() : Form.showNormal();
     EXPECT_TRUE(Pad.isVisible() != Minimises && Pad.pos() == QPoint(30, 40)) << "it goes and comes with the table";
   }
-  Run->Controls.Busted = true;  // lost dice are pale, samples aren't
+  Run->Controls.Busted = Run->Controls.lblStatus.Loud = true;  // lost dice are pale, samples aren't
   Click(Form.cmdOptions);
   ExpectAsKept(Form, "-options");
   Key(Qt::Key_Escape);
   Roll(35, {1, 1, 2, 5, 5});
   Run->Controls.lblLastRoll.Caption = "(Last Roll - Need 32767 To Take The Lead)";  // the longest
-  Run->Controls.lblStatus.Caption = "Roll, select, or pass the dice. (Undo)";
+  Run->Controls.lblStatus = {"Roll, select, or pass the dice. (Undo)", true, StatusTop};
   Run->Controls.lblPlayer.Caption = "WWWWWWWWWWWWWW";
   Run->Controls.ShowLastRoll();
   Run->Controls.Busted = true;
