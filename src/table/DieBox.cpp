@@ -88,7 +88,9 @@ void DiceTray::paintEvent(QPaintEvent*) {
   const QRect Place = FeltPlace.translated(0, -sunk);
   Painter.drawPixmap(Place.topLeft(), Felt(FeltPlace.size(), backColor, devicePixelRatioF()));
   Painter.setClipRect(Place);
-  for (const DieBox* Die : findChildren<DieBox*>(Qt::FindDirectChildrenOnly)) Die->DrawShadow(Painter);
+  for (const DieBox* Die : findChildren<DieBox*>(Qt::FindDirectChildrenOnly)) {
+    if (Die->isVisible()) Die->DrawShadow(Painter);
+  }
 }
 
 void DiceTray::mousePressEvent(QMouseEvent* Event) { Event->accept(); }

@@ -51,7 +51,7 @@ QPixmap EmptyPicture(const QSizeF& Size, qreal Scale) {
 
 const QPixmap& Bitmaps::Get(int Number, qreal Scale) {
   const auto [Entry, New] = rendered.try_emplace({Number, Scale});
-  if (New && Number != 0) Entry->second = RenderSvg(QStringLiteral(":/dice/%1.svg").arg(Number), Scale);
+  if (New) Entry->second = RenderSvg(QStringLiteral(":/dice/%1.svg").arg(Number), Scale);
   return Entry->second;
 }
 

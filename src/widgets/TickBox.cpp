@@ -15,7 +15,7 @@ QSize TickBox::sizeHint() const { return {Side + 2 * FocusRingWidth, Side + 2 * 
 void TickBox::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
   Painter.setRenderHint(QPainter::Antialiasing);
-  Painter.translate(QPoint(width() - Side, height() - Side) / 2);
+  Painter.translate(FocusRingWidth, FocusRingWidth);
   const QRectF Square(0.5, 0.5, Side - 1, Side - 1);
   if (hasFocus()) {
     constexpr qreal Around = FocusRingWidth + 0.5;

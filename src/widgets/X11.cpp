@@ -113,10 +113,8 @@ void AwaitPlace(const QWidget& Window, const QRect& Wanted) {
   XMoveResizeWindow(To, Window.winId(), Wanted.x(), Wanted.y(), static_cast<unsigned>(Wanted.width()),
                     static_cast<unsigned>(Wanted.height()));
   XUngrabServer(To);
-  XFlush(To);
-  for (const QDeadlineTimer Limit(LongestWait); Window.isVisible() && !Limit.hasExpired();) {
-    XSync(To, False);
-    if (PlaceOnServer(Window).size() == Wanted.size()) break;
+  for (const QDeadlineTimer Limit(LongestWait); PlaceOnServer(Window).size() != Wanted.size();) {
+    if (!Window.isVisible() || Limit.hasExpired()) break;
     QThread::msleep(LookEvery);
   }
   XSetWindowBackgroundPixmap(To, Window.winId(), None);
