@@ -36,7 +36,7 @@ constexpr SDL_AudioSpec DeviceForm{44100, AUDIO_S16SYS, 2, {}, 1024, {}, {}, {},
 struct SoundLibrary {
   /// A device that calls `Feed` for its samples; 0 when there is none.
   SDL_AudioDeviceID Open(SDL_AudioCallback Feed, void* Player) const;
-  void Close() const;
+  void Close(SDL_AudioDeviceID Device) const;
   bool Works(SDL_AudioDeviceID Device) const { return GetAudioDeviceStatus(Device) != SDL_AUDIO_STOPPED; }
   /// The samples of a wave file as the device takes them; nothing for what is no wave.
   QByteArray InDeviceForm(const QByteArray& File) const;
@@ -55,6 +55,7 @@ struct SoundLibrary {
   decltype(&SDL_AudioInit) AudioInit = Find("SDL_AudioInit");
   decltype(&SDL_AudioQuit) AudioQuit = Find("SDL_AudioQuit");
   decltype(&SDL_OpenAudioDevice) OpenAudioDevice = Find("SDL_OpenAudioDevice");
+  decltype(&SDL_CloseAudioDevice) CloseAudioDevice = Find("SDL_CloseAudioDevice");
   decltype(&SDL_PauseAudioDevice) PauseAudioDevice = Find("SDL_PauseAudioDevice");
   decltype(&SDL_GetAudioDeviceStatus) GetAudioDeviceStatus = Find("SDL_GetAudioDeviceStatus");
   decltype(&SDL_RWFromConstMem) RWFromConstMem = Find("SDL_RWFromConstMem");
@@ -83,9 +84,10 @@ SDL_AudioDeviceID SoundLibrary::Open(SDL_AudioCallback Feed, void* Player) const
   return Device;
 }
 
-void SoundLibrary::Close() const {
+void SoundLibrary::Close(SDL_AudioDeviceID Device) const {
   if (!file.isLoaded()) return;
-  AudioQuit();  // closes the device, too
+  CloseAudioDevice(Device);
+  AudioQuit();
   TLSCleanup();  // what the library keeps for this thread
 }
 
@@ -165,7 +167,7 @@ void Sounds::Player::Run() {
       sound.clear();  // of a device that has hung up
     }
     Lock.unlock();
-    Library.Close();
+    Library.Close(Device);
     Lock.lock();
   }  // a sound can be asked for while the device closes
   running = false;

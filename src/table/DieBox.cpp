@@ -15,7 +15,6 @@ constexpr QRect FeltPlace(0, 0, 359, 50);  // in a tray: its right and lower edg
 
 DieBox::DieBox(int Index, Bitmaps& Pictures, QWidget* Parent)
     : QAbstractButton(Parent), index(Index), bitmaps(Pictures) {
-  setAttribute(Qt::WA_Hover);
   setFocusPolicy(Qt::TabFocus);
   hide();
   connect(this, &QAbstractButton::clicked, this, [this] { emit mouseUp(index, Qt::LeftButton); });
@@ -89,7 +88,7 @@ void DiceTray::paintEvent(QPaintEvent*) {
   Painter.drawPixmap(Place.topLeft(), Felt(FeltPlace.size(), backColor, devicePixelRatioF()));
   Painter.setClipRect(Place);
   for (const DieBox* Die : findChildren<DieBox*>(Qt::FindDirectChildrenOnly)) {
-    if (Die->isVisible()) Die->DrawShadow(Painter);
+    if (!Die->isHidden()) Die->DrawShadow(Painter);
   }
 }
 

@@ -13,7 +13,6 @@ constexpr int CaptionSpace = 8;  // px at either side
 
 ButtonPlus::ButtonPlus(const QString& Caption, QWidget* Parent) : QPushButton(Caption, Parent), body(ButtonNavy) {
   setFont(FontOf(Typeface::Verdana, 13));
-  setAttribute(Qt::WA_Hover);
   setAutoDefault(true);  // Enter presses it, too
 }
 

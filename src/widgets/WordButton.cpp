@@ -9,7 +9,6 @@
 namespace blunko {
 
 WordButton::WordButton(const QString& Caption, QWidget* Parent) : QPushButton(Caption, Parent) {
-  setAttribute(Qt::WA_Hover);
   setCursor(Qt::PointingHandCursor);
   setFocusPolicy(Qt::TabFocus);
   setAutoDefault(true);  // Enter presses it, too

@@ -98,7 +98,7 @@ TEST_F(NewGame, OpensWithWhatWasSavedPlaysWhatIsShownAndTakesTheRestartWords) {
   });
   EXPECT_EQ(Told([&] { Form.chkComputer[0]->click(), Click(Form.cmdPlay); }),
             "1 10000 1000, Player1 *Normal, Computer *Moron");
-  EXPECT_EQ(At.TakeLog("beep").size(), 4U) << "when it is made anew, and at Save";
+  EXPECT_EQ(At.TakeLog("beep").size(), 4U) << "three times at loading, once at Save";
 }
 
 }  // namespace blunko::test

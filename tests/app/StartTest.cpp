@@ -138,7 +138,7 @@ TEST_F(Playing, TheTableIsAsKeptInEveryStateAndDiesWithoutAQuestion) {
   Run->Controls.Busted = true;
   Form.Wears.TextColour = 0xFFFFFF;  // letters that stand out by their edge alone
   for (QWidget* Part : Form.findChildren<QWidget*>()) Part->setAttribute(Qt::WA_UnderMouse);
-  Form.cmdHighRollers->setDown(true);
+  Form.cmdHighRollers->setDown(true), Form.lblMnuHelp->setDown(true);
   Form.cmdExit->setText("A caption that is too long");
   Form.ShowControls();
   ExpectAsKept(Form, "-last-turn");
