@@ -78,7 +78,7 @@ SvgBox::SvgBox(const QString& Resource, QWidget* Parent)
 
 void SvgBox::paintEvent(QPaintEvent*) {
   const qreal Scale = devicePixelRatioF();
-  if (drawn.isNull() || drawn.size() != (QSizeF(size()) * Scale).toSize()) drawn = RenderSvg(resource, Scale, size());
+  if (drawn.size() != (QSizeF(size()) * Scale).toSize()) drawn = RenderSvg(resource, Scale, size());
   QPainter(this).drawPixmap(0, 0, drawn);
 }
 
