@@ -108,7 +108,8 @@ std::string frmCustomizeSounds::PickFile(const QString& Title) {
     Begin = QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
     if (!QFileInfo(Begin).isDir()) Begin = QDir::homePath();
   }
-  const QString Path = QFileDialog::getOpenFileName(this, Title, Begin, "Wav Files (*.wav)");
+  const QString Path =
+      QFileDialog::getOpenFileName(this, Title, Begin, "Wav Files (*.wav)", nullptr, QFileDialog::ReadOnly);
   return Path.isEmpty() ? NothingPicked : QFile::encodeName(Path).toStdString();
 }
 

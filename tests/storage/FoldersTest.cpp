@@ -52,6 +52,7 @@ TEST_F(FoldersTest, TemporaryFolderIsPrivateAndTheSameAtEveryStart) {
   Set("XDG_CACHE_HOME", "/proc");
   Set("TMPDIR", place.Path("none"));
   EXPECT_EQ(GetTempFolder(), "");
+  qunsetenv("TMPDIR");
 }
 
 TEST_F(FoldersTest, StateLiesBesideTheProgramOrWithTheUser) {
