@@ -2,6 +2,8 @@
 set -euo pipefail
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM QT_SCALE_FACTOR DBUS_SESSION_BUS_ADDRESS
 export LC_ALL=C.UTF-8 SDL_AUDIODRIVER=dummy
+leaks=$(dirname "$(realpath "${BASH_SOURCE[0]}")")/leaks.supp
+export LSAN_OPTIONS="${LSAN_OPTIONS:+$LSAN_OPTIONS:}suppressions=$leaks:print_suppressions=0"
 work=$(mktemp -d)
 pids=()
 cleanup() {
