@@ -271,6 +271,9 @@ void OptionsPanel::ApplyOptions() {
     if (lblColor[i]->isChecked()) settings.setTextColourIndex(i);
   }
   form.Wears.TextColour = settings.TextColour();
+  if (const DiceSet* Set = FindDiceSet(cboDiceColor->currentText())) {
+    settings.DieColour = static_cast<std::int16_t>(Set->Base);  // another copy may have written its own meanwhile
+  }
 }
 
 void OptionsPanel::RevertOptions() {

@@ -78,6 +78,7 @@ TEST(OptionsPanel, SaveKeepsEveryChoiceAndCancelTakesItBack) {
     QTest::keyClick(Panel.lblColor[7], Qt::Key_Left);
     EXPECT_EQ(Ink(), QColor(128, 255, 255)) << "the text is paler than the swatch";
     EXPECT_EQ(Form.Picture1[4]->Picture(), 154 + 5) << "the sample shows the clicked set";
+    IniInfo(Dressed.Where.InfoPath()).WriteInfoValue("DieColor", "100");  // another copy's
     Dressed.Close(Save);
 
     const std::string Text = Dressed.Folder.Get("Game.ini").replace(Dressed.Folder.Path().toUtf8(), "").toStdString();
