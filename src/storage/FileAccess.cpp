@@ -134,18 +134,16 @@ FileLock::FileLock(const QString& Path) : name(QFile::encodeName(RealPath(Path) 
   const QDeadlineTimer End(LongestWait);
   do {
     handle = Open(O_CREAT | O_EXCL);
-    if (handle >= 0) {
+    if (IsHeld()) {
       KeepOwnerAndMode(Path, handle, 0222);
     } else {
       if (errno != EEXIST) return;
       handle = Open(0);
-      const bool Gone =
-          handle < 0 && (errno == ENOENT || (errno == EISDIR && SetAside(QFile::decodeName(name), "lock")));
-      if (handle < 0 && !Gone) return;
+      if (!IsHeld() && errno != ENOENT && !(errno == EISDIR && SetAside(QFile::decodeName(name), "lock"))) return;
     }
     // Who held it before has taken it away with its name.
-    if (handle >= 0 && TEMP_FAILURE_RETRY(flock(handle, LOCK_EX | LOCK_NB)) == 0 && Bears(name, handle)) return;
-    if (handle >= 0) close(std::exchange(handle, -1));
+    if (IsHeld() && TEMP_FAILURE_RETRY(flock(handle, LOCK_EX | LOCK_NB)) == 0 && Bears(name, handle)) return;
+    if (IsHeld()) close(std::exchange(handle, -1));
     QThread::usleep(TryEvery);
   } while (!End.hasExpired());
 }

@@ -26,8 +26,7 @@ bool IsOurSection(const QByteArray& Line) {
 }
 
 bool HoldsKey(const QByteArray& Line, const QByteArray& Key) {
-  const qsizetype Equals = Line.indexOf('=');
-  return Equals > 0 && Line.left(Equals).trimmed().compare(Key, Qt::CaseInsensitive) == 0;
+  return Line.left(Line.indexOf('=')).trimmed().compare(Key, Qt::CaseInsensitive) == 0;
 }
 
 /// Where a key's value stands in the text; or, with a negative length, where a line for the key belongs: behind the

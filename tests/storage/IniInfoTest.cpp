@@ -51,6 +51,8 @@ TEST_F(IniInfoTest, WritesAtOnceOrTogetherAndLeavesNothingBeside) {
   for (const char* InTheWay : {"real.ini.lock/a", "real.ini.saving/a"}) place.Put(InTheWay, "");
   place.Chmod("", 0300);
   Info.WriteInfoValue("Names", "A");
+  QThread::msleep(50);
+  EXPECT_EQ(Info.ReadInfoValue("Names"), "A");
   {
     const IniInfo Copy = Info;
     const WrittenTogether Save(Copy), Inner(Info);
