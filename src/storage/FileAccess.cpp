@@ -10,6 +10,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <tuple>
 #include <unistd.h>
 #include <utility>
 
@@ -39,7 +40,9 @@ void KeepOwnerAndMode(const QString& Old, int New, mode_t Mask) {
   struct stat Found {};
   if (stat(QFile::encodeName(Old).constData(), &Found) != 0) return;
   fchmod(New, Found.st_mode & Mask);
-  static_cast<void>(fchown(New, Found.st_uid, Found.st_gid) == 0 || fchown(New, -1, Found.st_gid) == 0);
+  // One after the other: who can't give a file away can still leave it to its group.
+  std::ignore = fchown(New, Found.st_uid, -1);
+  std::ignore = fchown(New, -1, Found.st_gid);
 }
 
 /// Whether the name is still that of the open file.
@@ -72,18 +75,16 @@ std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit, FileS
   // A pipe is opened, too, and then looked at: whoever looks first may open something else.
   const QByteArray Name = QFile::encodeName(Path);
   const int Handle = TEMP_FAILURE_RETRY(open(Name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-  if (Handle < 0) {
+  if (Handle == -1) {
     if ((errno == ENOENT || errno == ENOTDIR) && !LeadsNowhere(Path)) return Failed(FileState::Missing);
     return Failed(errno == ENXIO || errno == ENODEV ? FileState::Foreign : FileState::Unreadable);
   }
-  QFile File;
+  QFile File;  // which closes it
   struct stat Info {};
-  const bool Known = fstat(Handle, &Info) == 0;
-  const bool Plain = S_ISREG(Info.st_mode) && Info.st_size <= Limit;
-  if (!Known || !Plain || !File.open(Handle, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
-    close(Handle);
-    return Failed(Known && !Plain ? FileState::Foreign : FileState::Unreadable);
+  if (!File.open(Handle, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) || fstat(Handle, &Info) != 0) {
+    return Failed(FileState::Unreadable);
   }
+  if (!S_ISREG(Info.st_mode) || Info.st_size > Limit) return Failed(FileState::Foreign);
   QByteArray Bytes = File.read(Limit + 1);
   if (File.error() != QFileDevice::NoError) return Failed(FileState::Unreadable);
   if (Bytes.size() > Limit) return Failed(FileState::Foreign);
@@ -113,7 +114,7 @@ bool ReplaceFile(const QString& Path, const QByteArray& Bytes) {
   }
   const QByteArray FolderName = QFile::encodeName(QFileInfo(Target).absolutePath());
   const int Folder = TEMP_FAILURE_RETRY(open(FolderName.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (Folder >= 0) {
+  if (Folder != -1) {
     SyncFile(Folder);
     close(Folder);
   }

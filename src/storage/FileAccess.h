@@ -49,7 +49,7 @@ class FileLock {
   ~FileLock();
   Q_DISABLE_COPY_MOVE(FileLock)
   /// False: the file must be left alone.
-  bool IsHeld() const { return handle >= 0; }
+  bool IsHeld() const { return handle != -1; }
 
  private:
   const QByteArray name;

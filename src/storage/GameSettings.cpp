@@ -16,8 +16,8 @@ constexpr char TextColorKey[] = "TextColor";
 constexpr char PlayToScoreKey[] = "defPlayToScore";
 constexpr char BreakInScoreKey[] = "defBreakInScore";
 
-constexpr std::array<std::uint32_t, 8> TextColours{0x000000, 0x0000FF, 0x00FF00, 0x00FFFF,
-                                                   0xFF0000, 0xFF00FF, 0xFFFF80, 0xFFFFFF};
+constexpr auto TextColours =
+    std::to_array<std::uint32_t>({0x000000, 0x0000FF, 0x00FF00, 0x00FFFF, 0xFF0000, 0xFF00FF, 0xFFFF80, 0xFFFFFF});
 constexpr int White = 7;
 
 int IndexOfColour(std::uint32_t Colour) {
@@ -71,12 +71,6 @@ void Write(const IniInfo& Info, const QString& Key, const QString& Value) {
   Info.WriteInfoPath(Key, QFile::encodeName(Value));
 }
 
-int ReadNumber(const IniInfo& Info, const QString& Key) {
-  std::int32_t Number = 0;
-  Read(Info, Key, Number);
-  return Number;
-}
-
 }  // namespace
 
 template <typename T>
@@ -102,8 +96,15 @@ template class Setting<std::int16_t>;
 template class Setting<std::int32_t>;
 template class Setting<QString>;
 
+int ReadNumber(const IniInfo& Info, const QString& Key) {
+  std::int32_t Number = 0;
+  Read(Info, Key, Number);
+  return Number;
+}
+
 std::uint32_t ColourOfIndex(int Index) {
-  return Index >= 1 && Index <= 7 ? TextColours[static_cast<std::size_t>(Index)] : 0;
+  const auto Place = static_cast<std::size_t>(Index);
+  return Place < TextColours.size() ? TextColours[Place] : 0;
 }
 
 int ReadScale(const IniInfo& Info) {

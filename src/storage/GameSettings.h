@@ -21,6 +21,9 @@ inline constexpr char ShowWelcomeMessageKey[] = "ShowWelcomeMessage";
 /// "No picture", as the info file writes it.
 inline const QString NoBackground = QStringLiteral("(None)");
 
+/// The whole number under a key; 0 where there is none.
+int ReadNumber(const IniInfo& Info, const QString& Key);
+
 /// Size on the screen in per cent, 100 to 400; to be asked before the toolkit starts.
 int ReadScale(const IniInfo& Info);
 

@@ -26,12 +26,10 @@ QStringList FieldsOf(const IniInfo& Info, const QString& Key, const char* Defaul
   return Text.split(FieldSeparator);
 }
 
-/// The file counts the styles from 0.
+/// The file counts the styles from 0, which is also what is read where there is no number.
 std::uint8_t StyleOf(const QString& Field) {
-  bool IsNumber = false;
-  const int Style = Field.trimmed().toInt(&IsNumber) + Normal;
-  return IsNumber && Style >= Normal && Style <= std::ssize(StyleWords) ? static_cast<std::uint8_t>(Style)
-                                                                        : std::uint8_t{Normal};
+  const int Style = Field.trimmed().toUShort() + Normal;
+  return Style <= std::ssize(StyleWords) ? static_cast<std::uint8_t>(Style) : std::uint8_t{Normal};
 }
 
 }  // namespace
@@ -46,9 +44,8 @@ GameSetup SetupForPlayers(int NumPlayers) {
 
 GameSetup ReadSetup(const IniInfo& Info, const GameSettings& Settings) {
   const WrittenTogether Defaults(Info);
-  bool IsNumber = false;
-  const int Count = Info.ReadInfoValue(CountKey, QStringLiteral("1")).trimmed().toInt(&IsNumber);
-  GameSetup Setup = SetupForPlayers(IsNumber && Count >= 1 && Count <= MaxSeats ? Count : 1);
+  const int Count = ReadNumber(Info, CountKey);
+  GameSetup Setup = SetupForPlayers(Count >= 1 && Count <= MaxSeats ? Count : 1);
   Setup.PlayToScore = static_cast<std::int16_t>(Settings.ReadPlayToScore());
   Setup.BreakInScore = static_cast<std::int16_t>(Settings.ReadBreakInScore());
 

@@ -14,11 +14,10 @@ struct FoldersTest : testing::Test {
     place.Mkdir("", 0755);
     Set("HOME", place.Mkdir("home", 0777));
     Set("XDG_RUNTIME_DIR", place.Mkdir("run", 0700));
-    Set("XDG_CACHE_HOME", place.Path("home/cache"));
-    Set("XDG_CONFIG_HOME", place.Path("home/config"));
-    Set("XDG_DATA_HOME", place.Path("home/data"));
+    for (const QString Kind : {"CACHE", "CONFIG", "DATA"})
+      Set("XDG_" + Kind + "_HOME", place.Path("home/" + Kind.toLower()));
   }
-  static void Set(const char* Name, const QString& Value) { qputenv(Name, QFile::encodeName(Value)); }
+  static void Set(const QString& Name, const QString& Value) { qputenv(Name.toLatin1(), QFile::encodeName(Value)); }
   /// Where a program finds its files, and what its info file and its lists hold.
   std::string Start(const QString& Program) const {
     const Unprivileged Nobody(place);

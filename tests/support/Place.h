@@ -19,9 +19,9 @@ class Place {
     if (!QDir().mkpath(QFileInfo(File).path()) || !File.open(QIODevice::WriteOnly) || File.write(Bytes) < 0) abort();
     return Path(Name);
   }
-  /// A pipe that nobody serves.
-  QString Pipe(const QString& Name) const {
-    if (mkfifo(QFile::encodeName(Path(Name)).constData(), 0600) != 0) abort();
+  /// A pipe that nobody serves, or a socket.
+  QString Pipe(const QString& Name, mode_t Kind = S_IFIFO) const {
+    if (mknod(QFile::encodeName(Path(Name)).constData(), Kind | 0600, 0) != 0) abort();
     return Path(Name);
   }
   QByteArray Get(const QString& Name) const {

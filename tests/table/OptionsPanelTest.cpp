@@ -65,6 +65,7 @@ TEST(OptionsPanel, SaveKeepsEveryChoiceAndCancelTakesItBack) {
     OptionsPanel& Panel = *Dressed.Panel;
     frmMain& Form = Dressed.Form;
     const auto Ink = [&Form] { return Form.lblStatus->palette().color(QPalette::WindowText); };
+    const auto Ground = [&Form] { return Form.Image1->grab().toImage().pixelColor(1, 1); };
     Form.cmdOptions->click();
     Panel.optComputerSpeed[2]->click();
     Panel.chkSortDice->click();
@@ -86,16 +87,13 @@ TEST(OptionsPanel, SaveKeepsEveryChoiceAndCancelTakesItBack) {
                            "MarkScorers=False\nBackground=/Background/Forest.jpg\n"
                          : "[Info]\nTextColor=3\nDieColor=112\nBackground=/Background/Satin.jpg\n");
     EXPECT_EQ(Ink(), Save ? QColor(128, 255, 255) : QColor(255, 255, 0));
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-      return (Form.Image1->grab().toImage().pixelColor(1, 1).lightness() < 128) == Save;
-    })) << "the background";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return (Ground().lightness() < 128) == Save; })) << "the background";
     Dressed.Folder.Put("Background/Forest.jpg", "no picture");
     Form.cmdOptions->click();
     EXPECT_EQ(Panel.lstSkin->currentRow(), Save ? 1 : 2) << "(None), Forest, Satin";
     Panel.lstSkin->setCurrentRow(1);
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-      return Form.Image1->grab().toImage().pixelColor(0, 0) == Form.Image1->palette().color(QPalette::Window);
-    })) << "plain";
+    const QColor Plain = Form.Image1->palette().color(QPalette::Window);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Ground() == Plain; })) << "plain";
     Dressed.Close(false);
     EXPECT_EQ(Form.Picture1[4]->Picture(), 0) << "no game, no dice";
     EXPECT_EQ(QApplication::focusWidget(), Form.ARCmdNewGame);
