@@ -95,7 +95,8 @@ std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit, FileS
 FileStamp StampOf(const QString& Path) {
   struct stat Found {};
   if (stat(QFile::encodeName(Path).constData(), &Found) != 0) return {};
-  return {Found.st_dev, Found.st_ino, Found.st_size, Found.st_ctim.tv_sec * 1'000'000'000LL + Found.st_ctim.tv_nsec};
+  const std::chrono::seconds Changed(Found.st_ctim.tv_sec);
+  return {Found.st_dev, Found.st_ino, Found.st_size, Changed + std::chrono::nanoseconds(Found.st_ctim.tv_nsec)};
 }
 
 bool ReplaceFile(const QString& Path, const QByteArray& Bytes) {

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <chrono>
 #include <optional>
 
 namespace blunko {
@@ -23,7 +24,7 @@ std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit = Larg
 struct FileStamp {
   quint64 Device = 0, Number = 0;  ///< which file it is; 0 where there is none
   qint64 Size = -1;
-  qint64 Changed = 0;  ///< ns since 1970
+  std::chrono::nanoseconds Changed{};  ///< since 1970
   bool operator==(const FileStamp&) const = default;
 };
 FileStamp StampOf(const QString& Path);

@@ -1,19 +1,21 @@
 #include "storage/IniInfo.h"
 
-#include <QDateTime>
 #include <QList>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <utility>
 
 #include "storage/FileAccess.h"
 
+using namespace std::chrono_literals;
+
 namespace blunko {
 
 namespace {
 
-constexpr qint64 ClockStep = 20;  // ms: the longest time in which a file system's clock may stand still
+constexpr auto ClockStep = 20ms;  // the longest time in which a file system's clock may stand still
 const QByteArray Section = "Info";
 const QByteArray ByteOrderMark = "\xEF\xBB\xBF";
 
@@ -29,26 +31,25 @@ bool HoldsKey(const QByteArray& Line, const QByteArray& Key) {
   return Line.left(Line.indexOf('=')).trimmed().compare(Key, Qt::CaseInsensitive) == 0;
 }
 
-/// Where a key's value stands in the text; or, with a negative length, where a line for the key belongs: behind the
-/// last written line of our section, or nowhere (-1) without one.
+/// Where a key's value stands in the text; or, without a length, where a line for the key belongs: behind the last
+/// written line of our section, or nowhere without one.
 struct Spot {
-  qsizetype At = -1;
-  qsizetype Length = -1;
+  std::optional<qsizetype> At, Length;
 };
 
 Spot FindSpot(const QByteArray& Text, const QByteArray& Key) {
   Spot New;
   bool Inside = false;
-  for (qsizetype From = IsUtf8(Text) ? ByteOrderMark.size() : 0, End = 0; From < Text.size(); From = End) {
+  for (qsizetype From = IsUtf8(Text) ? ByteOrderMark.size() : 0, End = From; From < Text.size(); From = End) {
     const qsizetype LineEnd = Text.indexOf('\n', From);
     End = LineEnd < 0 ? Text.size() : LineEnd + 1;
-    const QByteArray Line = Text.mid(From, End - From);
+    const QByteArray Line = Text.sliced(From, End - From);
     if (Line.trimmed().startsWith('[')) {
-      Inside = IsOurSection(Line) && New.At < 0;
+      Inside = IsOurSection(Line) && !New.At;
       if (Inside) New.At = End;
     } else if (Inside && HoldsKey(Line, Key)) {
-      const qsizetype At = From + Line.indexOf('=') + 1, Past = LineEnd < 0 ? End : LineEnd;
-      return {At, Past - At - (LineEnd > At && Text[LineEnd - 1] == '\r' ? 1 : 0)};
+      const qsizetype At = From + Line.indexOf('=') + 1;
+      return {At, End - At - Line.endsWith('\n') - Line.endsWith("\r\n")};
     } else if (Inside && !Line.trimmed().isEmpty()) {
       New.At = End;
     }
@@ -70,21 +71,20 @@ QByteArray Coded(QByteArray Bytes) {
 
 QByteArray FindBytes(const QByteArray& Text, const QString& Key) {
   const Spot Found = FindSpot(Text, Key.toLatin1());
-  if (Found.Length < 0) return {};
-  const QByteArray Value = Text.mid(Found.At, Found.Length).trimmed();
+  if (!Found.Length) return {};
+  const QByteArray Value = Text.sliced(*Found.At, *Found.Length).trimmed();
   return IsQuoted(Value) ? Value.mid(1, Value.size() - 2) : Value;
 }
 
 QByteArray WithBytes(QByteArray Text, const QString& Key, const QByteArray& Value) {
   const QByteArray LineEnd = Text.contains("\r\n") ? "\r\n" : "\n";
-  auto [At, Length] = FindSpot(Text, Key.toLatin1());
-  if (Length >= 0) return Text.replace(At, Length, Coded(Value));
+  const auto [Found, Length] = FindSpot(Text, Key.toLatin1());
+  if (Length) return Text.replace(*Found, *Length, Coded(Value));
+  const qsizetype At = Found.value_or(Text.size());
   QByteArray Line = Key.toLatin1() + '=' + Coded(Value) + LineEnd;
-  if (At < 0) {
-    At = Text.size();
-    Line.prepend('[' + Section + ']' + LineEnd);
-  }
-  const bool Open = At > 0 && Text[At - 1] != '\n' && Text != ByteOrderMark;
+  if (!Found) Line.prepend('[' + Section + ']' + LineEnd);
+  const QByteArray Before = Text.first(At);
+  const bool Open = !Before.isEmpty() && !Before.endsWith('\n') && Before != ByteOrderMark;
   return Text.insert(At, Open ? LineEnd + Line : Line);
 }
 
@@ -166,7 +166,7 @@ const QByteArray& IniInfo::File::Text() {
   text = WithAll(Load(false).value_or(QByteArray()), unsaved);
   stamp = Now;
   // What was read the moment after it changed may change once more and look the same.
-  known = QDateTime::currentMSecsSinceEpoch() - Now.Changed / 1'000'000 > ClockStep;
+  known = std::chrono::system_clock::now().time_since_epoch() - Now.Changed > ClockStep;
   return text;
 }
 

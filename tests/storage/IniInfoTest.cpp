@@ -23,7 +23,7 @@ TEST(IniText, FindsAKeyInWhatPeopleWriteAndChangesNothingElse) {
       {"\n [INFO]  ; mine\n;Key=0\n\tkEY  =  1\t\nA=1", "1", "\n [INFO]  ; mine\n;Key=0\n\tkEY  =new\nA=1"},
       {"[Info]\r\nA=1", "", "[Info]\r\nA=1\r\nKey=new\r\n"},
       {"[X]\r\nKey=1", "", "[X]\r\nKey=1\r\n[Info]\r\nKey=new\r\n"},
-      {"[Info]\nKey=1\nKey=2\n", "1", "[Info]\nKey=new\nKey=2\n"},
+      {"[Info]\r\nKey=1\r\nKey=2\r\n", "1", "[Info]\r\nKey=new\r\nKey=2\r\n"},
       {"[Info]\nMyKey=\xA4\nKey 4\n\n[Y]\nKey=3\n", "", "[Info]\nMyKey=\xA4\nKey 4\nKey=new\n\n[Y]\nKey=3\n"},
       {"[Info]\nA=1\n[Y]\n[Info]\nKey=3\n", "", "[Info]\nA=1\nKey=new\n[Y]\n[Info]\nKey=3\n"},
       {"[Info]\r\nKey=\"  a  \"\nB=2\r\n", "  a  ", "[Info]\r\nKey=new\nB=2\r\n"},
@@ -32,7 +32,8 @@ TEST(IniText, FindsAKeyInWhatPeopleWriteAndChangesNothingElse) {
     EXPECT_EQ(IniInfo::FindValue(Before, "Key"), QLatin1String(Value)) << Before;
     EXPECT_EQ(IniInfo::WithValue(Before, "Key", "new"), After) << Before;
   }
-  EXPECT_EQ(IniInfo::WithValue("", "Key", "\u00A4\u65E5"), "[Info]\nKey=\xA4?\n");
+  EXPECT_EQ(IniInfo::WithValue("", "Key", QString::fromUtf16(u" \u00A4\u65E5\n\r\0.", 7)),
+            "[Info]\nKey=\" \xA4?   .\"\n");
   EXPECT_EQ(IniInfo::WithValue("\xEF\xBB\xBF[Info]\n", "Key", "\u65E5"), "\xEF\xBB\xBF[Info]\nKey=\xE6\x97\xA5\n");
 }
 
