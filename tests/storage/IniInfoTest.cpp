@@ -32,8 +32,7 @@ TEST(IniText, FindsAKeyInWhatPeopleWriteAndChangesNothingElse) {
     EXPECT_EQ(IniInfo::FindValue(Before, "Key"), QLatin1String(Value)) << Before;
     EXPECT_EQ(IniInfo::WithValue(Before, "Key", "new"), After) << Before;
   }
-  EXPECT_EQ(IniInfo::WithValue("", "Key", QString::fromUtf16(u" \u00A4\u65E5\n\r\0.", 7)),
-            "[Info]\nKey=\" \xA4?   .\"\n");
+  EXPECT_EQ(IniInfo::WithValue("", "Key", QStringLiteral(" \u00A4\u65E5\n\r\0.")), "[Info]\nKey=\" \xA4?   .\"\n");
   EXPECT_EQ(IniInfo::WithValue("\xEF\xBB\xBF[Info]\n", "Key", "\u65E5"), "\xEF\xBB\xBF[Info]\nKey=\xE6\x97\xA5\n");
 }
 
