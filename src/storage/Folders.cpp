@@ -30,7 +30,7 @@ QString InstalledFiles(const QString& Program) {
 
 /// The file is copied while there is none in its new place; the old one stays for whoever shares it.
 void TakeOver(const QString& From, const QString& To) {
-  if (From == To || QFileInfo::exists(To)) return;
+  if (QFileInfo::exists(To)) return;
   const FileLock Lock(To);
   const auto Bytes = ReadWholeFile(From);
   if (Lock.IsHeld() && Bytes && !QFileInfo::exists(To)) ReplaceFile(To, *Bytes);

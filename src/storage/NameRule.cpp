@@ -21,7 +21,7 @@ QString FoldOf(char32_t Letter) {
   QString Held;
   const QString Parts = QString::fromUcs4(&Letter, 1).normalized(QString::NormalizationForm_KD);
   for (const QChar Part : Parts) {
-    if (IsNameLetter(Part)) Held += Part;
+    if (IsNameLetter(Part.unicode())) Held += Part;
   }
   return Held;
 }
@@ -31,8 +31,7 @@ QString FoldOf(char32_t Letter) {
 QString HeldToNameRule(const QString& Text) {
   QString Held;
   for (const char32_t Letter : Text.normalized(QString::NormalizationForm_C).toUcs4()) {
-    const bool Plain = Letter <= 0xFF && IsNameLetter(QChar(static_cast<char16_t>(Letter)));
-    Held += Plain ? QString(QChar(static_cast<char16_t>(Letter))) : FoldOf(Letter);
+    Held += IsNameLetter(Letter) ? QString::fromUcs4(&Letter, 1) : FoldOf(Letter);
   }
   return Held;
 }

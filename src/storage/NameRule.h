@@ -14,10 +14,9 @@ inline constexpr QChar FieldSeparator(0xA4);
 
 /// Whether a name may hold the letter: the game's files carry the letters of Latin-1, but for the separator, control
 /// characters, the soft hyphen, which nobody sees, and the last one, which doesn't survive the scrambling of the lists.
-constexpr bool IsNameLetter(QChar Letter) {
-  const char16_t Code = Letter.unicode();
-  return (Code >= 0x20 && Code < 0x7F) ||
-         (Code >= 0xA0 && Code < 0xFF && Letter != FieldSeparator && Letter != QChar::SoftHyphen);
+constexpr bool IsNameLetter(char32_t Letter) {
+  return (Letter >= 0x20 && Letter < 0x7F) ||
+         (Letter >= 0xA0 && Letter < 0xFF && Letter != FieldSeparator.unicode() && Letter != QChar::SoftHyphen);
 }
 
 /// The text as a name can hold it: other letters are folded to their base letters ("Łukasz" to "Lukasz"), and left out

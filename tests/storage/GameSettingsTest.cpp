@@ -91,7 +91,7 @@ TEST_F(GameSettingsTest, AHandEditedSetupTakesTheDefaultForEachUnusableField) {
       {"3", "A|B|~|", "False|True|~|", "00|2|22|", "A B*3 Player3"},
       {"8", "A|", "True|", "x|", "A*1 Player2 Player3 Player4 Player5 Player6 Player7 Player8"},
       {"2", "A|B|", "true|True|", "1|7|", "A B*1"},
-      {"2", "A\t\xF6\xAD\xFF|FifteenLettersX|", "|", "|", "A\u00F6y FifteenLetters"},
+      {"2", "A ~\x7F\t\xA0\xFE\xF6\xAD\xFF|FifteenLettersX|", "|", "|", "A ~\u00A0\u00FE\u00F6y FifteenLetters"},
       {"2", "|\t\xAD|", "|", "|", " Player2"}};
   for (const auto& Row : Rows) {
     const QByteArray Text = QByteArray("defNumPlayers=") + Row[0] + "\ndefPlayerNameString=" + Row[1] +
