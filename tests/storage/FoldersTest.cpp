@@ -51,6 +51,10 @@ TEST_F(FoldersTest, TemporaryFolderIsPrivateAndTheSameAtEveryStart) {
   Set("XDG_CACHE_HOME", "/proc");
   Set("TMPDIR", place.Path("none"));
   EXPECT_EQ(GetTempFolder(), "");
+  Set("TMPDIR", place.Mkdir("tmp", 0777));
+  const QString Last = GetTempFolder();
+  EXPECT_TRUE(Last.startsWith(place.Path("tmp/tollmoor-blunko-")) && QFile::permissions(Last) == Private);
+  EXPECT_EQ(GetTempFolder(), Last) << "by its owner";
   qunsetenv("TMPDIR");
 }
 

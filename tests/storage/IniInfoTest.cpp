@@ -140,9 +140,7 @@ TEST_F(IniInfoTest, WhatCannotBeSavedIsToldOnceHoldsForTheRunAndGoesWithTheNextW
 /// Two copies write without a pause, and one of them is killed at any moment: each saves one key after the other, and
 /// none is missing. Neither a lock nor litter is left.
 TEST_F(IniInfoTest, CopiesLoseNothingOfEachOtherEvenWhenKilled) {
-  const auto Line = [](char Copy, int Run, int i) {
-    return QByteArray("\n") + Copy + QByteArray::number(1000 * Run + i);
-  };
+  const auto Line = [](char Of, int Run, int i) { return QByteArray("\n") + Of + QByteArray::number(1000 * Run + i); };
   const auto Save = [&](const QByteArray& Key) {
     do Info.WriteInfoValue(Key.mid(1), "1");
     while (!place.Get("x.ini").contains(Key + '='));  // the other copy may have held the lock for too long
