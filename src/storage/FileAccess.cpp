@@ -76,8 +76,8 @@ std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit, FileS
   const QByteArray Name = QFile::encodeName(Path);
   const int Handle = TEMP_FAILURE_RETRY(open(Name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
   if (Handle == -1) {
-    if ((errno == ENOENT || errno == ENOTDIR) && !LeadsNowhere(Path)) return Failed(FileState::Missing);
-    return Failed(errno == ENXIO || errno == ENODEV ? FileState::Foreign : FileState::Unreadable);
+    if (errno == ENOENT && !LeadsNowhere(Path)) return Failed(FileState::Missing);
+    return Failed(errno == ENXIO ? FileState::Foreign : FileState::Unreadable);
   }
   QFile File;  // which closes it
   struct stat Info {};

@@ -48,12 +48,12 @@ class Place {
 /// For a while the administrator, whom no mode keeps out, is nobody in particular.
 struct Unprivileged {
   explicit Unprivileged(const Place& Where) {
-    constexpr uid_t Nobody = 65534;
+    constexpr uid_t Id = 65534;
     const QByteArray Folder = QFile::encodeName(Where.Path());
-    if (root && (chown(Folder.constData(), Nobody, Nobody) != 0 || setresuid(Nobody, Nobody, 0) != 0)) abort();
+    if (root && (chown(Folder.constData(), Id, Id) != 0 || setegid(Id) != 0 || setresuid(Id, Id, 0) != 0)) abort();
   }
   ~Unprivileged() {
-    if (root && setresuid(0, 0, 0) != 0) abort();
+    if (root && (setresuid(0, 0, 0) != 0 || setegid(0) != 0)) abort();
   }
   Q_DISABLE_COPY_MOVE(Unprivileged)
   const bool root = geteuid() == 0;
