@@ -133,10 +133,9 @@ TEST(Welcome, TheBoxIsKeptAtOnceAndClosingTellsOfIt) {
 TEST_F(TheProgram, GreetsOnceAndTheHelpOutlivesTheWelcomeAndGoesWithTheGame) {
   HelpWindow* Help = nullptr;
   Next.Expect<frmWelcome>([&](frmWelcome& Form) {
-    const std::pair<ButtonPlus*, const char*> Topics[] = {{Form.cmdLearn, "help/PlayingBlunko.htm"},
-                                                          {Form.cmdPoints, "help/PlayingBlunko.htm#scoring"},
-                                                          {Form.cmdTips, "help/StrategyAndHints.htm"}};
-    for (const auto& [Button, Topic] : Topics) {
+    for (const auto& [Button, Topic] : {std::pair(Form.cmdLearn, "help/PlayingBlunko.htm"),
+                                        {Form.cmdPoints, "help/PlayingBlunko.htm#scoring"},
+                                        {Form.cmdTips, "help/StrategyAndHints.htm"}}) {
       Click(Button);
       for (QWidget* Window : QApplication::topLevelWidgets())
         if (auto* Found = qobject_cast<HelpWindow*>(Window)) Help = Found;

@@ -74,10 +74,11 @@ TEST_F(IniInfoTest, WritesAtOnceOrTogetherAndLeavesNothingBeside) {
   place.Chmod("", 0700);
   EXPECT_EQ(place.Names(), (QStringList{"real.ini", "real.ini.lock.damaged1", "real.ini.saving.damaged1", "x.ini"}));
   Nobody.reset();
-  const auto Owners = [this] { return std::pair(QFileInfo(path).ownerId(), QFileInfo(path).groupId()); };
-  const auto Before = Owners();
-  Info.WriteInfoValue("Names", "D");
-  EXPECT_EQ(Owners(), Before) << "also where the administrator saves it";
+  const auto Owners = [](const QFileInfo& File) { return std::pair(File.ownerId(), File.groupId()); };
+  const auto Before = Owners(QFileInfo(path));
+  Info.WriteInfoValue("Names", "D");  // the administrator
+  const FileLock Held(path);
+  for (const char* Name : {"real.ini", "real.ini.lock"}) EXPECT_EQ(Owners(QFileInfo(place.Path(Name))), Before) << Name;
 }
 
 TEST_F(IniInfoTest, MovesAwayWhatIsNoInfoFile) {
@@ -122,19 +123,19 @@ TEST_F(IniInfoTest, WhatCannotBeSavedIsToldOnceHoldsForTheRunAndGoesWithTheNextW
       const IniInfo Run(path);
       Spoil();
       testing::internal::CaptureStderr();
-      for (const char* Key : {"Key", "Key2"}) Run.WriteInfoValue(Key, "new");
+      for (const char* Key : {"Key", "Key2", "key2"}) Run.WriteInfoValue(Key, "new");
       EXPECT_EQ(QString::fromStdString(testing::internal::GetCapturedStderr()).count('\n'), 1);
       EXPECT_EQ(Run.ReadInfoValue("Key"), "new");
       Mend();
       EXPECT_EQ(place.Get("x.ini"), Text);
       EXPECT_EQ(place.Names(), (QStringList{"real.ini", "x.ini"}));
       Run.WriteInfoValue("Other", "1");
-      EXPECT_EQ(place.Get("real.ini"), Begin + "Key=new\nKey2=new\nOther=1\n");
+      EXPECT_EQ(place.Get("real.ini"), Begin + "Key=new\nkey2=new\nOther=1\n");
       Spoil();
       Run.WriteInfoValue("Last", "1");
       Mend();
     }
-    EXPECT_EQ(place.Get("real.ini"), Begin + "Key=new\nKey2=new\nOther=1\nLast=1\n") << "at the end";
+    EXPECT_EQ(place.Get("real.ini"), Begin + "Key=new\nkey2=new\nOther=1\nLast=1\n") << "at the end";
   }
 }
 

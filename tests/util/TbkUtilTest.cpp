@@ -67,11 +67,10 @@ TEST(UtilCheckVersion, ComparesNumberByNumberAndTakesNothingElse) {
 }
 
 TEST(UtilCheckVersion, ASlowServerHasUntilTheLimit) {
-  const std::tuple<QByteArray, QByteArray, int> Rows[] = {
-      {Ok + "\r\n", QByteArray(5000, '1'), 10 * Patience},  // enough is known at once
-      {Ok + "Content-Length: 5\r\n\r\n2.0", "", 400},
-      {Ok, QByteArray("X-Head: y\r\n").repeated(10000), 400}};
-  for (const auto& [Begin, More, TimeLimit] : Rows) {
+  for (const auto& [Begin, More, TimeLimit] :
+       {std::tuple(Ok + "\r\n", QByteArray(5000, '1'), 10 * Patience),  // enough is known at once
+        {Ok + "Content-Length: 5\r\n\r\n2.0", "", 400},
+        {Ok, QByteArray("X-Head: y\r\n").repeated(10000), 400}}) {
     const Server Target(Begin, true, More);
     const QDeadlineTimer Late(Patience - 100);  // the library's own end waits for 5 s while a server floods it
     EXPECT_EQ(Ask(Target.Address, TimeLimit), TbkUtil::VersionError) << Begin.constData();
