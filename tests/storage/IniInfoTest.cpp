@@ -118,9 +118,10 @@ TEST_F(IniInfoTest, WhatCannotBeSavedIsToldOnceHoldsForTheRunAndGoesWithTheNextW
   ASSERT_TRUE(QFile::link("real.ini", path));
   for (const auto& [Why, Spoil, Mend] : Rows) {
     SCOPED_TRACE(Why);
-    place.Put("real.ini", Text);
+    place.Put("real.ini", Begin);
     {
       const IniInfo Run(path);
+      Run.WriteInfoValue("Key", "old");  // told of nothing yet
       Spoil();
       testing::internal::CaptureStderr();
       for (const char* Key : {"Key", "Key2", "key2"}) Run.WriteInfoValue(Key, "new");

@@ -92,8 +92,7 @@ TEST(OptionsPanel, SaveKeepsEveryChoiceAndCancelTakesItBack) {
     Form.cmdOptions->click();
     EXPECT_EQ(Panel.lstSkin->currentRow(), Save ? 1 : 2) << "(None), Forest, Satin";
     Panel.lstSkin->setCurrentRow(1);
-    const QColor Plain = Form.Image1->palette().color(QPalette::Window);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Ground() == Plain; })) << "plain";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Ground() == Form.Image1->palette().color(QPalette::Window); })) << "plain";
     Dressed.Close(false);
     EXPECT_EQ(Form.Picture1[4]->Picture(), 0) << "no game, no dice";
     EXPECT_EQ(QApplication::focusWidget(), Form.ARCmdNewGame);
