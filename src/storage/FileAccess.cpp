@@ -79,7 +79,7 @@ std::optional<QByteArray> ReadWholeFile(const QString& Path, qint64 Limit, FileS
     if (errno == ENOENT && !LeadsNowhere(Path)) return Failed(FileState::Missing);
     return Failed(errno == ENXIO ? FileState::Foreign : FileState::Unreadable);
   }
-  QFile File;  // which closes it
+  QFile File;  // closes the handle, whatever comes
   struct stat Info {};
   if (!File.open(Handle, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) || fstat(Handle, &Info) != 0) {
     return Failed(FileState::Unreadable);
@@ -136,16 +136,16 @@ FileLock::FileLock(const QString& Path) : name(QFile::encodeName(RealPath(Path) 
   const QDeadlineTimer End(LongestWait);
   do {
     handle = Open(O_CREAT | O_EXCL);
-    if (IsHeld()) {
+    if (handle != -1) {
       KeepOwnerAndMode(Path, handle, 0222);
     } else {
       if (errno != EEXIST) return;
       handle = Open(0);
-      if (!IsHeld() && errno != ENOENT && !(errno == EISDIR && SetAside(QFile::decodeName(name), "lock"))) return;
+      if (handle == -1 && errno != ENOENT && !(errno == EISDIR && SetAside(QFile::decodeName(name), "lock"))) return;
     }
     // Who held it before has taken it away with its name.
-    if (IsHeld() && TEMP_FAILURE_RETRY(flock(handle, LOCK_EX | LOCK_NB)) == 0 && Bears(name, handle)) return;
-    if (IsHeld()) close(std::exchange(handle, -1));
+    if (handle != -1 && TEMP_FAILURE_RETRY(flock(handle, LOCK_EX | LOCK_NB)) == 0 && Bears(name, handle)) return;
+    if (handle != -1) close(std::exchange(handle, -1));
     QThread::usleep(TryEvery);
   } while (!End.hasExpired());
 }

@@ -15,7 +15,7 @@ namespace blunko {
 
 namespace {
 
-constexpr auto ClockStep = 20ms;  // the longest time in which a file system's clock may stand still
+constexpr auto ClockStep = 20ms;  // the longest time in which the clock of a usual file system stands still
 const QByteArray Section = "Info";
 const QByteArray ByteOrderMark = "\xEF\xBB\xBF";
 
@@ -27,12 +27,13 @@ bool IsOurSection(const QByteArray& Line) {
   return Name.left(Name.indexOf(']')).trimmed().compare(Section, Qt::CaseInsensitive) == 0;
 }
 
+/// Without an equals sign nothing is left, which is no key.
 bool HoldsKey(const QByteArray& Line, const QByteArray& Key) {
   return Line.left(Line.indexOf('=')).trimmed().compare(Key, Qt::CaseInsensitive) == 0;
 }
 
 /// Where a key's value stands in the text; or, without a length, where a line for the key belongs: behind the last
-/// written line of our section, or nowhere without one.
+/// written line of our section. Where there is no such section it is empty.
 struct Spot {
   std::optional<qsizetype> At, Length;
 };

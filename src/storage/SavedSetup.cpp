@@ -26,10 +26,10 @@ QStringList FieldsOf(const IniInfo& Info, const QString& Key, const char* Defaul
   return Text.split(FieldSeparator);
 }
 
-/// The file counts the styles from 0, which is also what is read where there is no number.
+/// The file counts the styles from 0; what is none counts as Normal.
 std::uint8_t StyleOf(const QString& Field) {
-  const int Style = Field.trimmed().toUShort() + Normal;
-  return Style <= std::ssize(StyleWords) ? static_cast<std::uint8_t>(Style) : std::uint8_t{Normal};
+  const auto Index = Field.trimmed().toUShort();
+  return static_cast<std::uint8_t>(Normal + (Index < StyleWords.size() ? Index : 0));
 }
 
 }  // namespace
